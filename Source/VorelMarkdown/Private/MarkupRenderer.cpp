@@ -1,0 +1,215 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "MarkupRenderer.h"
+
+#include "MarkdownEntities.h"
+#include "MarkdownSource.h"
+
+namespace
+{
+// Twenty em dashes; the glyphs touch and make a line.
+constexpr std::string_view Rule = "\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014"
+								  "\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014";
+
+int32 EstimateMarkupSize(std::string_view Source)
+{
+	return static_cast<int32>(FMath::Min<size_t>(Source.size() + Source.size() / 2, MAX_int32));
+}
+} // namespace
+
+FMarkupRenderer::FMarkupRenderer(std::string_view Source)
+	: Writer(EstimateMarkupSize(Source))
+	, Blocks(Writer)
+	, CodeBlock(Writer, Source)
+	, Addresses(Source.size())
+{
+}
+
+void FMarkupRenderer::EnterBlock(MD_BLOCKTYPE Type, const void* Detail)
+{
+	switch (Type)
+	{
+	case MD_BLOCK_DOC:
+		return;
+	case MD_BLOCK_QUOTE:
+		return Blocks.EnterQuote();
+	case MD_BLOCK_UL:
+		return Blocks.EnterBulletList(static_cast<const MD_BLOCK_UL_DETAIL*>(Detail)->is_tight);
+	case MD_BLOCK_OL:
+	{
+		const auto& List = *static_cast<const MD_BLOCK_OL_DETAIL*>(Detail);
+		return Blocks.EnterNumberedList(List.is_tight, List.start, List.mark_delimiter);
+	}
+	case MD_BLOCK_LI:
+		return Blocks.EnterItem();
+	case MD_BLOCK_HR:
+		return AddRule();
+	case MD_BLOCK_H:
+		return EnterHeading(static_cast<const MD_BLOCK_H_DETAIL*>(Detail)->level);
+	case MD_BLOCK_CODE:
+		return EnterCode();
+	case MD_BLOCK_P:
+		return Blocks.BeginBlock();
+	default:
+		checkNoEntry();
+	}
+}
+
+void FMarkupRenderer::LeaveBlock(MD_BLOCKTYPE Type)
+{
+	switch (Type)
+	{
+	case MD_BLOCK_QUOTE:
+	case MD_BLOCK_UL:
+	case MD_BLOCK_OL:
+		return Blocks.LeaveContainer();
+	case MD_BLOCK_LI:
+		return Blocks.LeaveItem();
+	case MD_BLOCK_H:
+		Heading.Reset();
+		return Blocks.EndHeading();
+	case MD_BLOCK_CODE:
+		bInCodeBlock = false;
+		CodeBlock.End();
+		return Blocks.EndBlock();
+	default:
+		return Blocks.EndBlock();
+	}
+}
+
+void FMarkupRenderer::EnterHeading(unsigned Level)
+{
+	Blocks.BeginBlock();
+	Heading = static_cast<EMarkupBlock>(static_cast<uint8>(EMarkupBlock::Header1) + Level - 1);
+}
+
+void FMarkupRenderer::AddRule()
+{
+	Blocks.BeginBlock();
+	FMarkupStyle Style = Blocks.GetTextStyle();
+	Style.Block = EMarkupBlock::HorizontalRule;
+	Blocks.OpenLine(Style);
+	Writer.Text(Style, Rule);
+}
+
+void FMarkupRenderer::EnterCode()
+{
+	Blocks.BeginBlock();
+	Blocks.OpenCodeLine();
+	CodeBlock.Begin();
+	bInCodeBlock = true;
+}
+
+void FMarkupRenderer::EnterSpan(MD_SPANTYPE Type, const void* Detail)
+{
+	const FMarkupStyle Outer = GetStyle();
+	if (ImageDepth > 0 && Type != MD_SPAN_IMG)
+	{
+		Spans.Add(Outer);
+		return;
+	}
+	switch (Type)
+	{
+	case MD_SPAN_EM:
+		Spans.Add(Outer.With(EMarkupWord::Emphasis));
+		return;
+	case MD_SPAN_STRONG:
+		Spans.Add(Outer.With(EMarkupWord::Strong));
+		return;
+	case MD_SPAN_DEL:
+		Spans.Add(Outer.With(EMarkupWord::Strikethrough));
+		return;
+	case MD_SPAN_CODE:
+		Spans.Add(Outer.With(EMarkupWord::InlineCode));
+		return;
+	case MD_SPAN_A:
+		Spans.Add(Outer.With(EMarkupWord::Link));
+		return Addresses.BeginLink();
+	case MD_SPAN_IMG:
+		Spans.Add(Outer.With(EMarkupWord::Image));
+		return EnterImage();
+	default:
+		checkNoEntry();
+	}
+}
+
+void FMarkupRenderer::LeaveSpan(MD_SPANTYPE Type, const void* Detail)
+{
+	if (Type == MD_SPAN_IMG)
+	{
+		LeaveImage(*static_cast<const MD_SPAN_IMG_DETAIL*>(Detail));
+	}
+	Spans.Pop();
+	if (Type == MD_SPAN_A && ImageDepth == 0)
+	{
+		AddText(Addresses.EndLink(static_cast<const MD_SPAN_A_DETAIL*>(Detail)->href));
+	}
+}
+
+void FMarkupRenderer::EnterImage()
+{
+	if (ImageDepth++ == 0)
+	{
+		bImageHasText = false;
+	}
+}
+
+void FMarkupRenderer::LeaveImage(const MD_SPAN_IMG_DETAIL& Detail)
+{
+	if (--ImageDepth == 0 && !bImageHasText)
+	{
+		AddText(Addresses.GetImageText(Detail.src));
+	}
+}
+
+void FMarkupRenderer::Text(MD_TEXTTYPE Type, std::string_view Text)
+{
+	switch (Type)
+	{
+	case MD_TEXT_BR:
+		return AddHardBreak();
+	case MD_TEXT_SOFTBR:
+		return AddText(" ");
+	case MD_TEXT_ENTITY:
+		return AddText(DecodeEntity(Text));
+	case MD_TEXT_CODE:
+		return bInCodeBlock ? CodeBlock.Text(Text) : AddText(Text);
+	default:
+		return AddText(Text);
+	}
+}
+
+void FMarkupRenderer::AddText(std::string_view Text)
+{
+	if (Text.empty() || Text == std::string_view(&FMarkdownSource::GuardMark, 1))
+	{
+		return;
+	}
+	const FMarkupStyle Style = GetStyle();
+	Blocks.OpenLine(GetBlockStyle());
+	Addresses.AddLinkText(Text);
+	bImageHasText = true;
+	Writer.Text(Style, Text);
+}
+
+void FMarkupRenderer::AddHardBreak()
+{
+	if (ImageDepth > 0)
+	{
+		AddText(" ");
+		return;
+	}
+	Blocks.EndBlock();
+}
+
+FMarkupStyle FMarkupRenderer::GetBlockStyle() const
+{
+	FMarkupStyle Style = Blocks.GetTextStyle();
+	Style.Block = Heading.Get(Style.Block);
+	return Style;
+}
+
+FMarkupStyle FMarkupRenderer::GetStyle() const
+{
+	return Spans.IsEmpty() ? GetBlockStyle() : Spans.Last();
+}

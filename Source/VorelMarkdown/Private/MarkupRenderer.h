@@ -1,0 +1,56 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "BlockStack.h"
+#include "CodeBlockText.h"
+#include "LinkAddress.h"
+#include "MarkdownReader.h"
+#include "MarkupWriter.h"
+
+// Turns the reader's events into markup in one pass.
+class FMarkupRenderer : public IMarkdownHandler
+{
+public:
+	// The source must be the very text that is read, and outlive the renderer.
+	explicit FMarkupRenderer(std::string_view Source);
+
+	FString Finish() { return Writer.Finish(); }
+
+	void EnterBlock(MD_BLOCKTYPE Type, const void* Detail) override;
+	void LeaveBlock(MD_BLOCKTYPE Type) override;
+	void EnterSpan(MD_SPANTYPE Type, const void* Detail) override;
+	void LeaveSpan(MD_SPANTYPE Type, const void* Detail) override;
+	void Text(MD_TEXTTYPE Type, std::string_view Text) override;
+
+private:
+	void EnterCode();
+	void EnterHeading(unsigned Level);
+	void AddRule();
+
+	void EnterImage();
+	void LeaveImage(const MD_SPAN_IMG_DETAIL& Detail);
+
+	// Text of the current span. Takes its place on the current line, or begins it.
+	void AddText(std::string_view Text);
+	void AddHardBreak();
+
+	FMarkupStyle GetBlockStyle() const;
+	FMarkupStyle GetStyle() const;
+
+	FMarkupWriter Writer;
+	FBlockStack Blocks;
+	FCodeBlockText CodeBlock;
+	FLinkAddresses Addresses;
+	bool bInCodeBlock = false;
+
+	// Set in a heading, whose text has its style whatever is around it.
+	TOptional<EMarkupBlock> Heading;
+
+	// One entry per open span; each knows its outer ones.
+	TArray<FMarkupStyle> Spans;
+
+	// Open images. An image shows its description without further formatting.
+	int32 ImageDepth = 0;
+	bool bImageHasText = false;
+};

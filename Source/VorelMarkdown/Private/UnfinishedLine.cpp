@@ -1,0 +1,117 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "UnfinishedLine.h"
+
+#include "CoreMinimal.h"
+#include "LinePrefix.h"
+#include "MarkdownReader.h"
+#include <algorithm>
+#include <string>
+
+namespace
+{
+bool ConsistsOf(std::string_view Text, char Character)
+{
+	return Text.find_first_not_of(Character) == std::string_view::npos;
+}
+
+size_t SkipPrefix(std::string_view Line)
+{
+	size_t Position = SkipBlanksAndQuotes(Line, 0);
+	for (size_t Behind; (Behind = SkipListMarker(Line, Position)) != Position;)
+	{
+		Position = SkipBlanksAndQuotes(Line, Behind);
+	}
+	return Position;
+}
+
+std::string_view TrimEnd(std::string_view Text)
+{
+	return Text.substr(0, Text.find_last_not_of(" \t") + 1);
+}
+
+constexpr size_t FenceLength = 3;
+
+// What an opening fence may look like before its line has ended.
+bool MayOpenFence(std::string_view Content)
+{
+	if (Content.empty() || (Content[0] != '`' && Content[0] != '~'))
+	{
+		return false;
+	}
+	const size_t Length = std::min(Content.find_first_not_of(Content[0]), Content.size());
+	const bool bInfoHasBacktick = Content.find('`', Length) != std::string_view::npos;
+	return Length == Content.size() || (Length >= FenceLength && !(Content[0] == '`' && bInfoHasBacktick));
+}
+
+bool MayUnderlineHeading(std::string_view Content)
+{
+	return !Content.empty() && Content.size() < FenceLength && (ConsistsOf(Content, '-') || ConsistsOf(Content, '='));
+}
+
+// Learns in what kind of block one character of the source stands.
+class FFenceProbe : public IMarkdownHandler
+{
+public:
+	explicit FFenceProbe(const char* InCharacter)
+		: Character(InCharacter)
+	{
+	}
+
+	// The fence's character, or 0 outside of fenced code.
+	char Result = 0;
+
+	void EnterBlock(MD_BLOCKTYPE Type, const void* Detail) override
+	{
+		if (Type == MD_BLOCK_CODE)
+		{
+			OpenFence = static_cast<const MD_BLOCK_CODE_DETAIL*>(Detail)->fence_char;
+		}
+	}
+
+	void LeaveBlock(MD_BLOCKTYPE) override { OpenFence = 0; }
+	void EnterSpan(MD_SPANTYPE, const void*) override {}
+	void LeaveSpan(MD_SPANTYPE, const void*) override {}
+
+	void Text(MD_TEXTTYPE, std::string_view Text) override
+	{
+		if (Character >= Text.data() && Character < Text.data() + Text.size())
+		{
+			Result = OpenFence;
+		}
+	}
+
+private:
+	const char* const Character;
+	char OpenFence = 0;
+};
+
+// The character of the fence that is open at the end of the text, or 0.
+char FindOpenFence(std::string_view Text)
+{
+	std::string Probed(Text);
+	Probed.push_back('x');
+	FFenceProbe Probe(&Probed.back());
+	ReadMarkdown(Probed, Probe);
+	return Probe.Result;
+}
+} // namespace
+
+size_t GetSettledSize(std::string_view Source)
+{
+	const size_t LineStart = Source.rfind('\n') + 1;
+	const std::string_view Line = TrimEnd(Source.substr(LineStart));
+	const size_t PrefixSize = SkipPrefix(Line);
+	const std::string_view Content = Line.substr(PrefixSize);
+	const bool bFirstLine = LineStart == 0;
+
+	const bool bFence = MayOpenFence(Content) && !(bFirstLine && Content.size() < FenceLength);
+	const bool bUnderline = !bFirstLine && MayUnderlineHeading(Line.substr(SkipBlanksAndQuotes(Line, 0)));
+	if (!bFence && !bUnderline)
+	{
+		return Source.size();
+	}
+	const char OpenFence = FindOpenFence(Source.substr(0, LineStart + PrefixSize));
+	const bool bMayCloseFence = Content.size() < FenceLength && ConsistsOf(Content, OpenFence);
+	return OpenFence == 0 || bMayCloseFence ? LineStart : Source.size();
+}
