@@ -1,0 +1,25 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Logging/LogVerbosity.h"
+#include "UObject/NameTypes.h"
+
+class FLogCategoryBase
+{
+public:
+	FLogCategoryBase(const TCHAR* InName, ELogVerbosity::Type InVerbosity)
+		: Name(InName)
+		, Verbosity(InVerbosity)
+	{
+	}
+
+	const FName& GetCategoryName() const { return Name; }
+	bool IsSuppressed(ELogVerbosity::Type Level) const { return Level > Verbosity; }
+	ELogVerbosity::Type GetVerbosity() const { return Verbosity; }
+	void SetVerbosity(ELogVerbosity::Type Level) { Verbosity = Level; }
+
+private:
+	FName Name;
+	ELogVerbosity::Type Verbosity;
+};
