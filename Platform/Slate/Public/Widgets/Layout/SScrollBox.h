@@ -1,0 +1,104 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Framework/SlateDelegates.h"
+#include "Layout/BasicLayoutWidgetSlot.h"
+#include "Styling/SlateTypes.h"
+#include "Widgets/SPanel.h"
+
+enum class EAllowOverscroll : uint8
+{
+	Yes,
+	No
+};
+
+/**
+ * A column that may be longer than its room and is scrolled by wheel, keys (Page Up, Page Down, Home, End) and its own scroll bar, which
+ * takes room only while there is something to scroll. Offsets are in units from the top of the content.
+ */
+class SScrollBox : public SPanel
+{
+public:
+	class FSlot final : public FBasicLayoutSlot
+	{
+	public:
+		class FSlotArguments : public TBasicLayoutSlotArguments<FSlot, FSlotArguments>
+		{
+		public:
+			using TBasicLayoutSlotArguments::TBasicLayoutSlotArguments;
+		};
+	};
+
+	SLATE_BEGIN_ARGS(SScrollBox) { _Clipping = EWidgetClipping::ClipToBounds; }
+	SLATE_SLOT_ARGUMENT(FSlot, Slots)
+	SLATE_STYLE_ARGUMENT(FScrollBarStyle, ScrollBarStyle)
+	SLATE_ARGUMENT_DEFAULT(EAllowOverscroll, AllowOverscroll) = EAllowOverscroll::Yes;
+	SLATE_EVENT(FOnUserScrolled, OnUserScrolled)
+	SLATE_END_ARGS()
+
+	SScrollBox();
+	virtual ~SScrollBox() override;
+	void Construct(const FArguments& InArgs);
+
+	static FSlot::FSlotArguments Slot() { return FSlot::FSlotArguments(MakeUnique<FSlot>()); }
+
+	/** Takes effect in the next layout, with the length the content has then. */
+	void ScrollToEnd();
+	void ScrollToStart() { SetScrollOffset(0.0f); }
+
+	/** Beyond the end counts as the end. */
+	void SetScrollOffset(float NewOffset);
+	float GetScrollOffset() const { return ScrollOffset; }
+	float GetScrollOffsetOfEnd() const;
+
+	virtual FChildren* GetChildren() override { return &Children; }
+	virtual bool SupportsKeyboardFocus() const override { return true; }
+	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
+	virtual FReply OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual void OnMouseLeave(const FPointerEvent& MouseEvent) override;
+	virtual void OnMouseCaptureLost() override;
+
+protected:
+	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
+	virtual void OnArranged(const FGeometry& AllottedGeometry) override;
+	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
+	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
+		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
+
+private:
+	/** The scroll bar's parts along the box, in units. */
+	struct FThumb
+	{
+		float Offset = 0.0f;
+		float Length = 0.0f;
+	};
+
+	bool IsBarShown() const;
+	bool IsInBar(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) const;
+	FThumb GetThumb() const;
+	FReply ScrollByUser(float NewOffset);
+	void DragThumbTo(float LocalY);
+	void SetBarHovered(bool bInHovered);
+	float ClampOffset(float Offset) const;
+
+	TPanelChildren<FSlot> Children;
+	const FScrollBarStyle* BarStyle = nullptr;
+	FOnUserScrolled OnUserScrolled;
+
+	/** In units; of the last layout. */
+	float ContentLength = 0.0f;
+	float ViewLength = 0.0f;
+	float ScrollOffset = 0.0f;
+
+	/** ScrollToEnd was asked for; it holds for all layout passes of the frame in which it is first seen. */
+	bool bScrollToEnd = false;
+	uint64 ScrollToEndFrame = 0;
+
+	bool bBarHovered = false;
+	/** While the thumb is dragged: where in it the mouse took hold, in units. */
+	TOptional<float> DragGrip;
+};

@@ -1,0 +1,22 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Layout/Geometry.h"
+#include "CoreMinimal.h"
+
+class SWidget;
+
+/** A widget and the room it was given. */
+class FArrangedWidget
+{
+public:
+	FArrangedWidget(const TSharedRef<SWidget>& InWidget, const FGeometry& InGeometry)
+		: Geometry(InGeometry)
+		, Widget(InWidget)
+	{
+	}
+
+	FGeometry Geometry;
+	TSharedRef<SWidget> Widget;
+};
