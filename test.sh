@@ -1,0 +1,8 @@
+#!/bin/bash
+# ./test.sh [arguments for ctest]: installs what is needed, builds everything with sanitizers and runs all tests.
+set -u
+. "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"
+
+install_packages "${build_packages[@]}" "${test_packages[@]}"
+build dev
+exec ctest --test-dir "$root/build/dev" --output-on-failure --parallel "$(nproc)" "$@"
