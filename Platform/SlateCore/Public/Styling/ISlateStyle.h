@@ -19,6 +19,9 @@ public:
 
 	virtual const FName& GetStyleSetName() const = 0;
 
+	/** The folder that the set's images are relative to. */
+	virtual const FString& GetContentRootDir() const = 0;
+
 	/** A widget style of the wrong type counts as missing. */
 	template <typename WidgetStyleType>
 	const WidgetStyleType& GetWidgetStyle(const FName& PropertyName) const

@@ -19,7 +19,7 @@ public:
 
 	/** The folder that image names are relative to. Without one they stay as they are. */
 	void SetContentRoot(const FString& InContentRoot) { ContentRoot = InContentRoot; }
-	const FString& GetContentRootDir() const { return ContentRoot; }
+	virtual const FString& GetContentRootDir() const override { return ContentRoot; }
 	FString RootToContentDir(const FString& RelativePath, const TCHAR* Extension = TEXT("")) const;
 
 	void Set(const FName& PropertyName, float Value);
