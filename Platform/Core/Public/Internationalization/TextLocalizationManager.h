@@ -5,6 +5,19 @@
 #include "Containers/Map.h"
 #include "Containers/UnrealString.h"
 
+// Namespace and key, letter case counting.
+struct FTextId
+{
+	FString Namespace;
+	FString Key;
+
+	friend bool operator==(const FTextId& Lhs, const FTextId& Rhs)
+	{
+		return Lhs.Namespace.Equals(Rhs.Namespace) && Lhs.Key.Equals(Rhs.Key);
+	}
+	friend uint32 GetTypeHash(const FTextId& Id) { return HashCombine(GetTypeHash(Id.Namespace), GetTypeHash(Id.Key)); }
+};
+
 // The translations that localised texts are looked up in.
 class FTextLocalizationManager
 {
@@ -12,11 +25,10 @@ public:
 	static FTextLocalizationManager& Get();
 
 	// Source is the text that was translated. Where the program's source differs from it, the translation is out of date and not used.
-	void AddTranslation(
-		const FString& Culture, const FString& Namespace, const FString& Key, const FString& Source, const FString& Translation);
+	void AddTranslation(const FString& Culture, const FTextId& Id, const FString& Source, const FString& Translation);
 
 	// In the current culture, else in its parents ("de-AT", "de"); null where there is none.
-	const FString* FindTranslation(const FString& Namespace, const FString& Key, const FString& Source) const;
+	const FString* FindTranslation(const FTextId& Id, const FString& Source) const;
 
 	// Forgets all translations.
 	void Reset();
@@ -32,8 +44,7 @@ private:
 		FString Translation;
 	};
 
-	static FString MakeKey(const FString& Culture, const FString& Namespace, const FString& Key);
-
-	TMap<FString, FEntry> Entries;
+	// By name of the culture.
+	TMap<FString, TMap<FTextId, FEntry>> Cultures;
 	uint32 TextRevision = 1;
 };
