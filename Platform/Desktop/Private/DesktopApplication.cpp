@@ -1,0 +1,110 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "DesktopApplication.h"
+
+#include "DesktopLog.h"
+#include "Fonts/QtTextShaper.h"
+#include "Framework/Application/SlateApplication.h"
+#include "HAL/PlatformHooks.h"
+#include "QSlateWidget.h"
+#include "QtConversion.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QUrl>
+
+static TSharedPtr<FDesktopApplication> Instance;
+
+TSharedRef<FDesktopApplication> FDesktopApplication::Create(EBrowserMode BrowserMode)
+{
+	check(!Instance);
+	Instance = MakeShared<FDesktopApplication>(BrowserMode);
+	FSlateApplication::Create(Instance.ToSharedRef());
+	return Instance.ToSharedRef();
+}
+
+void FDesktopApplication::Shutdown()
+{
+	FSlateApplication::Shutdown();
+	Instance.Reset();
+}
+
+FDesktopApplication& FDesktopApplication::Get()
+{
+	check(Instance);
+	return *Instance;
+}
+
+FDesktopApplication::FDesktopApplication(EBrowserMode InBrowserMode)
+	: BrowserMode(InBrowserMode)
+	, TextShaper(MakeUnique<FQtTextShaper>())
+{
+	FPlatformHooks::Get().LaunchURL = [this](const FString& Address, FString& OutError) { return OpenAddress(Address, OutError); };
+	FPlatformHooks::Get().ClipboardCopy = [this](const FString& Text) { SetClipboardText(Text); };
+}
+
+FDesktopApplication::~FDesktopApplication()
+{
+	FPlatformHooks::Get() = FPlatformHooks();
+}
+
+void FDesktopApplication::ForgetHost(const QSlateWidget* Host)
+{
+	ActiveHost = ActiveHost == Host ? nullptr : ActiveHost;
+}
+
+ITextShaper& FDesktopApplication::GetTextShaper()
+{
+	return *TextShaper;
+}
+
+FString FDesktopApplication::GetClipboardText()
+{
+	return ToFString(QGuiApplication::clipboard()->text());
+}
+
+void FDesktopApplication::SetClipboardText(const FString& Text)
+{
+	QGuiApplication::clipboard()->setText(ToQString(Text));
+}
+
+bool FDesktopApplication::OpenAddress(const FString& Address, FString& OutError)
+{
+	const QUrl Url(ToQString(Address), QUrl::StrictMode);
+	const bool bWeb = (Url.scheme() == QLatin1String("https") || Url.scheme() == QLatin1String("http")) && !Url.host().isEmpty();
+	if (!Url.isValid() || !(bWeb || Url.scheme() == QLatin1String("mailto")))
+	{
+		OutError = TEXT("only web and mail addresses are opened");
+		return false;
+	}
+	OpenedAddresses.Add(Address);
+	const bool bOpened = BrowserMode == EBrowserMode::Record || QDesktopServices::openUrl(Url);
+	OutError = bOpened ? TEXT("") : TEXT("no browser could be started");
+	return bOpened;
+}
+
+void FDesktopApplication::LaunchURL(const FString& Url)
+{
+	FString Error;
+	if (!OpenAddress(Url, Error))
+	{
+		UE_LOG(LogDesktop, Warning, TEXT("Cannot open %s: %s"), *Url, *Error);
+	}
+}
+
+void FDesktopApplication::SetCursor(EMouseCursor::Type Cursor)
+{
+	if (ActiveHost)
+	{
+		ActiveHost->ShowCursor(Cursor);
+	}
+}
+
+void FDesktopApplication::SetTextInputArea(bool bEnabled, const FSlateRect& CaretRect)
+{
+	if (ActiveHost)
+	{
+		ActiveHost->SetTextInputArea(bEnabled, CaretRect);
+	}
+}

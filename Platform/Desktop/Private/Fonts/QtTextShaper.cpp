@@ -1,0 +1,134 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Fonts/QtTextShaper.h"
+
+#include "Fonts/EmojiSegments.h"
+#include "QtConversion.h"
+
+#include <algorithm>
+
+static constexpr char16_t LeftToRightOverride = 0x202D;
+static constexpr char16_t RightToLeftOverride = 0x202E;
+
+static float PixelSizeOf(const FSlateFontInfo& Font, float Scale)
+{
+	return Font.Size * 96.0f / 72.0f * Scale;
+}
+
+static EFontFeatures FeaturesOf(ETextShapingMethod Method, bool bRightToLeft)
+{
+	const bool bAll = Method == ETextShapingMethod::FullShaping || (Method == ETextShapingMethod::Auto && bRightToLeft);
+	return bAll ? EFontFeatures::All : EFontFeatures::KerningOnly;
+}
+
+// The caller has resolved directions over the whole paragraph. Where this text alone would resolve to another one, it is overridden.
+static bool NeedsOverride(QStringView Text, bool bRightToLeft)
+{
+	return std::any_of(Text.begin(), Text.end(),
+		[bRightToLeft](QChar Unit)
+		{
+			const QChar::Direction Direction = Unit.direction();
+			const bool bRight = Direction == QChar::DirR || Direction == QChar::DirAL;
+			const bool bLeft = Direction == QChar::DirL || Direction == QChar::DirEN;
+			return Direction == QChar::DirAN || (bRightToLeft ? bLeft : bRight) || Unit.isSurrogate();
+		});
+}
+
+static void LayOut(QTextLayout& Layout, const QString& Text, bool bRightToLeft)
+{
+	const Qt::LayoutDirection Direction = bRightToLeft ? Qt::RightToLeft : Qt::LeftToRight;
+	if (Layout.textOption().textDirection() != Direction)
+	{
+		QTextOption Option = Layout.textOption();
+		Option.setTextDirection(Direction);
+		Layout.setTextOption(Option);
+	}
+	Layout.setText(Text);
+	Layout.beginLayout();
+	Layout.createLine();
+	Layout.endLayout();
+}
+
+TSharedRef<const FShapedText> FQtTextShaper::Shape(
+	FStringView Text, const FSlateFontInfo& Font, float Scale, TextBiDi::ETextDirection Direction, ETextShapingMethod Method)
+{
+	const bool bRightToLeft = Direction == TextBiDi::ETextDirection::RightToLeft;
+	const float PixelSize = PixelSizeOf(Font, Scale);
+	FFontFace& Face = Faces.Find(Font.TypefaceFontName);
+	TSharedRef<FQtShapedText> Shaped = MakeShared<FQtShapedText>();
+	Shaped->Ascent = Face.GetMeasures().Ascent * PixelSize;
+	Shaped->CaretOffsets.Init(0.0f, Text.Len() + 1);
+
+	QList<FPresentationSegment> Segments = SplitByPresentation(QStringView(Text.GetData(), Text.Len()));
+	if (bRightToLeft)
+	{
+		std::reverse(Segments.begin(), Segments.end());
+	}
+	for (const FPresentationSegment& Segment : Segments)
+	{
+		QTextLayout& Layout =
+			Segment.bEmoji ? Faces.GetEmoji().GetLayout(EFontFeatures::All) : Face.GetLayout(FeaturesOf(Method, bRightToLeft));
+		QString SegmentText = QString::fromUtf16(Text.GetData() + Segment.Start, Segment.Length);
+		const bool bOverride = NeedsOverride(SegmentText, bRightToLeft);
+		if (bOverride)
+		{
+			SegmentText.prepend(QChar(bRightToLeft ? RightToLeftOverride : LeftToRightOverride));
+		}
+		LayOut(Layout, SegmentText, bRightToLeft);
+		AppendSegment(*Shaped, Segment, Layout, bOverride ? 1 : 0, PixelSize);
+	}
+	return Shaped;
+}
+
+void FQtTextShaper::AppendSegment(
+	FQtShapedText& Shaped, const FPresentationSegment& Segment, const QTextLayout& Layout, int Skipped, float PixelSize)
+{
+	const double Scale = static_cast<double>(PixelSize) / FFontFace::ShapingPixelSize;
+	const QTextLine Line = Layout.lineAt(0);
+	const double Left = Shaped.Width;
+	for (int Index = 0; Index <= Segment.Length; ++Index)
+	{
+		const bool bOfNeighbour = Index == Segment.Length && Segment.Start + Index < Shaped.CaretOffsets.Num() - 1;
+		if (!bOfNeighbour)
+		{
+			Shaped.CaretOffsets[static_cast<int32>(Segment.Start) + Index] =
+				static_cast<float>(Left + Line.cursorToX(Index + Skipped) * Scale);
+		}
+	}
+	for (QGlyphRun& Run : Layout.glyphRuns())
+	{
+		QList<QPointF> Positions = Run.positions();
+		for (QPointF& Position : Positions)
+		{
+			Position = QPointF(Left + Position.x() * Scale, (Position.y() - Line.ascent()) * Scale);
+		}
+		Run.setPositions(Positions);
+		Run.setRawFont(Resize(Run.rawFont(), PixelSize));
+		Shaped.Runs.Add({Run, Segment.bEmoji});
+	}
+	Shaped.Width = static_cast<float>(Left + Line.naturalTextWidth() * Scale);
+}
+
+QRawFont FQtTextShaper::Resize(const QRawFont& Font, float PixelSize)
+{
+	QRawFont& Sized = SizedFonts[PixelSize][Font];
+	if (!Sized.isValid())
+	{
+		Sized = Font;
+		Sized.setPixelSize(PixelSize);
+	}
+	return Sized;
+}
+
+FFontMetrics FQtTextShaper::GetMetrics(const FSlateFontInfo& Font, float Scale)
+{
+	const FFaceMeasures& Measures = Faces.Find(Font.TypefaceFontName).GetMeasures();
+	const float PixelSize = PixelSizeOf(Font, Scale);
+	FFontMetrics Metrics;
+	Metrics.Ascent = Measures.Ascent * PixelSize;
+	Metrics.Descent = Measures.Descent * PixelSize;
+	Metrics.LineHeight = (Measures.Ascent + Measures.Descent + Measures.LineGap) * PixelSize;
+	Metrics.UnderlineOffset = Measures.UnderlineOffset * PixelSize;
+	Metrics.UnderlineThickness = Measures.UnderlineThickness * PixelSize;
+	return Metrics;
+}

@@ -1,0 +1,254 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "QSlateWidget.h"
+
+#include "Application/InputTranslation.h"
+#include "DesktopApplication.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Widgets/SWindow.h"
+
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QKeyEvent>
+#include <QPainter>
+
+// Mouse wheels report eighths of a degree, of which one notch has this many.
+static constexpr float NotchInEighthsOfDegree = 120.0f;
+
+static FVector2D ToVector(const QPointF& Point)
+{
+	return FVector2D(Point.x(), Point.y());
+}
+
+QSlateWidget::QSlateWidget(FDesktopApplication& InDesktop, const TSharedRef<SWindow>& InWindow, QWidget* Parent)
+	: QWidget(Parent)
+	, Desktop(InDesktop)
+	, Window(InWindow)
+{
+	setAttribute(Qt::WA_OpaquePaintEvent);
+	setFocusPolicy(Qt::StrongFocus);
+	setMouseTracking(true);
+	FSlateApplication::Get().AddWindow(Window);
+	ShowFrameHandle = Desktop.GetFrameLoop().OnShowFrame.AddRaw(this, &QSlateWidget::ShowFrame);
+	UpdateClientArea();
+}
+
+QSlateWidget::~QSlateWidget()
+{
+	Desktop.ForgetHost(this);
+	Desktop.GetFrameLoop().OnShowFrame.Remove(ShowFrameHandle);
+	if (FSlateApplication::IsInitialized())
+	{
+		FSlateApplication::Get().RemoveWindow(Window);
+	}
+}
+
+void QSlateWidget::UpdateClientArea()
+{
+	const double Scale = devicePixelRatioF();
+	const QSize Pixels = (QSizeF(size()) * Scale).toSize();
+	if (Picture.size() == Pixels && Window->GetDPIScaleFactor() == static_cast<float>(Scale))
+	{
+		return;
+	}
+	QImage Resized(Pixels, QImage::Format_ARGB32_Premultiplied);
+	Resized.fill(Qt::black);
+	Picture = Resized;
+	Picture.setDevicePixelRatio(Scale);
+	Window->SetClientArea(FVector2D(Pixels.width(), Pixels.height()), static_cast<float>(Scale));
+	bRepaintAll = true;
+}
+
+void QSlateWidget::ShowFrame()
+{
+	if (!Window->GetDisplayList())
+	{
+		return;
+	}
+	TArray<FSlateRect> Damage = Window->TakeDamage();
+	if (bRepaintAll)
+	{
+		Damage = {FSlateRect(0.0f, 0.0f, Picture.width(), Picture.height())};
+		bRepaintAll = false;
+	}
+	for (const FSlateRect& Rect : Damage)
+	{
+		Painter.Paint(Picture, *Window->GetDisplayList(), Rect);
+		const double Scale = Picture.devicePixelRatio();
+		update(QRectF(QPointF(Rect.Left, Rect.Top) / Scale, QPointF(Rect.Right, Rect.Bottom) / Scale).toAlignedRect());
+		Desktop.GetFrameLoop().NotePainted();
+	}
+}
+
+void QSlateWidget::paintEvent(QPaintEvent* Event)
+{
+	UpdateClientArea();
+	QPainter OnWidget(this);
+	OnWidget.setClipRegion(Event->region());
+	OnWidget.drawImage(QPointF(0.0, 0.0), Picture);
+}
+
+void QSlateWidget::resizeEvent(QResizeEvent*)
+{
+	UpdateClientArea();
+}
+
+FPointerEvent QSlateWidget::MakePointerEvent(
+	const QPointF& Position, const FKey& Button, Qt::MouseButtons Pressed, Qt::KeyboardModifiers Modifiers, float WheelDelta)
+{
+	Desktop.SetActiveHost(this);
+	const QPointF Pixels = Position * Window->GetDPIScaleFactor();
+	const FPointerEvent Event(ToVector(Pixels), ToVector(LastPosition), InputTranslation::ToMouseButtons(Pressed), Button, WheelDelta,
+		InputTranslation::ToModifiers(Modifiers));
+	LastPosition = Pixels;
+	return Event;
+}
+
+void QSlateWidget::mousePressEvent(QMouseEvent* Event)
+{
+	const FKey Button = InputTranslation::ToMouseButton(Event->button());
+	if (Button.IsValid())
+	{
+		FSlateApplication::Get().ProcessMouseButtonDownEvent(
+			Window, MakePointerEvent(Event->position(), Button, Event->buttons(), Event->modifiers()));
+	}
+}
+
+void QSlateWidget::mouseReleaseEvent(QMouseEvent* Event)
+{
+	const FKey Button = InputTranslation::ToMouseButton(Event->button());
+	if (Button.IsValid())
+	{
+		FSlateApplication::Get().ProcessMouseButtonUpEvent(
+			Window, MakePointerEvent(Event->position(), Button, Event->buttons(), Event->modifiers()));
+	}
+}
+
+void QSlateWidget::mouseDoubleClickEvent(QMouseEvent* Event)
+{
+	const FKey Button = InputTranslation::ToMouseButton(Event->button());
+	if (Button.IsValid())
+	{
+		FSlateApplication::Get().ProcessMouseButtonDoubleClickEvent(
+			Window, MakePointerEvent(Event->position(), Button, Event->buttons(), Event->modifiers()));
+	}
+}
+
+void QSlateWidget::mouseMoveEvent(QMouseEvent* Event)
+{
+	FSlateApplication::Get().ProcessMouseMoveEvent(
+		Window, MakePointerEvent(Event->position(), EKeys::Invalid, Event->buttons(), Event->modifiers()));
+}
+
+void QSlateWidget::wheelEvent(QWheelEvent* Event)
+{
+	const float Notches = static_cast<float>(Event->angleDelta().y()) / NotchInEighthsOfDegree;
+	const bool bHandled = Notches != 0.0f &&
+		FSlateApplication::Get().ProcessMouseWheelEvent(
+			Window, MakePointerEvent(Event->position(), EKeys::Invalid, Event->buttons(), Event->modifiers(), Notches));
+	Event->setAccepted(bHandled);
+}
+
+void QSlateWidget::leaveEvent(QEvent*)
+{
+	FSlateApplication::Get().ProcessMouseLeaveEvent(Window);
+}
+
+void QSlateWidget::keyPressEvent(QKeyEvent* Event)
+{
+	Desktop.SetActiveHost(this);
+	const FModifierKeysState Modifiers = InputTranslation::ToModifiers(Event->modifiers());
+	FSlateApplication& Application = FSlateApplication::Get();
+	bool bHandled = Application.ProcessKeyDownEvent(Window, FKeyEvent(InputTranslation::ToKey(*Event), Modifiers, Event->isAutoRepeat()));
+	for (const TCHAR Character : InputTranslation::ToText(*Event))
+	{
+		bHandled |= Application.ProcessKeyCharEvent(Window, FCharacterEvent(Character, Modifiers, Event->isAutoRepeat()));
+	}
+	Event->setAccepted(bHandled);
+}
+
+void QSlateWidget::keyReleaseEvent(QKeyEvent* Event)
+{
+	const FKeyEvent KeyEvent(
+		InputTranslation::ToKey(*Event), InputTranslation::ToModifiers(Event->modifiers()), Event->isAutoRepeat());
+	Event->setAccepted(FSlateApplication::Get().ProcessKeyUpEvent(Window, KeyEvent));
+}
+
+bool QSlateWidget::WantsAsInput(const QKeyEvent& Event) const
+{
+	const bool bWrites = !InputTranslation::ToText(Event).IsEmpty();
+	const bool bEdits = Event.modifiers().testFlag(Qt::ControlModifier) && InputTranslation::ToKey(Event).IsValid();
+	return testAttribute(Qt::WA_InputMethodEnabled) && (bWrites || bEdits);
+}
+
+bool QSlateWidget::event(QEvent* Event)
+{
+	// While text is edited, its keys are not the menus' shortcuts.
+	if (Event->type() == QEvent::ShortcutOverride && WantsAsInput(static_cast<QKeyEvent&>(*Event)))
+	{
+		Event->accept();
+		return true;
+	}
+	if (Event->type() == QEvent::ScreenChangeInternal || Event->type() == QEvent::Show)
+	{
+		UpdateClientArea();
+	}
+	return QWidget::event(Event);
+}
+
+void QSlateWidget::inputMethodEvent(QInputMethodEvent* Event)
+{
+	Desktop.SetActiveHost(this);
+	FSlateApplication::Get().ProcessTextCompositionEvent(Window, InputTranslation::ToComposition(*Event));
+	Event->accept();
+}
+
+QVariant QSlateWidget::inputMethodQuery(Qt::InputMethodQuery Query) const
+{
+	const double Scale = Window->GetDPIScaleFactor();
+	switch (Query)
+	{
+	case Qt::ImEnabled:
+		return testAttribute(Qt::WA_InputMethodEnabled);
+	case Qt::ImCursorRectangle:
+		return QRectF(QPointF(CaretRect.Left, CaretRect.Top) / Scale, QPointF(CaretRect.Right, CaretRect.Bottom) / Scale);
+	default:
+		return QWidget::inputMethodQuery(Query);
+	}
+}
+
+void QSlateWidget::SetTextInputArea(bool bEnabled, const FSlateRect& InCaretRect)
+{
+	CaretRect = InCaretRect;
+	setAttribute(Qt::WA_InputMethodEnabled, bEnabled);
+	if (hasFocus())
+	{
+		QGuiApplication::inputMethod()->update(Qt::ImEnabled | Qt::ImCursorRectangle);
+	}
+}
+
+void QSlateWidget::ShowCursor(EMouseCursor::Type Cursor)
+{
+	const Qt::CursorShape Shapes[] = {Qt::ArrowCursor, Qt::IBeamCursor, Qt::PointingHandCursor};
+	setCursor(Shapes[Cursor]);
+}
+
+void QSlateWidget::focusInEvent(QFocusEvent* Event)
+{
+	Desktop.SetActiveHost(this);
+	const TSharedPtr<SWidget> Former = FocusedBefore.Pin();
+	FocusedBefore.Reset();
+	if (Former && Event->reason() != Qt::MouseFocusReason)
+	{
+		FSlateApplication::Get().SetKeyboardFocus(Former, EFocusCause::WindowActivate);
+	}
+}
+
+void QSlateWidget::focusOutEvent(QFocusEvent* Event)
+{
+	if (Event->reason() != Qt::PopupFocusReason)
+	{
+		FocusedBefore = FSlateApplication::Get().GetKeyboardFocusedWidget();
+		FSlateApplication::Get().ClearKeyboardFocus(EFocusCause::WindowActivate);
+	}
+}
