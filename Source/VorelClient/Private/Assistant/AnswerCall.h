@@ -1,0 +1,39 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Assistant/AnswerReader.h"
+#include "Assistant/AssistantEndpoint.h"
+#include "Assistant/ChatMessage.h"
+#include "Assistant/HttpCall.h"
+
+// Asks an assistant for the next message of a conversation, and for its first model before that where none is chosen.
+class FAnswerCall
+{
+public:
+	// The endpoint must outlive the call, which notes the server's first model there.
+	FAnswerCall(QNetworkAccessManager& InNetwork, FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits);
+
+	// Both fire on the game thread, OnEnded once and last, possibly before Start returns. Neither may destroy the call. Destroying it hangs up.
+	TFunction<void(const FString&)> OnText;
+	TFunction<void(const FAnswerEnd&)> OnEnded;
+
+	void Start(const TArray<FChatMessage>& InMessages);
+
+private:
+	void AskForModels();
+	void ReadModels(const FText& Failure);
+	void AskForAnswer();
+	void ReadAnswer(std::string_view Bytes);
+	void HandleAnswerEnded(const FText& Failure);
+	void Deliver();
+	FHttpRequest MakeRequest(const TCHAR* Path) const;
+
+	QNetworkAccessManager& Network;
+	FAssistantEndpoint& Endpoint;
+	FRequestLimits Limits;
+	TArray<FChatMessage> Messages;
+	TUniquePtr<FHttpCall> Http;
+	FAnswerReader Reader;
+	std::string Models;
+};

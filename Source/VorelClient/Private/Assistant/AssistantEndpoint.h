@@ -1,0 +1,32 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "CoreMinimal.h"
+
+// A chat-completions server.
+struct FAssistantEndpoint
+{
+	// "https://host/v1", with or without a slash at the end.
+	FString BaseUrl;
+
+	// Empty: the first one that the server names.
+	FString Model;
+
+	// Sent to this server alone, and never logged. May be empty.
+	FString ApiKey;
+
+	// Why there is no server to ask, for the user. Empty where there is one.
+	FText Unavailable;
+
+	// What the server named first when it was asked; forgotten when a request fails, since it may have become another server.
+	FString FirstModel;
+};
+
+// In seconds. The first byte may take long, because local servers load their model then.
+struct FRequestLimits
+{
+	double Connect = 10.0;
+	double FirstByte = 120.0;
+	double BetweenBytes = 60.0;
+};

@@ -1,0 +1,297 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Assistant/HttpCall.h"
+
+#include "Assistant/AnswerReader.h"
+#include "Assistant/QtText.h"
+#include <QBuffer>
+#include <QHostAddress>
+#include <QNetworkAccessManager>
+#include <QNetworkProxyFactory>
+#include <QNetworkReply>
+#include <QPointer>
+
+using FailureText::EPhase;
+
+namespace
+{
+constexpr int32 MaxRedirects = 5;
+constexpr qsizetype MaxRefusalBytes = 64 * 1024;
+constexpr int32 MaxGoodbyeMilliseconds = 2000;
+
+// A body that can be read once. The network library sends a request again when the server hangs up without a reply; a question must not be
+// asked, and paid for, twice.
+class FOnceReadable final : public QBuffer
+{
+public:
+	explicit FOnceReadable(const QByteArray& Bytes)
+	{
+		setData(Bytes);
+		open(QIODevice::ReadOnly);
+	}
+
+	bool isSequential() const override { return true; }
+	bool reset() override { return false; }
+};
+
+bool IsLoopback(const QString& Host)
+{
+	return Host == QLatin1String("localhost") || QHostAddress(Host).isLoopback();
+}
+
+class FProxyForOthers final : public QNetworkProxyFactory
+{
+public:
+	QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& Query) override
+	{
+		return IsLoopback(Query.peerHostName()) ? QList<QNetworkProxy>{QNetworkProxy(QNetworkProxy::NoProxy)} : systemProxyForQuery(Query);
+	}
+};
+
+bool IsSameOrigin(const QUrl& A, const QUrl& B)
+{
+	const auto GetPort = [](const QUrl& Url) { return Url.port(Url.scheme() == QLatin1String("https") ? 443 : 80); };
+	return A.scheme() == B.scheme() && A.host() == B.host() && GetPort(A) == GetPort(B);
+}
+
+QNetworkRequest MakeNetworkRequest(const FHttpRequest& Request)
+{
+	QNetworkRequest Made(Request.Url);
+	Made.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+	Made.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+	Made.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+	Made.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+	Made.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+	Made.setRawHeader("Accept", Request.Accept);
+	// A compressing proxy would hold pieces back.
+	Made.setRawHeader("Accept-Encoding", "identity");
+	Made.setRawHeader("User-Agent", "VorelAI");
+	if (!Request.ApiKey.isEmpty())
+	{
+		Made.setRawHeader("Authorization", "Bearer " + Request.ApiKey);
+	}
+	return Made;
+}
+
+QNetworkReply* Post(QNetworkAccessManager& Network, const FHttpRequest& Request)
+{
+	QNetworkRequest Made = MakeNetworkRequest(Request);
+	Made.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("application/json"));
+	Made.setHeader(QNetworkRequest::ContentLengthHeader, Request.Body.size());
+	Made.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+	auto* const Body = new FOnceReadable(Request.Body);
+	QNetworkReply* const Reply = Network.post(Made, Body);
+	Body->setParent(Reply);
+	return Reply;
+}
+} // namespace
+
+TUniquePtr<QNetworkAccessManager> MakeNetwork()
+{
+	TUniquePtr<QNetworkAccessManager> Network = MakeUnique<QNetworkAccessManager>();
+	Network->setProxyFactory(new FProxyForOthers);
+	return Network;
+}
+
+FHttpCall::FHttpCall(QNetworkAccessManager& InNetwork, FHttpRequest InRequest, const FRequestLimits& InLimits)
+	: Network(InNetwork)
+	, Request(::MoveTemp(InRequest))
+	, Limits(InLimits)
+{
+	Limit.setSingleShot(true);
+	connect(&Limit, &QTimer::timeout, this, [this] { HandleLimit(); });
+}
+
+FHttpCall::~FHttpCall()
+{
+	HangUp();
+}
+
+void FHttpCall::Start()
+{
+	Send();
+}
+
+void FHttpCall::LetGo()
+{
+	if (QNetworkReply* const Leaving = Reply)
+	{
+		Reply = nullptr;
+		Limit.stop();
+		Leaving->disconnect(this);
+		connect(Leaving, &QNetworkReply::finished, Leaving, &QObject::deleteLater);
+		QTimer::singleShot(MaxGoodbyeMilliseconds, Leaving, &QNetworkReply::abort);
+	}
+}
+
+void FHttpCall::HangUp()
+{
+	Limit.stop();
+	if (QNetworkReply* const Leaving = Reply)
+	{
+		Reply = nullptr;
+		Leaving->disconnect(this);
+		Leaving->abort();
+		Leaving->deleteLater();
+	}
+}
+
+void FHttpCall::Send()
+{
+	Reply = Request.Body.isEmpty() ? Network.get(MakeNetworkRequest(Request)) : Post(Network, Request);
+	connect(Reply, &QNetworkReply::requestSent, this, [this] { StartLimit(EPhase::WaitingForFirstByte); });
+	connect(Reply, &QNetworkReply::readyRead, this, [this] { HandleBytes(); });
+	connect(Reply, &QNetworkReply::finished, this, [this] { HandleFinished(); });
+	StartLimit(EPhase::Connecting);
+}
+
+void FHttpCall::StartLimit(EPhase InPhase)
+{
+	// The library tells late that a request went out: the reply may have begun.
+	if (InPhase == EPhase::WaitingForFirstByte && Phase == EPhase::Receiving)
+	{
+		return;
+	}
+	Phase = InPhase;
+	const double Seconds = Phase == EPhase::Connecting			  ? Limits.Connect
+						   : Phase == EPhase::WaitingForFirstByte ? Limits.FirstByte
+																  : Limits.BetweenBytes;
+	Limit.start(FMath::CeilToInt(Seconds * 1000.0));
+}
+
+void FHttpCall::HandleBytes()
+{
+	StartLimit(EPhase::Receiving);
+	const QByteArray Bytes = Reply->readAll();
+	if (IsSuccess())
+	{
+		OnBody(std::string_view(Bytes.constData(), static_cast<std::size_t>(Bytes.size())));
+		return;
+	}
+	Refusal += Bytes.left(MaxRefusalBytes - Refusal.size());
+	if (Refusal.size() >= MaxRefusalBytes)
+	{
+		End(DescribeStatus(GetStatus()));
+	}
+}
+
+void FHttpCall::HandleFinished()
+{
+	const QPointer<FHttpCall> Alive(this);
+	if (Reply->bytesAvailable() > 0)
+	{
+		HandleBytes();
+	}
+	if (!Alive || !Reply)
+	{
+		return;
+	}
+	const int32 Status = GetStatus();
+	if (Status >= 300 && Status < 400)
+	{
+		if (!FollowRedirect(Status))
+		{
+			End(DescribeStatus(Status));
+		}
+	}
+	else if (Status != 0 && !IsSuccess())
+	{
+		End(DescribeStatus(Status));
+	}
+	else
+	{
+		End(Reply->error() == QNetworkReply::NoError ? FText() : DescribeNetworkError());
+	}
+}
+
+void FHttpCall::HandleLimit()
+{
+	const double Seconds = static_cast<double>(Limit.interval()) / 1000.0;
+	End(FailureText::TimeLimit(Phase, Seconds, GetHost()));
+}
+
+bool FHttpCall::FollowRedirect(int32 Status)
+{
+	const QUrl Target = Request.Url.resolved(QUrl(QString::fromLatin1(Reply->rawHeader("Location"))));
+	// 303 asks for a GET of something else, which is no answer to a question.
+	const bool bAgain = Status == 301 || Status == 302 || Status == 307 || Status == 308;
+	if (!bAgain || !Reply->hasRawHeader("Location"))
+	{
+		return false;
+	}
+	if (!IsSameOrigin(Target, Request.Url))
+	{
+		End(FailureText::RedirectedElsewhere(ToFString(Target.adjusted(QUrl::RemoveUserInfo | QUrl::RemovePath | QUrl::RemoveQuery | QUrl::RemoveFragment))));
+		return true;
+	}
+	if (++Redirects > MaxRedirects)
+	{
+		End(FailureText::TooManyRedirects());
+		return true;
+	}
+	Reply->disconnect(this);
+	Reply->deleteLater();
+	Request.Url = Target;
+	Refusal.clear();
+	Send();
+	return true;
+}
+
+void FHttpCall::End(const FText& Failure)
+{
+	HangUp();
+	// Destroys this call, as a rule, and with it the function that is running.
+	const TFunction<void(const FText&)> Handler = OnEnded;
+	Handler(Failure);
+}
+
+bool FHttpCall::IsSuccess() const
+{
+	return GetStatus() >= 200 && GetStatus() < 300;
+}
+
+int32 FHttpCall::GetStatus() const
+{
+	return Reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+FText FHttpCall::DescribeStatus(int32 Status) const
+{
+	bool bSeconds = false;
+	const uint RetryAfter = Reply->rawHeader("Retry-After").trimmed().toUInt(&bSeconds);
+	const FString Detail = ReadErrorMessage(std::string_view(Refusal.constData(), static_cast<std::size_t>(Refusal.size())));
+	return FailureText::Status(Status, Detail, bSeconds ? FString::FromInt(static_cast<int32>(RetryAfter)) : FString());
+}
+
+FText FHttpCall::DescribeNetworkError() const
+{
+	switch (Reply->error())
+	{
+	case QNetworkReply::ConnectionRefusedError:
+	case QNetworkReply::NetworkSessionFailedError:
+	case QNetworkReply::TemporaryNetworkFailureError:
+	case QNetworkReply::UnknownNetworkError:
+		return FailureText::NotReached(GetHost());
+	case QNetworkReply::HostNotFoundError:
+		return FailureText::HostNotFound(GetHost());
+	case QNetworkReply::SslHandshakeFailedError:
+		return FailureText::NotSecure(GetHost());
+	case QNetworkReply::ProxyConnectionRefusedError:
+	case QNetworkReply::ProxyConnectionClosedError:
+	case QNetworkReply::ProxyNotFoundError:
+	case QNetworkReply::ProxyTimeoutError:
+	case QNetworkReply::ProxyAuthenticationRequiredError:
+	case QNetworkReply::UnknownProxyError:
+		return FailureText::ProxyFailed();
+	case QNetworkReply::ProtocolInvalidOperationError:
+	case QNetworkReply::ProtocolFailure:
+		return FailureText::NotAnAnswer();
+	default:
+		return FailureText::BrokenOff();
+	}
+}
+
+FString FHttpCall::GetHost() const
+{
+	return ToFString(Request.Url.port() < 0 ? Request.Url.host() : Request.Url.host() + QLatin1Char(':') + QString::number(Request.Url.port()));
+}

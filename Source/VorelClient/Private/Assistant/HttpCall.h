@@ -1,0 +1,71 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Assistant/AssistantEndpoint.h"
+#include "Assistant/FailureText.h"
+#include <QByteArray>
+#include <QObject>
+#include <QTimer>
+#include <QUrl>
+#include <string_view>
+
+class QNetworkAccessManager;
+class QNetworkReply;
+
+struct FHttpRequest
+{
+	QUrl Url;
+	// Empty: GET, else POST of this JSON.
+	QByteArray Body;
+	QByteArray Accept;
+	QByteArray ApiKey;
+};
+
+// One exchange with a server on the game thread's event loop, with separate limits for connecting, the first byte and the pauses between bytes.
+// Redirects are followed within the origin alone, so that the key never leaves it. Destroying the call hangs up in silence.
+class FHttpCall final : public QObject
+{
+public:
+	FHttpCall(QNetworkAccessManager& InNetwork, FHttpRequest InRequest, const FRequestLimits& InLimits);
+	~FHttpCall() override;
+
+	// OnBody gets the bytes of a successful reply as they come; it may let go of the call and hang up, not destroy it. OnEnded comes last, with
+	// the reason when the reply was no success or is not complete, else with an empty text; it may destroy the call.
+	TFunction<void(std::string_view)> OnBody;
+	TFunction<void(const FText& Failure)> OnEnded;
+
+	void Start();
+
+	// The caller has all it wants. The server gets a moment to end its reply, so that a complete exchange doesn't look like a hang-up.
+	void LetGo();
+	void HangUp();
+
+private:
+	void Send();
+	void StartLimit(FailureText::EPhase InPhase);
+	void HandleBytes();
+	void HandleFinished();
+	void HandleLimit();
+	bool FollowRedirect(int32 Status);
+	void End(const FText& Failure);
+
+	bool IsSuccess() const;
+	int32 GetStatus() const;
+	FText DescribeStatus(int32 Status) const;
+	FText DescribeNetworkError() const;
+	FString GetHost() const;
+
+	QNetworkAccessManager& Network;
+	FHttpRequest Request;
+	FRequestLimits Limits;
+	QNetworkReply* Reply = nullptr;
+	QTimer Limit;
+	FailureText::EPhase Phase = FailureText::EPhase::Connecting;
+	// What the server wrote to a refusal, up to a limit.
+	QByteArray Refusal;
+	int32 Redirects = 0;
+};
+
+// Without cookies and cache, and past the proxy for this machine's own addresses.
+TUniquePtr<QNetworkAccessManager> MakeNetwork();

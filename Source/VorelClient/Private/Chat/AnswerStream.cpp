@@ -1,0 +1,63 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Chat/AnswerStream.h"
+
+#include "Chat/AnswerNote.h"
+
+FAnswerStream::FAnswerStream(QNetworkAccessManager& Network, FAssistantEndpoint& Endpoint, const FRequestLimits& Limits)
+	: Call(Network, Endpoint, Limits)
+{
+	Call.OnText = [this](const FString& Text)
+	{
+		Waiting += Text;
+		AskForFrame();
+	};
+	Call.OnEnded = [this](const FAnswerEnd& InEnd)
+	{
+		Waiting += GetAnswerNote(InEnd.Kind);
+		End = InEnd;
+		AskForFrame();
+	};
+}
+
+FAnswerStream::~FAnswerStream()
+{
+	FTSTicker::RemoveTicker(Frame);
+}
+
+void FAnswerStream::Start(const TArray<FChatMessage>& Messages)
+{
+	Call.Start(Messages);
+}
+
+FString FAnswerStream::Cancel()
+{
+	bCancelled = true;
+	FTSTicker::RemoveTicker(Frame);
+	return ::MoveTemp(Waiting);
+}
+
+void FAnswerStream::AskForFrame()
+{
+	if (!Frame.IsValid() && !bCancelled)
+	{
+		Frame = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateSP(this, &FAnswerStream::HandleFrame));
+	}
+}
+
+bool FAnswerStream::HandleFrame(float DeltaTime)
+{
+	const TSharedRef<FAnswerStream> KeptAlive = AsShared();
+	Frame.Reset();
+	const FString Text = ::MoveTemp(Waiting);
+	Waiting.Reset();
+	if (!Text.IsEmpty())
+	{
+		OnText(Text);
+	}
+	if (End && !bCancelled)
+	{
+		OnEnded(*End);
+	}
+	return false;
+}

@@ -1,0 +1,33 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Assistant/AnswerCall.h"
+#include "Containers/Ticker.h"
+
+// Hands over what a call delivers at most once a frame, however many packets it came in.
+class FAnswerStream : public TSharedFromThis<FAnswerStream>
+{
+public:
+	FAnswerStream(QNetworkAccessManager& Network, FAssistantEndpoint& Endpoint, const FRequestLimits& Limits);
+	~FAnswerStream();
+
+	// Both fire in a frame after Start, and may let go of the stream. OnEnded comes once and last, in the same frame as the rest of the text.
+	TFunction<void(const FString&)> OnText;
+	TFunction<void(const FAnswerEnd&)> OnEnded;
+
+	void Start(const TArray<FChatMessage>& Messages);
+
+	// Nothing fires from now on; the server is hung up on when the stream goes. Returns what had arrived and was not handed over.
+	FString Cancel();
+
+private:
+	void AskForFrame();
+	bool HandleFrame(float DeltaTime);
+
+	FAnswerCall Call;
+	FString Waiting;
+	TOptional<FAnswerEnd> End;
+	FTSTicker::FDelegateHandle Frame;
+	bool bCancelled = false;
+};

@@ -1,0 +1,22 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "CoreMinimal.h"
+
+// What the program was told on its command line. What is left empty comes from the user's settings.
+struct FVorelClientOptions
+{
+	// Base address of a chat-completions server. Neither here nor in the settings: the embedded local service.
+	FString AssistantUrl;
+
+	// Empty: the first one that the server names.
+	FString Model;
+
+	// Pause of the local service between two pieces of an answer. Negative: its own natural pace.
+	int32 GuidePieceMilliseconds = -1;
+
+	// To be given before the module VorelClient is loaded, which reads it once.
+	static void Set(const FVorelClientOptions& Options);
+	static const FVorelClientOptions& Get();
+};
