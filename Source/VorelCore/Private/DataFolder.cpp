@@ -29,6 +29,11 @@ void FDataFolder::Set(const FString& Path)
 	GetChosenFolder() = FPaths::ConvertRelativePathToFull(Path);
 }
 
+void FDataFolder::Reset()
+{
+	GetChosenFolder().Empty();
+}
+
 FString FDataFolder::Get()
 {
 	if (!GetChosenFolder().IsEmpty())

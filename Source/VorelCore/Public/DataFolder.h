@@ -11,6 +11,9 @@ public:
 	// In place of the user's own folder. A relative path counts from the current folder at the time of the call.
 	static void Set(const FString& Path);
 
+	// Takes back what was set.
+	static void Reset();
+
 	// What was set, else "vorel-ai" in XDG_DATA_HOME or in ~/.local/share. Empty where the user has no home. It need not exist.
 	static FString Get();
 

@@ -1,0 +1,48 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "LogVorel.h"
+#include "Misc/OutputDeviceRedirector.h"
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+// Keeps what is logged while it lives.
+class FLogRecorder : public FOutputDevice
+{
+public:
+	FLogRecorder() { GLog->AddOutputDevice(this); }
+	~FLogRecorder() override { GLog->RemoveOutputDevice(this); }
+
+	void Serialize(const TCHAR* Text, ELogVerbosity::Type Verbosity, const FName& Category) override
+	{
+		Lines.push_back(
+			std::string(TCHAR_TO_UTF8(Category.ToString())) + ": " + TCHAR_TO_UTF8(ToString(Verbosity)) + ": " + TCHAR_TO_UTF8(Text));
+	}
+
+	std::vector<std::string> Lines;
+};
+
+// A test with a folder of its own, which goes afterwards.
+class FFolderTest : public testing::Test
+{
+protected:
+	FFolderTest()
+	{
+		std::string Pattern = (std::filesystem::temp_directory_path() / "vorel-core-XXXXXX").string();
+		check(::mkdtemp(Pattern.data()));
+		Folder = Pattern;
+	}
+
+	~FFolderTest() override { std::filesystem::remove_all(Folder); }
+
+	FString InFolder(const char* Name) const { return FString((Folder / Name).c_str()); }
+
+	void Write(const char* Name, std::string_view Text) const { std::ofstream(Folder / Name) << Text; }
+
+	std::filesystem::path Folder;
+};

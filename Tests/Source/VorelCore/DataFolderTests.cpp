@@ -1,0 +1,80 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "CoreTestSupport.h"
+#include "DataFolder.h"
+
+namespace
+{
+// Sets an environment variable, or unsets it for null, until the end of the scope.
+class FVariable
+{
+public:
+	FVariable(const char* InName, const char* Value)
+		: Name(InName)
+		, OldValue(::getenv(InName) ? TOptional<std::string>(::getenv(InName)) : TOptional<std::string>())
+	{
+		Set(Value);
+	}
+
+	~FVariable() { Set(OldValue ? OldValue->c_str() : nullptr); }
+
+private:
+	void Set(const char* Value) const { Value ? ::setenv(Name, Value, 1) : ::unsetenv(Name); }
+
+	const char* Name;
+	TOptional<std::string> OldValue;
+};
+
+class FDataFolderTest : public FFolderTest
+{
+protected:
+	~FDataFolderTest() override { FDataFolder::Reset(); }
+};
+} // namespace
+
+TEST_F(FDataFolderTest, FollowsTheBaseDirectoryConvention)
+{
+	const FVariable Home("HOME", "/home/someone");
+	{
+		const FVariable DataHome("XDG_DATA_HOME", "/data");
+		EXPECT_EQ(FDataFolder::Get(), TEXT("/data/vorel-ai"));
+	}
+	for (const char* Ignored : {static_cast<const char*>(nullptr), "", "relative/path"})
+	{
+		const FVariable DataHome("XDG_DATA_HOME", Ignored);
+		EXPECT_EQ(FDataFolder::Get(), TEXT("/home/someone/.local/share/vorel-ai"));
+	}
+	FDataFolder::Set(TEXT("/elsewhere/x"));
+	EXPECT_EQ(FDataFolder::Get(), TEXT("/elsewhere/x"));
+}
+
+TEST_F(FDataFolderTest, IsMadeOnDemandForItsOwnerAlone)
+{
+	FDataFolder::Set(InFolder("a/b/c"));
+	FString Error;
+	for (int32 Time = 0; Time < 2; ++Time)
+	{
+		EXPECT_TRUE(FDataFolder::Create(Error)) << TCHAR_TO_UTF8(Error);
+	}
+	using enum std::filesystem::perms;
+	EXPECT_EQ(std::filesystem::status(Folder / "a/b/c").permissions(), owner_all);
+}
+
+TEST_F(FDataFolderTest, TellsWhyItCantBeMade)
+{
+	Write("file", "");
+	FString Error;
+	FDataFolder::Set(InFolder("file"));
+	EXPECT_FALSE(FDataFolder::Create(Error));
+	EXPECT_TRUE(Error.Contains(InFolder("file"))) << TCHAR_TO_UTF8(Error);
+
+	FDataFolder::Set(InFolder("file/below"));
+	EXPECT_FALSE(FDataFolder::Create(Error));
+
+	FDataFolder::Reset();
+	const FVariable Home("HOME", nullptr);
+	const FVariable DataHome("XDG_DATA_HOME", nullptr);
+	EXPECT_TRUE(FDataFolder::Get().IsEmpty());
+	EXPECT_FALSE(FDataFolder::Create(Error));
+	EXPECT_TRUE(Error.Contains(TEXT("--data-dir"))) << TCHAR_TO_UTF8(Error);
+}
