@@ -26,12 +26,7 @@ FString GetFolderVariable(const ANSICHAR* Name)
 
 void FDataFolder::Set(const FString& Path)
 {
-	GetChosenFolder() = FPaths::ConvertRelativePathToFull(Path);
-}
-
-void FDataFolder::Reset()
-{
-	GetChosenFolder().Empty();
+	GetChosenFolder() = Path.IsEmpty() ? Path : FPaths::ConvertRelativePathToFull(Path);
 }
 
 FString FDataFolder::Get()

@@ -3,6 +3,7 @@
 #include "LinkAddress.h"
 
 #include "MarkdownEntities.h"
+#include <algorithm>
 
 namespace
 {
@@ -15,6 +16,8 @@ std::string Decode(const MD_ATTRIBUTE& Attribute)
 		const std::string_view Piece(Attribute.text + Start, Attribute.substr_offsets[Index + 1] - Start);
 		Result += Attribute.substr_types[Index] == MD_TEXT_ENTITY ? DecodeEntity(Piece) : std::string(Piece);
 	}
+	// The reader lets a line's end into an address in angle brackets.
+	std::ranges::replace(Result, '\n', ' ');
 	return Result;
 }
 } // namespace
@@ -36,17 +39,22 @@ void FLinkAddresses::AddLinkText(std::string_view Text)
 std::string FLinkAddresses::EndLink(const MD_ATTRIBUTE& Href)
 {
 	bInLink = false;
-	const std::string Address = Take(Href);
+	const std::string Address = Decode(Href);
 	const bool bTold = Address == LinkText || Address == "mailto:" + LinkText;
-	return Address.empty() || bTold ? std::string() : " (" + Address + ")";
+	return Address.empty() || bTold ? std::string() : " (" + Take(Address) + ")";
 }
 
-std::string FLinkAddresses::Take(const MD_ATTRIBUTE& Address)
+std::string FLinkAddresses::Take(std::string Address)
 {
-	if (Address.size > Budget)
+	if (Address.size() > Budget)
 	{
 		return "\u2026";
 	}
-	Budget -= Address.size;
-	return Decode(Address);
+	Budget -= Address.size();
+	return Address;
+}
+
+std::string FLinkAddresses::GetImageText(const MD_ATTRIBUTE& Source)
+{
+	return Take(Decode(Source));
 }

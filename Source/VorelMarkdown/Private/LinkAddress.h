@@ -23,10 +23,10 @@ public:
 	std::string EndLink(const MD_ATTRIBUTE& Href);
 
 	// What stands in place of an image without description.
-	std::string GetImageText(const MD_ATTRIBUTE& Source) { return Take(Source); }
+	std::string GetImageText(const MD_ATTRIBUTE& Source);
 
 private:
-	std::string Take(const MD_ATTRIBUTE& Address);
+	std::string Take(std::string Address);
 
 	size_t Budget;
 	std::string LinkText;

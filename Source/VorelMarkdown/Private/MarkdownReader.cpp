@@ -23,9 +23,9 @@ int OnLeaveBlock(MD_BLOCKTYPE Type, void*, void* UserData)
 	return 0;
 }
 
-int OnEnterSpan(MD_SPANTYPE Type, void* Detail, void* UserData)
+int OnEnterSpan(MD_SPANTYPE Type, void*, void* UserData)
 {
-	HandlerOf(UserData).EnterSpan(Type, Detail);
+	HandlerOf(UserData).EnterSpan(Type);
 	return 0;
 }
 

@@ -13,7 +13,7 @@ public:
 
 	virtual void EnterBlock(MD_BLOCKTYPE Type, const void* Detail) = 0;
 	virtual void LeaveBlock(MD_BLOCKTYPE Type) = 0;
-	virtual void EnterSpan(MD_SPANTYPE Type, const void* Detail) = 0;
+	virtual void EnterSpan(MD_SPANTYPE Type) = 0;
 	virtual void LeaveSpan(MD_SPANTYPE Type, const void* Detail) = 0;
 	virtual void Text(MD_TEXTTYPE Type, std::string_view Text) = 0;
 };

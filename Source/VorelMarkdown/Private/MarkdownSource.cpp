@@ -23,6 +23,14 @@ bool IsLowSurrogate(char32_t Unit)
 	return (Unit & 0xFC00) == 0xDC00;
 }
 
+// At the end of the text it may still become a pair or a fence, and behind a backslash it is text anyway.
+bool IsSingleTilde(FStringView Text, std::ptrdiff_t Position)
+{
+	const TCHAR* At = Text.GetData() + Position;
+	const TCHAR Before = Position > 0 ? At[-1] : TCHAR(0);
+	return At + 1 != Text.end() && At[1] != '~' && Before != '~' && Before != '\\';
+}
+
 template <typename VisitorType>
 void ForEachLine(std::string_view Text, VisitorType Visit)
 {
@@ -117,7 +125,8 @@ void FMarkdownSource::Convert(FStringView Markdown)
 		{
 			++At;
 		}
-		AppendUtf8(Bytes, Sanitize(CodePoint));
+		const bool bSingleTilde = CodePoint == '~' && IsSingleTilde(Markdown, At - Markdown.begin() - 1);
+		AppendUtf8(Bytes, bSingleTilde ? TildeMark : Sanitize(CodePoint));
 	}
 }
 
@@ -157,7 +166,7 @@ char32_t FMarkdownSource::Sanitize(char32_t CodePoint)
 	}
 	const bool bControl = CodePoint < 0x20 || (CodePoint >= 0x7F && CodePoint < 0xA0);
 	const bool bLoneSurrogate = CodePoint >= 0xD800 && CodePoint < 0xE000;
-	return bControl || bLoneSurrogate ? ReplacementCharacter : CodePoint;
+	return bControl || bLoneSurrogate || CodePoint == TildeMark ? ReplacementCharacter : CodePoint;
 }
 
 void FMarkdownSource::AppendUtf8(std::string& Out, char32_t CodePoint)

@@ -14,6 +14,10 @@ public:
 	// Stands before a character that must not begin a construct. It means nothing and is dropped when text is written.
 	static constexpr char GuardMark = '\x01';
 
+	// A noncharacter that stands for a single "~", which md4c 0.4.8 would take as the beginning or end of struck text wherever it is: "~5
+	// to ~10 minutes".
+	static constexpr char32_t TildeMark = 0xFDD0;
+
 	static constexpr char32_t ReplacementCharacter = 0xFFFD;
 
 	// What is written for a character: a newline for each kind of line end, the replacement character for what nobody can see.

@@ -11,6 +11,27 @@ namespace
 constexpr std::string_view Rule = "\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014"
 								  "\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014";
 
+EMarkupWord GetWord(MD_SPANTYPE Type)
+{
+	switch (Type)
+	{
+	case MD_SPAN_EM:
+		return EMarkupWord::Emphasis;
+	case MD_SPAN_STRONG:
+		return EMarkupWord::Strong;
+	case MD_SPAN_DEL:
+		return EMarkupWord::Strikethrough;
+	case MD_SPAN_A:
+		return EMarkupWord::Link;
+	case MD_SPAN_CODE:
+		return EMarkupWord::InlineCode;
+	case MD_SPAN_IMG:
+		return EMarkupWord::Image;
+	default:
+		checkNoEntry();
+	}
+}
+
 int32 EstimateMarkupSize(std::string_view Source)
 {
 	return static_cast<int32>(FMath::Min<size_t>(Source.size() + Source.size() / 2, MAX_int32));
@@ -27,6 +48,7 @@ FMarkupRenderer::FMarkupRenderer(std::string_view Source)
 
 void FMarkupRenderer::EnterBlock(MD_BLOCKTYPE Type, const void* Detail)
 {
+	Spans.Clear();
 	switch (Type)
 	{
 	case MD_BLOCK_DOC:
@@ -57,6 +79,7 @@ void FMarkupRenderer::EnterBlock(MD_BLOCKTYPE Type, const void* Detail)
 
 void FMarkupRenderer::LeaveBlock(MD_BLOCKTYPE Type)
 {
+	Spans.Clear();
 	switch (Type)
 	{
 	case MD_BLOCK_QUOTE:
@@ -100,65 +123,35 @@ void FMarkupRenderer::EnterCode()
 	bInCodeBlock = true;
 }
 
-void FMarkupRenderer::EnterSpan(MD_SPANTYPE Type, const void* Detail)
+void FMarkupRenderer::EnterSpan(MD_SPANTYPE Type)
 {
+	if (Type == MD_SPAN_A)
+	{
+		Addresses.BeginLink();
+	}
+	if (Type == MD_SPAN_IMG && !Spans.IsOpen(MD_SPAN_IMG))
+	{
+		bImageHasText = false;
+	}
+	// The description of an image has no formats of its own.
 	const FMarkupStyle Outer = GetStyle();
-	if (ImageDepth > 0 && Type != MD_SPAN_IMG)
-	{
-		Spans.Add(Outer);
-		return;
-	}
-	switch (Type)
-	{
-	case MD_SPAN_EM:
-		Spans.Add(Outer.With(EMarkupWord::Emphasis));
-		return;
-	case MD_SPAN_STRONG:
-		Spans.Add(Outer.With(EMarkupWord::Strong));
-		return;
-	case MD_SPAN_DEL:
-		Spans.Add(Outer.With(EMarkupWord::Strikethrough));
-		return;
-	case MD_SPAN_CODE:
-		Spans.Add(Outer.With(EMarkupWord::InlineCode));
-		return;
-	case MD_SPAN_A:
-		Spans.Add(Outer.With(EMarkupWord::Link));
-		return Addresses.BeginLink();
-	case MD_SPAN_IMG:
-		Spans.Add(Outer.With(EMarkupWord::Image));
-		return EnterImage();
-	default:
-		checkNoEntry();
-	}
+	Spans.Enter(Type, Spans.IsOpen(MD_SPAN_IMG) ? Outer : Outer.With(GetWord(Type)));
 }
 
 void FMarkupRenderer::LeaveSpan(MD_SPANTYPE Type, const void* Detail)
 {
-	if (Type == MD_SPAN_IMG)
+	const FMarkupStyle Style = GetStyle();
+	if (!Spans.Leave(Type) || Spans.IsOpen(MD_SPAN_IMG))
 	{
-		LeaveImage(*static_cast<const MD_SPAN_IMG_DETAIL*>(Detail));
+		return;
 	}
-	Spans.Pop();
-	if (Type == MD_SPAN_A && ImageDepth == 0)
+	if (Type == MD_SPAN_A)
 	{
-		AddText(Addresses.EndLink(static_cast<const MD_SPAN_A_DETAIL*>(Detail)->href));
+		AddText(GetStyle(), Addresses.EndLink(static_cast<const MD_SPAN_A_DETAIL*>(Detail)->href));
 	}
-}
-
-void FMarkupRenderer::EnterImage()
-{
-	if (ImageDepth++ == 0)
+	else if (Type == MD_SPAN_IMG && !bImageHasText)
 	{
-		bImageHasText = false;
-	}
-}
-
-void FMarkupRenderer::LeaveImage(const MD_SPAN_IMG_DETAIL& Detail)
-{
-	if (--ImageDepth == 0 && !bImageHasText)
-	{
-		AddText(Addresses.GetImageText(Detail.src));
+		AddText(Style, Addresses.GetImageText(static_cast<const MD_SPAN_IMG_DETAIL*>(Detail)->src));
 	}
 }
 
@@ -169,23 +162,22 @@ void FMarkupRenderer::Text(MD_TEXTTYPE Type, std::string_view Text)
 	case MD_TEXT_BR:
 		return AddHardBreak();
 	case MD_TEXT_SOFTBR:
-		return AddText(" ");
+		return AddText(GetStyle(), " ");
 	case MD_TEXT_ENTITY:
-		return AddText(DecodeEntity(Text));
+		return AddText(GetStyle(), DecodeEntity(Text));
 	case MD_TEXT_CODE:
-		return bInCodeBlock ? CodeBlock.Text(Text) : AddText(Text);
+		return bInCodeBlock ? CodeBlock.Text(Text) : AddText(GetStyle(), Text);
 	default:
-		return AddText(Text);
+		return AddText(GetStyle(), Text);
 	}
 }
 
-void FMarkupRenderer::AddText(std::string_view Text)
+void FMarkupRenderer::AddText(const FMarkupStyle& Style, std::string_view Text)
 {
 	if (Text.empty() || Text == std::string_view(&FMarkdownSource::GuardMark, 1))
 	{
 		return;
 	}
-	const FMarkupStyle Style = GetStyle();
 	Blocks.OpenLine(GetBlockStyle());
 	Addresses.AddLinkText(Text);
 	bImageHasText = true;
@@ -194,10 +186,9 @@ void FMarkupRenderer::AddText(std::string_view Text)
 
 void FMarkupRenderer::AddHardBreak()
 {
-	if (ImageDepth > 0)
+	if (Spans.IsOpen(MD_SPAN_IMG))
 	{
-		AddText(" ");
-		return;
+		return AddText(GetStyle(), " ");
 	}
 	Blocks.EndBlock();
 }
@@ -211,5 +202,6 @@ FMarkupStyle FMarkupRenderer::GetBlockStyle() const
 
 FMarkupStyle FMarkupRenderer::GetStyle() const
 {
-	return Spans.IsEmpty() ? GetBlockStyle() : Spans.Last();
+	const FMarkupStyle* Style = Spans.GetStyle();
+	return Style ? *Style : GetBlockStyle();
 }

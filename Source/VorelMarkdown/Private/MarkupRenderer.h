@@ -7,6 +7,7 @@
 #include "LinkAddress.h"
 #include "MarkdownReader.h"
 #include "MarkupWriter.h"
+#include "SpanStack.h"
 
 // Turns the reader's events into markup in one pass.
 class FMarkupRenderer : public IMarkdownHandler
@@ -19,7 +20,7 @@ public:
 
 	void EnterBlock(MD_BLOCKTYPE Type, const void* Detail) override;
 	void LeaveBlock(MD_BLOCKTYPE Type) override;
-	void EnterSpan(MD_SPANTYPE Type, const void* Detail) override;
+	void EnterSpan(MD_SPANTYPE Type) override;
 	void LeaveSpan(MD_SPANTYPE Type, const void* Detail) override;
 	void Text(MD_TEXTTYPE Type, std::string_view Text) override;
 
@@ -28,11 +29,8 @@ private:
 	void EnterHeading(unsigned Level);
 	void AddRule();
 
-	void EnterImage();
-	void LeaveImage(const MD_SPAN_IMG_DETAIL& Detail);
-
-	// Text of the current span. Takes its place on the current line, or begins it.
-	void AddText(std::string_view Text);
+	// Takes its place on the current line, or begins it.
+	void AddText(const FMarkupStyle& Style, std::string_view Text);
 	void AddHardBreak();
 
 	FMarkupStyle GetBlockStyle() const;
@@ -47,10 +45,6 @@ private:
 	// Set in a heading, whose text has its style whatever is around it.
 	TOptional<EMarkupBlock> Heading;
 
-	// One entry per open span; each knows its outer ones.
-	TArray<FMarkupStyle> Spans;
-
-	// Open images. An image shows its description without further formatting.
-	int32 ImageDepth = 0;
+	FSpanStack Spans;
 	bool bImageHasText = false;
 };

@@ -98,7 +98,8 @@ void AddText(FString& Out, std::string_view Utf8, AddAsciiType AddAscii)
 	{
 		if (static_cast<uint8>(Utf8[Position]) >= 0x80)
 		{
-			Buffer.AddCodePoint(ReadCodePoint(Utf8, Position));
+			const char32_t CodePoint = ReadCodePoint(Utf8, Position);
+			Buffer.AddCodePoint(CodePoint == FMarkdownSource::TildeMark ? U'~' : CodePoint);
 			continue;
 		}
 		if (Utf8[Position] != FMarkdownSource::GuardMark)

@@ -70,7 +70,7 @@ public:
 	}
 
 	void LeaveBlock(MD_BLOCKTYPE) override { OpenFence = 0; }
-	void EnterSpan(MD_SPANTYPE, const void*) override {}
+	void EnterSpan(MD_SPANTYPE) override {}
 	void LeaveSpan(MD_SPANTYPE, const void*) override {}
 
 	void Text(MD_TEXTTYPE, std::string_view Text) override
@@ -112,6 +112,6 @@ size_t GetSettledSize(std::string_view Source)
 		return Source.size();
 	}
 	const char OpenFence = FindOpenFence(Source.substr(0, LineStart + PrefixSize));
-	const bool bMayCloseFence = Content.size() < FenceLength && ConsistsOf(Content, OpenFence);
+	const bool bMayCloseFence = bFence && Content.size() < FenceLength && ConsistsOf(Content, OpenFence);
 	return OpenFence == 0 || bMayCloseFence ? LineStart : Source.size();
 }

@@ -28,7 +28,7 @@ private:
 class FDataFolderTest : public FFolderTest
 {
 protected:
-	~FDataFolderTest() override { FDataFolder::Reset(); }
+	~FDataFolderTest() override { FDataFolder::Set(FString()); }
 };
 } // namespace
 
@@ -71,7 +71,7 @@ TEST_F(FDataFolderTest, TellsWhyItCantBeMade)
 	FDataFolder::Set(InFolder("file/below"));
 	EXPECT_FALSE(FDataFolder::Create(Error));
 
-	FDataFolder::Reset();
+	FDataFolder::Set(FString());
 	const FVariable Home("HOME", nullptr);
 	const FVariable DataHome("XDG_DATA_HOME", nullptr);
 	EXPECT_TRUE(FDataFolder::Get().IsEmpty());

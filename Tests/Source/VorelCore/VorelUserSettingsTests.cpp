@@ -111,5 +111,5 @@ TEST_F(FVorelUserSettingsTest, TheModuleReadsTheFileOfTheDataFolder)
 	FModuleManager::Get().LoadModuleChecked(TEXT("VorelCore"));
 	EXPECT_EQ(Settings->GetValues().AssistantModel, TEXT("from the folder"));
 	FModuleManager::Get().UnloadModule(TEXT("VorelCore"));
-	FDataFolder::Reset();
+	FDataFolder::Set(FString());
 }

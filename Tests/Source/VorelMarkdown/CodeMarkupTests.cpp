@@ -74,7 +74,7 @@ TEST(CodeMarkup, TextThatLooksLikeThePlaceholderSurvives)
 
 TEST(CodeMarkup, ReadsBackAsItWasWritten)
 {
-	for (const char* Code : {"&amp; &lt;/&gt; </> <</>> &</>;\n", "a\n\n\nb\n\n", "\t\t\n \t x\n"})
+	for (const char* Code : {"&amp; &lt;/&gt; </> <</>> &</>;\n", "a\n\n\nb\n\n", "x\n\t\t\n \t x\n"})
 	{
 		EXPECT_EQ(ReadBack(RenderShort(Fence(Code))) + "\n", Code);
 	}

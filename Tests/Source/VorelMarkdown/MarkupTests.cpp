@@ -56,6 +56,8 @@ TEST(Markup, InlineFormats)
 		{"**a _b_**", "<Paragraph.Strong>a </><Paragraph.Strong.Emphasis>b</>"},
 		{"*a **b***", "<Paragraph.Emphasis>a </><Paragraph.Emphasis.Strong>b</>"},
 		{"~~a~~", "<Paragraph.Strikethrough>a</>"},
+		{"~5 to ~10 \\~x~ `~y` [z](~u)",
+			"<Paragraph>~5 to ~10 ~x~ </><Paragraph.InlineCode>~y</><Paragraph> </><Paragraph.Link>z</><Paragraph> (~u)</>"},
 		{"**`a`**", "<Paragraph.Strong.InlineCode>a</>"},
 		{"`a  b\nc`", "<Paragraph.InlineCode>a  b c</>"},
 		{"\\*a\\*", "<Paragraph>*a*</>"},
@@ -69,7 +71,16 @@ TEST(Markup, OfMoreThanThreeWordsTheInnermostStay)
 		{"*a **b ~~c `d`~~***", "<Paragraph.Emphasis>a </><Paragraph.Emphasis.Strong>b </>"
 								"<Paragraph.Emphasis.Strong.Strikethrough>c </><Paragraph.Strong.Strikethrough.InlineCode>d</>"},
 		{"**a **b** c**", "<Paragraph.Strong>a b c</>"},
-		{"*a **b *c***", "<Paragraph.Emphasis>a </><Paragraph.Emphasis.Strong>b </><Paragraph.Strong.Emphasis>c</>"},
+		{"*a **b _c_***", "<Paragraph.Emphasis>a </><Paragraph.Emphasis.Strong>b </><Paragraph.Strong.Emphasis>c</>"},
+	});
+}
+
+TEST(Markup, DelimitersInAnAddressDoNotLeakIntoTheNextBlock)
+{
+	ExpectMarkup({
+		{"~~a [b](~~c)\n\nd",
+			"<Paragraph.Strikethrough>a </><Paragraph.Strikethrough.Link>b</><Paragraph.Strikethrough> (~~c)</>\n\n<Paragraph>d</>"},
+		{"[~~a](b~~c) d~~ e", "<Paragraph.Link>~~a</><Paragraph> (b~~c) d e</>"},
 	});
 }
 
