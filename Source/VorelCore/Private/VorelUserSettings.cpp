@@ -124,6 +124,10 @@ void ReadEntries(const FString& File, const std::string& Text, FVorelSettingsVal
 		const auto Line = static_cast<int32>(1 + std::count(Text.begin(), Text.begin() + Position, '\n'));
 		UE_LOG(LogVorel, Warning, TEXT("%s:%d: the file is ignored, it is not JSON from here on"), *File, Line);
 	}
+	catch (const FJson::out_of_range&)
+	{
+		UE_LOG(LogVorel, Warning, TEXT("%s: the file is ignored, it holds a number that is too large"), *File);
+	}
 }
 } // namespace
 

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "CoreTestSupport.h"
 #include "DataFolder.h"
+#include "FolderTest.h"
 
 namespace
 {
@@ -54,7 +54,7 @@ TEST_F(FDataFolderTest, IsMadeOnDemandForItsOwnerAlone)
 	FString Error;
 	for (int32 Time = 0; Time < 2; ++Time)
 	{
-		EXPECT_TRUE(FDataFolder::Create(Error)) << TCHAR_TO_UTF8(Error);
+		EXPECT_TRUE(FDataFolder::Create(Error)) << Error;
 	}
 	using enum std::filesystem::perms;
 	EXPECT_EQ(std::filesystem::status(Folder / "a/b/c").permissions(), owner_all);
@@ -66,7 +66,7 @@ TEST_F(FDataFolderTest, TellsWhyItCantBeMade)
 	FString Error;
 	FDataFolder::Set(InFolder("file"));
 	EXPECT_FALSE(FDataFolder::Create(Error));
-	EXPECT_TRUE(Error.Contains(InFolder("file"))) << TCHAR_TO_UTF8(Error);
+	EXPECT_TRUE(Error.Contains(InFolder("file"))) << Error;
 
 	FDataFolder::Set(InFolder("file/below"));
 	EXPECT_FALSE(FDataFolder::Create(Error));
@@ -76,5 +76,5 @@ TEST_F(FDataFolderTest, TellsWhyItCantBeMade)
 	const FVariable DataHome("XDG_DATA_HOME", nullptr);
 	EXPECT_TRUE(FDataFolder::Get().IsEmpty());
 	EXPECT_FALSE(FDataFolder::Create(Error));
-	EXPECT_TRUE(Error.Contains(TEXT("--data-dir"))) << TCHAR_TO_UTF8(Error);
+	EXPECT_TRUE(Error.Contains(TEXT("--data-dir"))) << Error;
 }

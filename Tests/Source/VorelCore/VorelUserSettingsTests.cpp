@@ -1,7 +1,7 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "CoreTestSupport.h"
 #include "DataFolder.h"
+#include "FolderTest.h"
 #include "Modules/ModuleManager.h"
 #include "VorelUserSettings.h"
 
@@ -13,31 +13,34 @@ protected:
 	~FVorelUserSettingsTest() override { Settings->Load(FString()); }
 
 	// The warnings given, each without the path of the file.
-	std::vector<std::string> Load(std::string_view Text)
+	TArray<FString> Load(std::string_view Text)
 	{
 		Write("settings.json", Text);
-		FLogRecorder Log;
+		const FLogCapture Log;
 		Settings->Load(InFolder("settings.json"));
-		const std::string Start = "LogVorel: Warning: " + (Folder / "settings.json").string() + ":";
-		for (std::string& Line : Log.Lines)
+		TArray<FString> Warnings;
+		for (const FLogCapture::FMessage& Message : Log.GetMessages())
 		{
-			EXPECT_TRUE(Line.starts_with(Start)) << Line;
-			Line.erase(0, Start.size());
+			EXPECT_EQ(Message.Category, FName(TEXT("LogVorel")));
+			EXPECT_EQ(Message.Verbosity, ELogVerbosity::Warning);
+			FString Warning = Message.Text;
+			EXPECT_TRUE(Warning.RemoveFromStart(InFolder("settings.json"))) << Warning;
+			Warnings.Add(Warning);
 		}
-		return Log.Lines;
+		return Warnings;
 	}
 
 	const TObjectPtr<UVorelUserSettings> Settings = UVorelUserSettings::Get();
 };
 
-using FWarnings = std::vector<std::string>;
+using FWarnings = TArray<FString>;
 } // namespace
 
 TEST_F(FVorelUserSettingsTest, DefaultsStandWhereThereIsNoFile)
 {
-	FLogRecorder Log;
+	const FLogCapture Log;
 	Settings->Load(InFolder("missing.json"));
-	EXPECT_TRUE(Log.Lines.empty());
+	EXPECT_TRUE(Log.GetMessages().IsEmpty());
 	EXPECT_EQ(Settings->GetValues().ConnectTimeoutSeconds, 10.0);
 	EXPECT_EQ(Settings->GetValues().FirstByteTimeoutSeconds, 120.0);
 	EXPECT_EQ(Settings->GetValues().IdleTimeoutSeconds, 60.0);
@@ -70,34 +73,34 @@ TEST_F(FVorelUserSettingsTest, TheAppAddressIsTheLocalServicesUnlessSet)
 
 TEST_F(FVorelUserSettingsTest, WrongEntriesAreReportedAndTheRestIsUsed)
 {
-	EXPECT_EQ(Load(R"({"colour": 1, "idleTimeoutSeconds": 5})"), FWarnings{" the entry \"colour\" is unknown and ignored"});
+	EXPECT_EQ(Load(R"({"colour": 1, "idleTimeoutSeconds": 5})"), FWarnings{TEXT(": the entry \"colour\" is unknown and ignored")});
 	EXPECT_EQ(Settings->GetValues().IdleTimeoutSeconds, 5.0);
 
 	for (const char* Wrong : {"0", "-1", "3600.5", "1e999", "\"10\"", "null", "true", "[]", "{}"})
 	{
 		const std::string Text = std::string("{\"connectTimeoutSeconds\": ") + Wrong + ", \"assistantModel\": \"m\"}";
 		const FWarnings Warnings = Load(Text);
-		ASSERT_EQ(Warnings.size(), 1u) << Wrong;
+		ASSERT_EQ(Warnings.Num(), 1) << Wrong;
 		EXPECT_EQ(Settings->GetValues().ConnectTimeoutSeconds, 10.0) << Wrong;
 	}
 	EXPECT_EQ(Load(R"({"connectTimeoutSeconds": 0})"),
-		FWarnings{" \"connectTimeoutSeconds\" is ignored, it must be a number of seconds above 0 and up to 3600"});
+		FWarnings{TEXT(": \"connectTimeoutSeconds\" is ignored, it must be a number of seconds above 0 and up to 3600")});
 	for (const char* Wrong : {"\"\"", "\"ftp://x\"", "\"http://\"", "\"http:///x\"", "\"http://a b\"", "\"example.org\"", "7"})
 	{
 		EXPECT_EQ(Load(std::string("{\"appUrl\": ") + Wrong + "}"),
-			FWarnings{" \"appUrl\" is ignored, it must be an address that starts with http:// or https://"});
+			FWarnings{TEXT(": \"appUrl\" is ignored, it must be an address that starts with http:// or https://")});
 	}
-	EXPECT_EQ(Load(R"({"assistantModel": 7})"), FWarnings{" \"assistantModel\" is ignored, it must be a text"});
+	EXPECT_EQ(Load(R"({"assistantModel": 7})"), FWarnings{TEXT(": \"assistantModel\" is ignored, it must be a text")});
 }
 
 TEST_F(FVorelUserSettingsTest, ABrokenFileIsReportedWithItsLineAndLeftAsItIs)
 {
 	const std::string Broken = "{\n\t\"appUrl\": \"http://x\",\n\t\"idleTimeoutSeconds\": oops\n}\n";
-	EXPECT_EQ(Load(Broken), FWarnings{"3: the file is ignored, it is not JSON from here on"});
-	EXPECT_EQ(Load(""), FWarnings{"1: the file is ignored, it is not JSON from here on"});
-	EXPECT_EQ(Load("[1]"), FWarnings{" the file is ignored, it must hold one JSON object"});
-	EXPECT_EQ(Load(std::string(100000, '[')).size(), 1u);
-	EXPECT_EQ(Load(Broken).size(), 1u);
+	EXPECT_EQ(Load(Broken), FWarnings{TEXT(":3: the file is ignored, it is not JSON from here on")});
+	EXPECT_EQ(Load(""), FWarnings{TEXT(":1: the file is ignored, it is not JSON from here on")});
+	EXPECT_EQ(Load("[1]"), FWarnings{TEXT(": the file is ignored, it must hold one JSON object")});
+	EXPECT_EQ(Load(std::string(100000, '[')).Num(), 1);
+	EXPECT_EQ(Load(Broken).Num(), 1);
 	EXPECT_TRUE(Settings->GetValues().AssistantUrl.IsEmpty());
 
 	std::ifstream File(Folder / "settings.json");

@@ -2,30 +2,14 @@
 
 #pragma once
 
-#include "LogVorel.h"
-#include "Misc/OutputDeviceRedirector.h"
+#include "CoreMinimal.h"
+#include "Support/LogCapture.h"
+#include "Support/Printers.h"
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 #include <unistd.h>
-#include <vector>
-
-// Keeps what is logged while it lives.
-class FLogRecorder : public FOutputDevice
-{
-public:
-	FLogRecorder() { GLog->AddOutputDevice(this); }
-	~FLogRecorder() override { GLog->RemoveOutputDevice(this); }
-
-	void Serialize(const TCHAR* Text, ELogVerbosity::Type Verbosity, const FName& Category) override
-	{
-		Lines.push_back(
-			std::string(TCHAR_TO_UTF8(Category.ToString())) + ": " + TCHAR_TO_UTF8(ToString(Verbosity)) + ": " + TCHAR_TO_UTF8(Text));
-	}
-
-	std::vector<std::string> Lines;
-};
 
 // A test with a folder of its own, which goes afterwards.
 class FFolderTest : public testing::Test
