@@ -12,7 +12,7 @@
 #include "Misc/Paths.h"
 #include "VorelClientOptions.h"
 #include "VorelUserSettings.h"
-#include <QtGlobal>
+#include <cstdlib>
 
 #define LOCTEXT_NAMESPACE "VorelClient"
 
@@ -85,7 +85,8 @@ FAssistantEndpoint FVorelClientServices::ChooseEndpoint()
 	// A model from the settings belongs to the server from the settings.
 	const bool bFromSettings = Options.AssistantUrl.IsEmpty() && Options.Model.IsEmpty();
 	Endpoint.Model = bFromSettings ? Settings.AssistantModel : Options.Model;
-	Endpoint.ApiKey = FString(qgetenv("VOREL_ASSISTANT_KEY").trimmed().constData());
+	const char* const Key = std::getenv("VOREL_ASSISTANT_KEY");
+	Endpoint.ApiKey = FString(Key ? Key : "").TrimStartAndEnd();
 	return Endpoint;
 }
 

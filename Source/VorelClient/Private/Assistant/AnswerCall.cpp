@@ -1,9 +1,10 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Assistant/AnswerCall.h"
-
-#include "Assistant/JsonText.h"
+#include "Assistant/HttpCall.h"
 #include "Assistant/QtText.h"
+
+#include "Assistant/AnswerCall.h"
+#include "Assistant/JsonText.h"
 
 namespace
 {
@@ -65,6 +66,8 @@ FAnswerCall::FAnswerCall(QNetworkAccessManager& InNetwork, FAssistantEndpoint& I
 {
 }
 
+FAnswerCall::~FAnswerCall() = default;
+
 void FAnswerCall::Start(const TArray<FChatMessage>& InMessages)
 {
 	Messages = InMessages;
@@ -92,8 +95,14 @@ void FAnswerCall::AskForModels()
 	FHttpRequest Request = MakeRequest(TEXT("/models"));
 	Request.Accept = "application/json";
 	Http = MakeUnique<FHttpCall>(Network, ::MoveTemp(Request), Limits);
-	Http->OnBody = [this](std::string_view Bytes) { Models.append(Bytes.substr(0, MaxModelListBytes - Models.size())); };
-	Http->OnEnded = [this](const FText& Failure) { ReadModels(Failure); };
+	Http->OnBody = [this](std::string_view Bytes)
+	{
+		Models.append(Bytes.substr(0, MaxModelListBytes - Models.size()));
+	};
+	Http->OnEnded = [this](const FText& Failure)
+	{
+		ReadModels(Failure);
+	};
 	Http->Start();
 }
 
@@ -122,8 +131,14 @@ void FAnswerCall::AskForAnswer()
 	Request.Accept = "text/event-stream, application/json";
 	Request.Body = QByteArray(Body.data(), static_cast<qsizetype>(Body.size()));
 	Http = MakeUnique<FHttpCall>(Network, ::MoveTemp(Request), Limits);
-	Http->OnBody = [this](std::string_view Bytes) { ReadAnswer(Bytes); };
-	Http->OnEnded = [this](const FText& Failure) { HandleAnswerEnded(Failure); };
+	Http->OnBody = [this](std::string_view Bytes)
+	{
+		ReadAnswer(Bytes);
+	};
+	Http->OnEnded = [this](const FText& Failure)
+	{
+		HandleAnswerEnded(Failure);
+	};
 	Http->Start();
 }
 

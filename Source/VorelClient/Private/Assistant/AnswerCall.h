@@ -5,7 +5,10 @@
 #include "Assistant/AnswerReader.h"
 #include "Assistant/AssistantEndpoint.h"
 #include "Assistant/ChatMessage.h"
-#include "Assistant/HttpCall.h"
+
+class FHttpCall;
+class QNetworkAccessManager;
+struct FHttpRequest;
 
 // Asks an assistant for the next message of a conversation, and for its first model before that where none is chosen.
 class FAnswerCall
@@ -13,8 +16,10 @@ class FAnswerCall
 public:
 	// The endpoint must outlive the call, which notes the server's first model there.
 	FAnswerCall(QNetworkAccessManager& InNetwork, FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits);
+	~FAnswerCall();
 
-	// Both fire on the game thread, OnEnded once and last, possibly before Start returns. Neither may destroy the call. Destroying it hangs up.
+	// Both fire on the game thread, OnEnded once and last, possibly before Start returns. Neither may destroy the call. Destroying it hangs
+	// up.
 	TFunction<void(const FString&)> OnText;
 	TFunction<void(const FAnswerEnd&)> OnEnded;
 

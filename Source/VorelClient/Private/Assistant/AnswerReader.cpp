@@ -28,7 +28,7 @@ FString ReadContent(const FJson& Content)
 }
 
 // Some servers write {"error": "text"}, others {"error": {"message": "text"}} or {"message": "text"}.
-FString ReadErrorMessage(const FJson& Root)
+FString FindErrorMessage(const FJson& Root)
 {
 	const FJson& Error = GetMember(Root, "error");
 	if (Error.is_string())
@@ -41,9 +41,9 @@ FString ReadErrorMessage(const FJson& Root)
 
 EAnswerEnd ReadFinishReason(const std::string& Reason)
 {
-	return Reason == "length"			? EAnswerEnd::LengthLimit
+	return Reason == "length"           ? EAnswerEnd::LengthLimit
 		   : Reason == "content_filter" ? EAnswerEnd::ContentFilter
-		   : Reason == "error"			? EAnswerEnd::Failed
+		   : Reason == "error"          ? EAnswerEnd::Failed
 										: EAnswerEnd::Complete;
 }
 
@@ -162,7 +162,7 @@ bool FAnswerReader::ReadObject(std::string_view Json)
 	const FJson& Error = GetMember(Root, "error");
 	if (!Error.is_null())
 	{
-		Fail(FailureText::ServerError(ReadErrorMessage(Root)));
+		Fail(FailureText::ServerError(FindErrorMessage(Root)));
 		return true;
 	}
 	for (const FJson& Choice : GetMember(Root, "choices"))
@@ -203,7 +203,7 @@ void FAnswerReader::Finish(EAnswerEnd Kind)
 	}
 	else if (AnswerLength == 0)
 	{
-		Fail(Kind == EAnswerEnd::LengthLimit	 ? FailureText::EmptyByLengthLimit()
+		Fail(Kind == EAnswerEnd::LengthLimit     ? FailureText::EmptyByLengthLimit()
 			 : Kind == EAnswerEnd::ContentFilter ? FailureText::Withheld()
 												 : FailureText::Empty());
 	}
@@ -223,5 +223,5 @@ void FAnswerReader::Fail(const FText& Failure)
 
 FString ReadErrorMessage(std::string_view Body)
 {
-	return ReadErrorMessage(ParseJson(Body));
+	return FindErrorMessage(ParseJson(Body));
 }

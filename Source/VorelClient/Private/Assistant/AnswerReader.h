@@ -22,8 +22,9 @@ struct FAnswerEnd
 	FText Failure;
 };
 
-// Reads the body of a successful chat-completions reply. Takes what compatible servers really send: a stream with or without end mark, finish
-// reason, role or usage, errors inside of it, and a whole JSON reply in its place. It is complete only with a finish reason or the end mark.
+// Reads the body of a successful chat-completions reply. Takes what compatible servers really send: a stream with or without end mark,
+// finish reason, role or usage, errors inside of it, and a whole JSON reply in its place. It is complete only with a finish reason or the
+// end mark.
 class FAnswerReader
 {
 public:

@@ -13,7 +13,8 @@ FText DescribeStatus(int32 Code)
 	case 400:
 		return LOCTEXT("Status400", "The assistant rejected the request. The conversation may be too long for it; a new chat can help.");
 	case 401:
-		return LOCTEXT("Status401", "The assistant did not accept the key. Set the environment variable VOREL_ASSISTANT_KEY to a valid one.");
+		return LOCTEXT(
+			"Status401", "The assistant did not accept the key. Set the environment variable VOREL_ASSISTANT_KEY to a valid one.");
 	case 402:
 		return LOCTEXT("Status402", "The account at this assistant has no credits left.");
 	case 403:
@@ -36,14 +37,14 @@ FText DescribeStatus(int32 Code)
 FText AppendDetail(const FText& Sentence, const FString& Detail)
 {
 	const FString Excerpt = MakeExcerpt(Detail);
-	return Excerpt.IsEmpty() ? Sentence
-							 : FText::Format(LOCTEXT("WithDetail", "{0} It says: {1}"), Sentence, FText::FromString(Excerpt));
+	return Excerpt.IsEmpty() ? Sentence : FText::Format(LOCTEXT("WithDetail", "{0} It says: {1}"), Sentence, FText::FromString(Excerpt));
 }
 } // namespace
 
 FText FailureText::BadAddress(const FString& Address)
 {
-	return FText::Format(LOCTEXT("BadAddress", "The assistant's address \"{0}\" is not a web address. It must begin with http:// or https://."),
+	return FText::Format(
+		LOCTEXT("BadAddress", "The assistant's address \"{0}\" is not a web address. It must begin with http:// or https://."),
 		FText::FromString(MakeExcerpt(Address)));
 }
 
@@ -61,7 +62,8 @@ FText FailureText::HostNotFound(const FString& Host)
 FText FailureText::NotSecure(const FString& Host)
 {
 	return FText::Format(
-		LOCTEXT("NotSecure", "No secure connection to {0} could be made, so nothing was sent. Its certificate may be wrong."), FText::FromString(Host));
+		LOCTEXT("NotSecure", "No secure connection to {0} could be made, so nothing was sent. Its certificate may be wrong."),
+		FText::FromString(Host));
 }
 
 FText FailureText::ProxyFailed()
@@ -80,18 +82,21 @@ FText FailureText::TimeLimit(EPhase Phase, double Seconds, const FString& Host)
 	switch (Phase)
 	{
 	case EPhase::Connecting:
-		return FText::Format(LOCTEXT("ConnectLimit", "{0} did not accept a connection within {1} seconds."), FText::FromString(Host), Number);
+		return FText::Format(
+			LOCTEXT("ConnectLimit", "{0} did not accept a connection within {1} seconds."), FText::FromString(Host), Number);
 	case EPhase::WaitingForFirstByte:
 		return FText::Format(LOCTEXT("FirstByteLimit", "The assistant did not begin to answer within {0} seconds."), Number);
 	default:
-		return FText::Format(LOCTEXT("BetweenBytesLimit", "The assistant fell silent for {0} seconds in the middle of its answer."), Number);
+		return FText::Format(
+			LOCTEXT("BetweenBytesLimit", "The assistant fell silent for {0} seconds in the middle of its answer."), Number);
 	}
 }
 
 FText FailureText::RedirectedElsewhere(const FString& Origin)
 {
-	return FText::Format(LOCTEXT("RedirectedElsewhere",
-							 "The assistant's address leads on to another server, {0}, which was not contacted. If you trust it, give its address instead."),
+	return FText::Format(
+		LOCTEXT("RedirectedElsewhere",
+			"The assistant's address leads on to another server, {0}, which was not contacted. If you trust it, give its address instead."),
 		FText::FromString(MakeExcerpt(Origin)));
 }
 
@@ -102,10 +107,11 @@ FText FailureText::TooManyRedirects()
 
 FText FailureText::Status(int32 Code, const FString& Detail, const FString& RetryAfter)
 {
-	const FText WithCode = FText::Format(LOCTEXT("WithCode", "{0} (Error {1}.)"), DescribeStatus(Code), FText::FromString(FString::FromInt(Code)));
-	const FText WithWait = RetryAfter.IsEmpty()
-							   ? WithCode
-							   : FText::Format(LOCTEXT("WithWait", "{0} It asks to wait {1} seconds."), WithCode, FText::FromString(RetryAfter));
+	const FText WithCode =
+		FText::Format(LOCTEXT("WithCode", "{0} (Error {1}.)"), DescribeStatus(Code), FText::FromString(FString::FromInt(Code)));
+	const FText WithWait = RetryAfter.IsEmpty() ? WithCode
+												: FText::Format(LOCTEXT("WithWait", "{0} It asks to wait {1} seconds."), WithCode,
+													  FText::FromString(RetryAfter));
 	return AppendDetail(WithWait, Detail);
 }
 
@@ -141,7 +147,8 @@ FText FailureText::Empty()
 
 FText FailureText::EmptyByLengthLimit()
 {
-	return LOCTEXT("EmptyByLengthLimit", "The assistant reached its length limit before the first word of its answer. A new chat can help.");
+	return LOCTEXT(
+		"EmptyByLengthLimit", "The assistant reached its length limit before the first word of its answer. A new chat can help.");
 }
 
 FText FailureText::Withheld()

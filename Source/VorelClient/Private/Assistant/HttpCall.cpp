@@ -1,15 +1,17 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Assistant/HttpCall.h"
-
-#include "Assistant/AnswerReader.h"
-#include "Assistant/QtText.h"
+// Qt's headers come before the engine's, whose macros they don't survive.
 #include <QBuffer>
 #include <QHostAddress>
 #include <QNetworkAccessManager>
 #include <QNetworkProxyFactory>
 #include <QNetworkReply>
 #include <QPointer>
+
+#include "Assistant/HttpCall.h"
+
+#include "Assistant/AnswerReader.h"
+#include "Assistant/QtText.h"
 
 using FailureText::EPhase;
 
@@ -50,7 +52,10 @@ public:
 
 bool IsSameOrigin(const QUrl& A, const QUrl& B)
 {
-	const auto GetPort = [](const QUrl& Url) { return Url.port(Url.scheme() == QLatin1String("https") ? 443 : 80); };
+	const auto GetPort = [](const QUrl& Url)
+	{
+		return Url.port(Url.scheme() == QLatin1String("https") ? 443 : 80);
+	};
 	return A.scheme() == B.scheme() && A.host() == B.host() && GetPort(A) == GetPort(B);
 }
 
@@ -153,7 +158,7 @@ void FHttpCall::StartLimit(EPhase InPhase)
 		return;
 	}
 	Phase = InPhase;
-	const double Seconds = Phase == EPhase::Connecting			  ? Limits.Connect
+	const double Seconds = Phase == EPhase::Connecting            ? Limits.Connect
 						   : Phase == EPhase::WaitingForFirstByte ? Limits.FirstByte
 																  : Limits.BetweenBytes;
 	Limit.start(FMath::CeilToInt(Seconds * 1000.0));
@@ -221,7 +226,9 @@ bool FHttpCall::FollowRedirect(int32 Status)
 	}
 	if (!IsSameOrigin(Target, Request.Url))
 	{
-		End(FailureText::RedirectedElsewhere(ToFString(Target.adjusted(QUrl::RemoveUserInfo | QUrl::RemovePath | QUrl::RemoveQuery | QUrl::RemoveFragment))));
+		End(FailureText::RedirectedElsewhere(
+			ToFString(Target.scheme() + QLatin1String("://") + Target.host() +
+					  (Target.port() < 0 ? QString() : QLatin1Char(':') + QString::number(Target.port())))));
 		return true;
 	}
 	if (++Redirects > MaxRedirects)
@@ -293,5 +300,6 @@ FText FHttpCall::DescribeNetworkError() const
 
 FString FHttpCall::GetHost() const
 {
-	return ToFString(Request.Url.port() < 0 ? Request.Url.host() : Request.Url.host() + QLatin1Char(':') + QString::number(Request.Url.port()));
+	return ToFString(
+		Request.Url.port() < 0 ? Request.Url.host() : Request.Url.host() + QLatin1Char(':') + QString::number(Request.Url.port()));
 }

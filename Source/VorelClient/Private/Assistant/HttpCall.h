@@ -2,12 +2,14 @@
 
 #pragma once
 
-#include "Assistant/AssistantEndpoint.h"
-#include "Assistant/FailureText.h"
+// Qt's headers come before the engine's, whose macros they don't survive.
 #include <QByteArray>
 #include <QObject>
 #include <QTimer>
 #include <QUrl>
+
+#include "Assistant/AssistantEndpoint.h"
+#include "Assistant/FailureText.h"
 #include <string_view>
 
 class QNetworkAccessManager;
@@ -22,16 +24,16 @@ struct FHttpRequest
 	QByteArray ApiKey;
 };
 
-// One exchange with a server on the game thread's event loop, with separate limits for connecting, the first byte and the pauses between bytes.
-// Redirects are followed within the origin alone, so that the key never leaves it. Destroying the call hangs up in silence.
+// One exchange with a server on the game thread's event loop, with separate limits for connecting, the first byte and the pauses between
+// bytes. Redirects are followed within the origin alone, so that the key never leaves it. Destroying the call hangs up in silence.
 class FHttpCall final : public QObject
 {
 public:
 	FHttpCall(QNetworkAccessManager& InNetwork, FHttpRequest InRequest, const FRequestLimits& InLimits);
 	~FHttpCall() override;
 
-	// OnBody gets the bytes of a successful reply as they come; it may let go of the call and hang up, not destroy it. OnEnded comes last, with
-	// the reason when the reply was no success or is not complete, else with an empty text; it may destroy the call.
+	// OnBody gets the bytes of a successful reply as they come; it may let go of the call and hang up, not destroy it. OnEnded comes last,
+	// with the reason when the reply was no success or is not complete, else with an empty text; it may destroy the call.
 	TFunction<void(std::string_view)> OnBody;
 	TFunction<void(const FText& Failure)> OnEnded;
 

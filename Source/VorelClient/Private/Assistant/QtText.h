@@ -2,8 +2,10 @@
 
 #pragma once
 
-#include "CoreMinimal.h"
+// Qt's headers come before the engine's, whose macros they don't survive.
 #include <QString>
+
+#include "CoreMinimal.h"
 
 inline FString ToFString(const QString& Text)
 {

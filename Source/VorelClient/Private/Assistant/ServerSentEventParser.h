@@ -13,8 +13,8 @@ struct FServerSentEvent
 	FString Data;
 };
 
-// Cuts the bytes of a text/event-stream into events, wherever the network cut them. Text is decoded per event, so a character that arrives in
-// two packets stays whole. The fields "id" and "retry" are of no use here: nothing reconnects.
+// Cuts the bytes of a text/event-stream into events, wherever the network cut them. Text is decoded per event, so a character that arrives
+// in two packets stays whole. The fields "id" and "retry" are of no use here: nothing reconnects.
 class FServerSentEventParser
 {
 public:

@@ -12,7 +12,8 @@ public:
 	FAnswerStream(QNetworkAccessManager& Network, FAssistantEndpoint& Endpoint, const FRequestLimits& Limits);
 	~FAnswerStream();
 
-	// Both fire in a frame after Start, and may let go of the stream. OnEnded comes once and last, in the same frame as the rest of the text.
+	// Both fire in a frame after Start, and may let go of the stream. OnEnded comes once and last, in the same frame as the rest of the
+	// text.
 	TFunction<void(const FString&)> OnText;
 	TFunction<void(const FAnswerEnd&)> OnEnded;
 

@@ -1,12 +1,13 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
+// Qt's headers come before the engine's, whose macros they don't survive.
+#include <QUuid>
+
 #include "Chat/ConversationRepository.h"
 
 #include "Assistant/QtText.h"
 #include "Chat/ConversationTitle.h"
 #include "Chat/StoredMessage.h"
-#include <QDateTime>
-#include <QUuid>
 
 UStoredConversation* FConversationRepository::Create(const FString& ModeName)
 {
@@ -34,7 +35,7 @@ bool FConversationRepository::Use(UStoredConversation& Conversation, const FStri
 	{
 		Conversations.RemoveAt(Place);
 	}
-	Conversation.LastUsed = QDateTime::currentMSecsSinceEpoch();
+	Conversation.LastUsed = GetCurrentTime();
 	Conversations.Insert(&Conversation, 0);
 	return Place != 0;
 }

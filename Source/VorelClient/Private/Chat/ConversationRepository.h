@@ -18,7 +18,8 @@ public:
 	// The last used first.
 	const TArray<TObjectPtr<UStoredConversation>>& GetAll() const { return Conversations; }
 
-	// Marks a conversation as used now by a message of the user, which names it if it is the first. True where the list or its order changed.
+	// Marks a conversation as used now by a message of the user, which names it if it is the first. True where the list or its order
+	// changed.
 	bool Use(UStoredConversation& Conversation, const FString& UserText);
 
 	void Append(UStoredConversation& Conversation, UStoredMessage* Message);

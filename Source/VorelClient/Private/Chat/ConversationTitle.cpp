@@ -1,10 +1,12 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
+// Qt's headers come before the engine's, whose macros they don't survive.
+#include <QDateTime>
+#include <QLocale>
+
 #include "Chat/ConversationTitle.h"
 
 #include "Assistant/QtText.h"
-#include <QDateTime>
-#include <QLocale>
 #include <memory>
 #include <unicode/brkiter.h>
 #include <unicode/uchar.h>
@@ -61,4 +63,9 @@ FString FormatTimeOfUse(int64 Time, int64 Now)
 	const QDateTime Used = QDateTime::fromMSecsSinceEpoch(Time);
 	const bool bToday = Used.date() == QDateTime::fromMSecsSinceEpoch(Now).date();
 	return ToFString(QLocale::c().toString(Used, bToday ? QStringLiteral("HH:mm") : QStringLiteral("d MMM")));
+}
+
+int64 GetCurrentTime()
+{
+	return QDateTime::currentMSecsSinceEpoch();
 }

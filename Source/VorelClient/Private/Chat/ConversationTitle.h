@@ -12,3 +12,6 @@ FString ShortenTitle(const FString& Title, int32 MaxLength);
 
 // The local time of today, else the day. Both in milliseconds since 1970.
 FString FormatTimeOfUse(int64 Time, int64 Now);
+
+// Milliseconds since 1970 in UTC.
+int64 GetCurrentTime();

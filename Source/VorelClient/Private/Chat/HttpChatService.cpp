@@ -1,12 +1,15 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
+// Qt's headers come before the engine's, whose macros they don't survive.
+#include "Assistant/HttpCall.h"
+#include <QNetworkAccessManager>
+
 #include "Chat/HttpChatService.h"
 
 #include "Chat/AnswerNote.h"
 #include "Chat/ChatModes.h"
 #include "Chat/StoredMessage.h"
 #include "LogVorel.h"
-#include <QNetworkAccessManager>
 
 UHttpChatService::UHttpChatService() = default;
 
@@ -162,8 +165,14 @@ TArray<FChatMessage> UHttpChatService::MakeMessages() const
 void UHttpChatService::StartAnswer()
 {
 	Request->Stream = MakeShared<FAnswerStream>(*Network, Endpoint, Limits);
-	Request->Stream->OnText = [this](const FString& Text) { HandleText(Text); };
-	Request->Stream->OnEnded = [this](const FAnswerEnd& End) { EndRequest(End); };
+	Request->Stream->OnText = [this](const FString& Text)
+	{
+		HandleText(Text);
+	};
+	Request->Stream->OnEnded = [this](const FAnswerEnd& End)
+	{
+		EndRequest(End);
+	};
 	Request->Stream->Start(MakeMessages());
 }
 

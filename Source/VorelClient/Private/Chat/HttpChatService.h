@@ -11,11 +11,11 @@ class QNetworkAccessManager;
 
 // Holds conversations with a chat-completions server.
 //
-// One request fires in this order: bIsProcessingRequest becomes true; OnChatHistoryChanged where the list or its order changes, with the user's
-// message not yet in Messages; OnMessageAdded of the user's message; OnChunkReceived, at most once a frame; bIsProcessingRequest becomes
-// false; OnMessageAdded of the answer; last, exactly one of OnRequestCompleted and OnRequestFailed. OnChatHistoryChanged never comes in
-// between: the deletion of another conversation is told after the end. A request that fails or is cancelled keeps what had arrived as an
-// interrupted message; without any text there is none.
+// One request fires in this order: bIsProcessingRequest becomes true; OnChatHistoryChanged where the list or its order changes, with the
+// user's message not yet in Messages; OnMessageAdded of the user's message; OnChunkReceived, at most once a frame; bIsProcessingRequest
+// becomes false; OnMessageAdded of the answer; last, exactly one of OnRequestCompleted and OnRequestFailed. OnChatHistoryChanged never
+// comes in between: the deletion of another conversation is told after the end. A request that fails or is cancelled keeps what had arrived
+// as an interrupted message; without any text there is none.
 class UHttpChatService final : public UChatService
 {
 public:

@@ -4,7 +4,6 @@
 
 #include "Chat/ConversationTitle.h"
 #include "Chat/StoredMessage.h"
-#include <QDateTime>
 
 #define LOCTEXT_NAMESPACE "VorelClient"
 
@@ -21,7 +20,7 @@ UStoredMessage* UStoredMessage::Make(EChatRole InRole, const FString& Text)
 FString UStoredConversation::GetDisplayableTitle(bool bWithTime, int32 MaxLength)
 {
 	const FString Shown = ShortenTitle(Title.IsEmpty() ? LOCTEXT("Untitled", "Untitled").ToString() : Title, MaxLength);
-	return bWithTime ? FormatTimeOfUse(LastUsed, QDateTime::currentMSecsSinceEpoch()) + TEXT(" ") + Shown : Shown;
+	return bWithTime ? FormatTimeOfUse(LastUsed, GetCurrentTime()) + TEXT(" ") + Shown : Shown;
 }
 
 #undef LOCTEXT_NAMESPACE
