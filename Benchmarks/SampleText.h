@@ -1,0 +1,9 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "CoreMinimal.h"
+
+// An answer of at least the given length as assistants write them: headings, paragraphs with emphasis, inline code and links, lists,
+// quotes, and code blocks for about a third of it. Its words repeat, as those of real answers do; its numbers do not.
+FString MakeSampleMarkdown(int32 Length);
