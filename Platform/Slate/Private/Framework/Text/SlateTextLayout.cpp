@@ -1,0 +1,128 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+#include "Framework/Text/SlateTextLayout.h"
+
+#include "Framework/Text/SlateTextRun.h"
+#include "Layout/ArrangedChildren.h"
+#include "Styling/SlateTypes.h"
+#include "TextLine.h"
+#include "TextStylePool.h"
+#include "Widgets/SWidget.h"
+
+TSharedRef<FSlateTextLayout> FSlateTextLayout::Create(SWidget& InOwner, const FTextBlockStyle& InDefaultTextStyle)
+{
+	return MakeShareable(new FSlateTextLayout(InOwner, InDefaultTextStyle));
+}
+
+FSlateTextLayout::FSlateTextLayout(SWidget& InOwner, const FTextBlockStyle& InDefaultTextStyle)
+	: Children(InOwner)
+	, DefaultTextStyle(TextStylePool::Share(InDefaultTextStyle))
+{
+}
+
+void FSlateTextLayout::SetDefaultTextStyle(const FTextBlockStyle& InDefaultTextStyle)
+{
+	DefaultTextStyle = TextStylePool::Share(InDefaultTextStyle);
+}
+
+TSharedRef<IRun> FSlateTextLayout::CreateDefaultTextRun(const TSharedRef<FString>& NewText, const FTextRange& NewRange) const
+{
+	return FSlateTextRun::Create(FRunInfo(), NewText, DefaultTextStyle, NewRange);
+}
+
+void FSlateTextLayout::OnLinesChanged()
+{
+	TArray<FInlineWidget> Found;
+	for (int32 Index = 0; Index < GetLines().Num(); ++Index)
+	{
+		for (const TSharedRef<IRun>& Run : GetLines()[Index]->Runs)
+		{
+			const TSharedRef<ISlateRun> SlateRun = StaticCastSharedRef<ISlateRun>(Run);
+			if (SlateRun->GetWidget())
+			{
+				Found.Add({SlateRun, Index, SlateRun->GetWidget()->GetDesiredSize()});
+			}
+		}
+	}
+	if (Found.IsEmpty() && InlineWidgets.IsEmpty())
+	{
+		return;
+	}
+	InlineWidgets = MoveTemp(Found);
+	Children.Empty();
+	for (const FInlineWidget& Inline : InlineWidgets)
+	{
+		Children.Add(Inline.Run->GetWidget().ToSharedRef());
+	}
+}
+
+void FSlateTextLayout::UpdateWidgetSizes()
+{
+	for (FInlineWidget& Inline : InlineWidgets)
+	{
+		const FVector2D Size = Inline.Run->GetWidget()->GetDesiredSize();
+		if (Inline.MeasuredSize != Size)
+		{
+			Inline.MeasuredSize = Size;
+			DirtyLine(Inline.LineIndex);
+		}
+	}
+}
+
+void FSlateTextLayout::ArrangeChildren(const FGeometry& TextGeometry, FArrangedChildren& ArrangedChildren) const
+{
+	const float Scale = TextGeometry.GetScale();
+	for (const FInlineWidget& Inline : InlineWidgets)
+	{
+		const TSharedRef<SWidget> Widget = Inline.Run->GetWidget().ToSharedRef();
+		if (ArrangedChildren.Accepts(Widget->GetVisibility()))
+		{
+			const FSlateRect Rect = Inline.Run->GetWidgetRect(FindPlacement(Inline), Scale);
+			ArrangedChildren.AddWidget(TextGeometry.MakeChild(Widget, Rect.GetTopLeft() / Scale, Rect.GetSize() / Scale));
+		}
+	}
+}
+
+FRunPlacement FSlateTextLayout::FindPlacement(const FInlineWidget& Inline) const
+{
+	const FTextLine& Line = *GetLines()[Inline.LineIndex];
+	const int32 Offset = Inline.Run->GetTextRange().BeginIndex;
+	const FWrappedLine& Wrapped = Line.WrappedLines[Line.FindWrapped(Offset)];
+	TArray<FTextPiece> Pieces;
+	GetPieces(Line, Wrapped, Pieces);
+	const FTextPiece* Piece = Pieces.FindByPredicate([Offset](const FTextPiece& Candidate) { return Candidate.Range.Contains(Offset); });
+	check(Piece);
+	return MakePlacement(*Piece, Wrapped, GetTopLeft(Line, Wrapped));
+}
+
+FRunPlacement FSlateTextLayout::MakePlacement(const FTextPiece& Piece, const FWrappedLine& Wrapped, const FVector2D& TopLeft) const
+{
+	FRunPlacement Placement;
+	Placement.Range = Piece.Range;
+	Placement.Context = MakeRunContext(GetTextShapingMethod(), Piece.Level);
+	Placement.X = static_cast<float>(TopLeft.X) + Piece.X;
+	Placement.Width = Piece.Width;
+	Placement.LineTop = static_cast<float>(TopLeft.Y);
+	Placement.LineHeight = static_cast<float>(Wrapped.Height);
+	Placement.BaselineY = Placement.LineTop + Wrapped.Ascent;
+	return Placement;
+}
+
+void FSlateTextLayout::Paint(const FGeometry& TextGeometry, const FSlateRect& VisibleArea, FSlateWindowElementList& OutDrawElements,
+	int32 LayerId, const FWidgetStyle& InWidgetStyle, ESlateDrawEffect DrawEffects) const
+{
+	TArray<FTextPiece> Pieces;
+	ForEachVisibleLine(VisibleArea.Top, VisibleArea.Bottom,
+		[&](const FTextLine& Line, const FWrappedLine& Wrapped, const FVector2D& TopLeft)
+		{
+			GetPieces(Line, Wrapped, Pieces);
+			for (const FTextPiece& Piece : Pieces)
+			{
+				const double Left = TopLeft.X + Piece.X;
+				if (Left < VisibleArea.Right && Left + Piece.Width > VisibleArea.Left)
+				{
+					const ISlateRun& Run = static_cast<const ISlateRun&>(*Line.Runs[Piece.RunIndex]);
+					Run.OnPaint(MakePlacement(Piece, Wrapped, TopLeft), TextGeometry, OutDrawElements, LayerId, InWidgetStyle, DrawEffects);
+				}
+			}
+		});
+}

@@ -1,0 +1,282 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+#include "Widgets/Text/SMultiLineEditableText.h"
+
+#include "EditableTextController.h"
+#include "EditableTextMouse.h"
+#include "EditableTextPainter.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Framework/Text/PlainTextLayoutMarshaller.h"
+#include "Framework/Text/TextLines.h"
+#include "Styling/CoreStyle.h"
+#include "TextWrapping.h"
+
+namespace
+{
+constexpr TCHAR WidgetPlaceholder = 0x200B;
+
+FTextBlockStyle FindTextStyle(const FTextBlockStyle* Style, const TOptional<FSlateFontInfo>& Font)
+{
+	FTextBlockStyle Result = Style ? *Style : FCoreStyle::Get().GetWidgetStyle<FTextBlockStyle>("NormalText");
+	if (Font.IsSet())
+	{
+		Result.Font = Font.GetValue();
+	}
+	return Result;
+}
+
+FEditableTextOptions MakeOptions(const SMultiLineEditableText::FArguments& InArgs)
+{
+	FEditableTextOptions Options;
+	Options.IsReadOnly = InArgs._IsReadOnly;
+	Options.bAllowMultiLine = InArgs._AllowMultiLine;
+	Options.bClearSelectionOnFocusLoss = InArgs._ClearTextSelectionOnFocusLoss;
+	Options.ModifierForNewLine = InArgs._ModiferKeyForNewLine;
+	Options.OnTextChanged = InArgs._OnTextChanged;
+	Options.OnTextCommitted = InArgs._OnTextCommitted;
+	return Options;
+}
+} // namespace
+
+SMultiLineEditableText::SMultiLineEditableText()
+	: TextAttribute(*this)
+	, HintAttribute(*this)
+{
+}
+
+SMultiLineEditableText::~SMultiLineEditableText() = default;
+
+void SMultiLineEditableText::Construct(const FArguments& InArgs)
+{
+	FTextBlockStyle Style = FindTextStyle(InArgs._TextStyle, InArgs._Font);
+	TextLayout = MakeLayout(InArgs, Style);
+	TextColor = Style.ColorAndOpacity;
+	Style.ColorAndOpacity = FSlateColor::UseSubduedForeground();
+	HintLayout = MakeLayout(InArgs, Style);
+
+	const TSharedRef<ITextLayoutMarshaller> Marshaller =
+		InArgs._Marshaller ? InArgs._Marshaller.ToSharedRef() : TSharedRef<ITextLayoutMarshaller>(FPlainTextLayoutMarshaller::Create());
+	Controller = MakeUnique<FEditableTextController>(*this, TextLayout.ToSharedRef(), Marshaller, MakeOptions(InArgs));
+	Mouse = MakeUnique<FEditableTextMouse>(*Controller);
+	WrapTextAt = InArgs._WrapTextAt;
+	bAutoWrapText = InArgs._AutoWrapText;
+	HintAttribute.Assign(*this, InArgs._HintText);
+	SetText(InArgs._Text);
+	SetClipping(EWidgetClipping::ClipToBounds);
+}
+
+TSharedRef<FSlateTextLayout> SMultiLineEditableText::MakeLayout(const FArguments& InArgs, const FTextBlockStyle& Style)
+{
+	const TSharedRef<FSlateTextLayout> Layout = FSlateTextLayout::Create(*this, Style);
+	Layout->SetMargin(InArgs._Margin);
+	Layout->SetJustification(InArgs._Justification);
+	Layout->SetTextShapingMethod(InArgs._TextShapingMethod);
+	return Layout;
+}
+
+void SMultiLineEditableText::SetText(const TAttribute<FText>& InText)
+{
+	TextAttribute.Assign(*this, InText);
+	ApplyText();
+	Invalidate(EInvalidateWidgetReason::Layout);
+}
+
+void SMultiLineEditableText::ApplyText() const
+{
+	LaidOutText = TextAttribute.Get();
+	Controller->SetText(LaidOutText.ToString());
+}
+
+void SMultiLineEditableText::ApplyHint() const
+{
+	if (!LaidOutHint.IsSet() || !LaidOutHint->EqualTo(HintAttribute.Get()))
+	{
+		LaidOutHint = HintAttribute.Get();
+		HintLayout->ClearLines();
+		HintLayout->AddLines(TextLines::MakePlainLines(LaidOutHint->ToString()));
+	}
+}
+
+FText SMultiLineEditableText::GetText() const
+{
+	return Controller->IsReadOnly() ? TextAttribute.Get() : FText::FromString(Controller->GetText().GetText());
+}
+
+FString SMultiLineEditableText::GetShownText() const
+{
+	FString Text;
+	TextLayout->GetAsText(Text);
+	return Text.Replace(*FString::Chr(WidgetPlaceholder), TEXT(""), ESearchCase::CaseSensitive);
+}
+
+void SMultiLineEditableText::SetCaretBlinking(bool bEnabled)
+{
+	FCaretBlinker::SetEnabled(bEnabled);
+}
+
+bool SMultiLineEditableText::IsHintShown() const
+{
+	return Controller->GetText().IsEmpty() && !HintAttribute.Get().IsEmpty();
+}
+
+FChildren* SMultiLineEditableText::GetChildren()
+{
+	return &TextLayout->GetChildren();
+}
+
+FVector2D SMultiLineEditableText::ComputeDesiredSize(float LayoutScaleMultiplier) const
+{
+	if (!LaidOutText.EqualTo(TextAttribute.Get()))
+	{
+		ApplyText();
+	}
+	TextLayout->UpdateWidgetSizes();
+	FVector2D Size = LayOut(*TextLayout, LayoutScaleMultiplier);
+	if (IsHintShown())
+	{
+		ApplyHint();
+		const FVector2D HintSize = LayOut(*HintLayout, LayoutScaleMultiplier);
+		Size = FVector2D(FMath::Max(Size.X, HintSize.X), FMath::Max(Size.Y, HintSize.Y));
+	}
+	// Behind the last letter there must be room for the caret.
+	return Controller->IsReadOnly() ? Size : Size + FVector2D(FEditableTextController::CaretWidth, 0.0);
+}
+
+FVector2D SMultiLineEditableText::LayOut(FSlateTextLayout& Layout, float Scale) const
+{
+	const float CaretRoom = Controller->IsReadOnly() || AllottedWidth <= 0.0f ? 0.0f : FEditableTextController::CaretWidth;
+	Layout.SetScale(Scale);
+	Layout.SetWrappingWidth(FindWrappingWidth(WrapTextAt, AllottedWidth - CaretRoom));
+	Layout.UpdateIfNeeded();
+	return Layout.GetSize();
+}
+
+void SMultiLineEditableText::OnArranged(const FGeometry& AllottedGeometry)
+{
+	const float Width = static_cast<float>(AllottedGeometry.GetLocalSize().X);
+	const float Scale = AllottedGeometry.GetScale();
+	TextLayout->SetViewWidth(Width);
+	HintLayout->SetViewWidth(Width);
+	if (bAutoWrapText && AllottedWidth != Width)
+	{
+		AllottedWidth = Width;
+		if (ComputeDesiredSize(Scale) != GetDesiredSize())
+		{
+			Invalidate(EInvalidateWidgetReason::Layout);
+		}
+	}
+	const double CaretRoom = Controller->IsReadOnly() ? 0.0 : FEditableTextController::CaretWidth;
+	Controller->SetSizes(
+		AllottedGeometry.GetAbsoluteSize(), (TextLayout->GetSize() + FVector2D(bAutoWrapText ? 0.0 : CaretRoom, 0.0)) * Scale);
+}
+
+FGeometry SMultiLineEditableText::GetTextGeometry(const FGeometry& AllottedGeometry) const
+{
+	const FVector2D Offset = Controller->GetScroller().GetOffset() / AllottedGeometry.GetScale();
+	return AllottedGeometry.MakeChild(TextLayout->GetSize(), FSlateLayoutTransform(-Offset));
+}
+
+void SMultiLineEditableText::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const
+{
+	TextLayout->ArrangeChildren(GetTextGeometry(AllottedGeometry), ArrangedChildren);
+}
+
+int32 SMultiLineEditableText::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
+	FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
+{
+	const bool bEnabled = ShouldBeEnabled(bParentEnabled);
+	FWidgetStyle WidgetStyle = InWidgetStyle;
+	WidgetStyle.SetForegroundColor(TextColor.GetColor(InWidgetStyle));
+	const FGeometry TextGeometry = GetTextGeometry(AllottedGeometry);
+	const FEditableTextPainter Painter(*Controller, TextGeometry, MyCullingRect.IntersectionWith(AllottedGeometry.GetRenderBoundingRect()),
+		OutDrawElements, WidgetStyle, bEnabled ? ESlateDrawEffect::None : ESlateDrawEffect::DisabledEffect);
+	Painter.PaintSelection(LayerId);
+	Painter.PaintText(*TextLayout, LayerId + 1);
+	if (IsHintShown())
+	{
+		Painter.PaintText(*HintLayout, LayerId + 1);
+	}
+	Painter.PaintComposition(LayerId + 2);
+	Painter.PaintCaret(LayerId + 2);
+	ReportInputArea(TextGeometry);
+	return PaintArrangedChildren(Args, MyCullingRect, OutDrawElements, LayerId + 3, InWidgetStyle, bEnabled);
+}
+
+void SMultiLineEditableText::ReportInputArea(const FGeometry& TextGeometry) const
+{
+	if (!HasKeyboardFocus() || Controller->IsReadOnly())
+	{
+		return;
+	}
+	const FSlateRect Caret = Controller->GetCaretArea();
+	const double Scale = TextGeometry.GetScale();
+	const FVector2D Begin = TextGeometry.LocalToAbsolute(Caret.GetTopLeft() / Scale);
+	const FVector2D End = TextGeometry.LocalToAbsolute(FVector2D(Caret.Right, Caret.Bottom) / Scale);
+	const FSlateRect Area(static_cast<float>(Begin.X), static_cast<float>(Begin.Y), static_cast<float>(End.X), static_cast<float>(End.Y));
+	if (!InputArea.IsSet() || InputArea.GetValue() != Area)
+	{
+		InputArea = Area;
+		FSlateApplication::Get().SetTextInputArea(true, Area);
+	}
+}
+
+FReply SMultiLineEditableText::OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent)
+{
+	InputArea.Reset();
+	Controller->OnFocusReceived();
+	return FReply::Handled();
+}
+
+void SMultiLineEditableText::OnFocusLost(const FFocusEvent& InFocusEvent)
+{
+	Controller->OnFocusLost();
+}
+
+FReply SMultiLineEditableText::OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent)
+{
+	return Controller->OnKeyChar(InCharacterEvent);
+}
+
+FReply SMultiLineEditableText::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
+{
+	return Controller->OnKeyDown(InKeyEvent);
+}
+
+FReply SMultiLineEditableText::OnTextComposition(const FGeometry& MyGeometry, const FTextCompositionEvent& InEvent)
+{
+	return Controller->OnTextComposition(InEvent);
+}
+
+FReply SMultiLineEditableText::OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+{
+	return Mouse->OnMouseButtonDown(AsShared(), MyGeometry, MouseEvent);
+}
+
+FReply SMultiLineEditableText::OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+{
+	return Mouse->OnMouseButtonUp(MouseEvent);
+}
+
+FReply SMultiLineEditableText::OnMouseButtonDoubleClick(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+{
+	return Mouse->OnMouseButtonDoubleClick(AsShared(), MyGeometry, MouseEvent);
+}
+
+FReply SMultiLineEditableText::OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+{
+	return Mouse->OnMouseMove(MyGeometry, MouseEvent);
+}
+
+FReply SMultiLineEditableText::OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+{
+	return Mouse->OnMouseWheel(MouseEvent);
+}
+
+void SMultiLineEditableText::OnMouseCaptureLost()
+{
+	Mouse->EndDrag();
+}
+
+FCursorReply SMultiLineEditableText::OnCursorQuery(const FGeometry& MyGeometry, const FPointerEvent& CursorEvent) const
+{
+	return FCursorReply::Cursor(EMouseCursor::TextEditBeam);
+}

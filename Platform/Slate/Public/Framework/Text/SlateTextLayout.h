@@ -1,0 +1,55 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+#pragma once
+
+#include "Framework/Text/ISlateRun.h"
+#include "Framework/Text/TextLayout.h"
+#include "Layout/Children.h"
+#include "Rendering/RenderingCommon.h"
+
+class FArrangedChildren;
+struct FTextBlockStyle;
+
+/** A text layout that a widget draws, with the widgets among its text as that widget's children. */
+class FSlateTextLayout : public FTextLayout
+{
+public:
+	/** The owner outlives the layout. */
+	static TSharedRef<FSlateTextLayout> Create(SWidget& InOwner, const FTextBlockStyle& InDefaultTextStyle);
+
+	/** Of runs that are made from now on. */
+	void SetDefaultTextStyle(const FTextBlockStyle& InDefaultTextStyle);
+	const FTextBlockStyle& GetDefaultTextStyle() const { return *DefaultTextStyle; }
+
+	FChildren& GetChildren() { return Children; }
+	/** Lays lines out anew whose widgets have changed their size. */
+	void UpdateWidgetSizes();
+	/** `TextGeometry` begins at the layout's top left corner. */
+	void ArrangeChildren(const FGeometry& TextGeometry, FArrangedChildren& ArrangedChildren) const;
+
+	/** Draws the lines that meet `VisibleArea`, in device pixels of the layout, but not the widgets. */
+	void Paint(const FGeometry& TextGeometry, const FSlateRect& VisibleArea, FSlateWindowElementList& OutDrawElements, int32 LayerId,
+		const FWidgetStyle& InWidgetStyle, ESlateDrawEffect DrawEffects) const;
+
+	virtual TSharedRef<IRun> CreateDefaultTextRun(const TSharedRef<FString>& NewText, const FTextRange& NewRange) const override;
+
+protected:
+	virtual void OnLinesChanged() override;
+
+private:
+	/** A widget among the text. */
+	struct FInlineWidget
+	{
+		TSharedRef<ISlateRun> Run;
+		int32 LineIndex;
+		FVector2D MeasuredSize;
+	};
+
+	FSlateTextLayout(SWidget& InOwner, const FTextBlockStyle& InDefaultTextStyle);
+
+	FRunPlacement FindPlacement(const FInlineWidget& Inline) const;
+	FRunPlacement MakePlacement(const FTextPiece& Piece, const FWrappedLine& Wrapped, const FVector2D& TopLeft) const;
+
+	FSlotlessChildren Children;
+	TArray<FInlineWidget> InlineWidgets;
+	TSharedRef<const FTextBlockStyle> DefaultTextStyle;
+};

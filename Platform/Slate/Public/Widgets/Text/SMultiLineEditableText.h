@@ -1,0 +1,118 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+#pragma once
+
+#include "Framework/Commands/InputChord.h"
+#include "Framework/SlateDelegates.h"
+#include "Framework/Text/TextLayout.h"
+#include "Styling/SlateTypes.h"
+#include "Widgets/SWidget.h"
+
+class FEditableTextController;
+class FEditableTextMouse;
+class FSlateTextLayout;
+class ITextLayoutMarshaller;
+
+enum class ETextOverflowPolicy : uint8
+{
+	/** What does not fit is cut off at the widget's edge. */
+	Clip
+};
+
+/**
+ * Text of many lines without a frame around it, to read or to edit. Where its height is limited it scrolls. A marshaller makes styled runs
+ * and widgets of the text; those widgets are its children.
+ */
+class SMultiLineEditableText : public SWidget
+{
+	SLATE_BEGIN_ARGS(SMultiLineEditableText) {}
+	SLATE_ATTRIBUTE(FText, Text)
+	SLATE_ATTRIBUTE(FText, HintText)
+	/** Plain text if unset. */
+	SLATE_ARGUMENT(TSharedPtr<ITextLayoutMarshaller>, Marshaller)
+	SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
+	/** In the place of the style's font. */
+	SLATE_ARGUMENT(TOptional<FSlateFontInfo>, Font)
+	SLATE_ATTRIBUTE(bool, IsReadOnly)
+	/** In units; not at all if zero. */
+	SLATE_ARGUMENT(float, WrapTextAt)
+	/** At the width that the widget is given, if that is less. */
+	SLATE_ARGUMENT(bool, AutoWrapText)
+	SLATE_ARGUMENT(ETextWrappingPolicy, WrappingPolicy)
+	SLATE_ARGUMENT(ETextOverflowPolicy, OverflowPolicy)
+	SLATE_ARGUMENT_DEFAULT(bool, AllowMultiLine){true};
+	SLATE_ARGUMENT(FMargin, Margin)
+	SLATE_ARGUMENT(ETextJustify::Type, Justification)
+	SLATE_ARGUMENT(ETextShapingMethod, TextShapingMethod)
+	SLATE_ARGUMENT_DEFAULT(bool, ClearTextSelectionOnFocusLoss){true};
+	/** With it Enter makes a new line, and alone it commits; if none, Enter makes a new line. */
+	SLATE_ARGUMENT(EModifierKey::Type, ModiferKeyForNewLine)
+	/** After each change by the user. */
+	SLATE_EVENT(FOnTextChanged, OnTextChanged)
+	SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
+	SLATE_END_ARGS()
+
+public:
+	SMultiLineEditableText();
+	virtual ~SMultiLineEditableText() override;
+
+	void Construct(const FArguments& InArgs);
+
+	/** Builds all runs anew, also for the same text. */
+	void SetText(const TAttribute<FText>& InText);
+	/** What was edited; of a read-only text the source, with its markup. */
+	FText GetText() const;
+
+	/** Of all carets, for pictures that must not depend on the time. */
+	static void SetCaretBlinking(bool bEnabled);
+
+	virtual FString GetShownText() const override;
+	virtual FString GetHint() const override { return HintAttribute.Get().ToString(); }
+
+	virtual FChildren* GetChildren() override;
+	virtual bool SupportsKeyboardFocus() const override { return true; }
+	virtual FReply OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent) override;
+	virtual void OnFocusLost(const FFocusEvent& InFocusEvent) override;
+	virtual FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent) override;
+	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
+	virtual FReply OnTextComposition(const FGeometry& MyGeometry, const FTextCompositionEvent& InEvent) override;
+	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseButtonDoubleClick(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual void OnMouseCaptureLost() override;
+	virtual FCursorReply OnCursorQuery(const FGeometry& MyGeometry, const FPointerEvent& CursorEvent) const override;
+
+protected:
+	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
+	virtual void OnArranged(const FGeometry& AllottedGeometry) override;
+	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
+	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
+		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
+
+private:
+	TSharedRef<FSlateTextLayout> MakeLayout(const FArguments& InArgs, const FTextBlockStyle& Style);
+	void ApplyText() const;
+	void ApplyHint() const;
+	bool IsHintShown() const;
+	FVector2D LayOut(FSlateTextLayout& Layout, float Scale) const;
+	/** Scrolled: its origin is the text's top left corner. */
+	FGeometry GetTextGeometry(const FGeometry& AllottedGeometry) const;
+	void ReportInputArea(const FGeometry& TextGeometry) const;
+
+	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> TextAttribute;
+	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> HintAttribute;
+	TSharedPtr<FSlateTextLayout> TextLayout;
+	TSharedPtr<FSlateTextLayout> HintLayout;
+	TUniquePtr<FEditableTextController> Controller;
+	TUniquePtr<FEditableTextMouse> Mouse;
+	FSlateColor TextColor;
+	/** What the lines were made of. */
+	mutable FText LaidOutText;
+	mutable TOptional<FText> LaidOutHint;
+	/** Where input methods were last told that the caret is; absolute. */
+	mutable TOptional<FSlateRect> InputArea;
+	float WrapTextAt = 0.0f;
+	float AllottedWidth = 0.0f;
+	bool bAutoWrapText = false;
+};
