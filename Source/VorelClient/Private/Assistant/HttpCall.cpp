@@ -2,9 +2,7 @@
 
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QBuffer>
-#include <QHostAddress>
 #include <QNetworkAccessManager>
-#include <QNetworkProxyFactory>
 #include <QNetworkReply>
 #include <QPointer>
 
@@ -34,20 +32,6 @@ public:
 
 	bool isSequential() const override { return true; }
 	bool reset() override { return false; }
-};
-
-bool IsLoopback(const QString& Host)
-{
-	return Host == QLatin1String("localhost") || QHostAddress(Host).isLoopback();
-}
-
-class FProxyForOthers final : public QNetworkProxyFactory
-{
-public:
-	QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& Query) override
-	{
-		return IsLoopback(Query.peerHostName()) ? QList<QNetworkProxy>{QNetworkProxy(QNetworkProxy::NoProxy)} : systemProxyForQuery(Query);
-	}
 };
 
 bool IsSameOrigin(const QUrl& A, const QUrl& B)
@@ -90,13 +74,6 @@ QNetworkReply* Post(QNetworkAccessManager& Network, const FHttpRequest& Request)
 	return Reply;
 }
 } // namespace
-
-TUniquePtr<QNetworkAccessManager> MakeNetwork()
-{
-	TUniquePtr<QNetworkAccessManager> Network = MakeUnique<QNetworkAccessManager>();
-	Network->setProxyFactory(new FProxyForOthers);
-	return Network;
-}
 
 FHttpCall::FHttpCall(QNetworkAccessManager& InNetwork, FHttpRequest InRequest, const FRequestLimits& InLimits)
 	: Network(InNetwork)

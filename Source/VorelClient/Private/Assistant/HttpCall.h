@@ -68,6 +68,3 @@ private:
 	QByteArray Refusal;
 	int32 Redirects = 0;
 };
-
-// Without cookies and cache, and past the proxy for this machine's own addresses.
-TUniquePtr<QNetworkAccessManager> MakeNetwork();

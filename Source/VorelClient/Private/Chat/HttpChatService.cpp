@@ -1,11 +1,12 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 // Qt's headers come before the engine's, whose macros they don't survive.
-#include "Assistant/HttpCall.h"
 #include <QNetworkAccessManager>
 
 #include "Chat/HttpChatService.h"
 
+#include "Assistant/AssistantNetwork.h"
+#include "Assistant/FailureText.h"
 #include "Chat/AnswerNote.h"
 #include "Chat/ChatModes.h"
 #include "Chat/StoredMessage.h"

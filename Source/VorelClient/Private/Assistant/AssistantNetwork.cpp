@@ -1,0 +1,32 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+// Qt's headers come before the engine's, whose macros they don't survive.
+#include <QHostAddress>
+#include <QNetworkAccessManager>
+#include <QNetworkProxyFactory>
+
+#include "Assistant/AssistantNetwork.h"
+
+namespace
+{
+bool IsLoopback(const QString& Host)
+{
+	return Host == QLatin1String("localhost") || QHostAddress(Host).isLoopback();
+}
+
+class FProxyForOthers final : public QNetworkProxyFactory
+{
+public:
+	QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& Query) override
+	{
+		return IsLoopback(Query.peerHostName()) ? QList<QNetworkProxy>{QNetworkProxy(QNetworkProxy::NoProxy)} : systemProxyForQuery(Query);
+	}
+};
+} // namespace
+
+TUniquePtr<QNetworkAccessManager> MakeNetwork()
+{
+	TUniquePtr<QNetworkAccessManager> Network = MakeUnique<QNetworkAccessManager>();
+	Network->setProxyFactory(new FProxyForOthers);
+	return Network;
+}
