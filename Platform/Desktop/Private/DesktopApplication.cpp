@@ -16,6 +16,14 @@
 
 static TSharedPtr<FDesktopApplication> Instance;
 
+// Qt warns of each font without a script while it looks for one that has it, and of much else that is no trouble here.
+static void LogQtMessage(QtMsgType Type, const QMessageLogContext&, const QString& Message)
+{
+	const bool bSevere = Type == QtCriticalMsg || Type == QtFatalMsg;
+	UE_CLOG(bSevere, LogDesktop, Error, TEXT("%s"), *ToFString(Message));
+	UE_CLOG(!bSevere, LogDesktop, Verbose, TEXT("%s"), *ToFString(Message));
+}
+
 TSharedRef<FDesktopApplication> FDesktopApplication::Create(EBrowserMode BrowserMode)
 {
 	check(!Instance);
@@ -40,6 +48,7 @@ FDesktopApplication::FDesktopApplication(EBrowserMode InBrowserMode)
 	: BrowserMode(InBrowserMode)
 	, TextShaper(MakeUnique<FQtTextShaper>())
 {
+	qInstallMessageHandler(LogQtMessage);
 	FPlatformHooks::Get().LaunchURL = [this](const FString& Address, FString& OutError) { return OpenAddress(Address, OutError); };
 	FPlatformHooks::Get().ClipboardCopy = [this](const FString& Text) { SetClipboardText(Text); };
 }
@@ -47,6 +56,7 @@ FDesktopApplication::FDesktopApplication(EBrowserMode InBrowserMode)
 FDesktopApplication::~FDesktopApplication()
 {
 	FPlatformHooks::Get() = FPlatformHooks();
+	qInstallMessageHandler(nullptr);
 }
 
 void FDesktopApplication::ForgetHost(const QSlateWidget* Host)

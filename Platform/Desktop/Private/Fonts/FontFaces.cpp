@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QRawFont>
 #include <QtEndian>
 
@@ -43,7 +44,7 @@ static const FFaceSource EmojiSource = {
 
 // Asked in this order for what a face lacks: symbols before CJK, whose own arrows and marks are a full em wide.
 static const QStringList FallbackFamilies = {"Noto Sans", "Noto Sans Math", "Noto Sans Symbols", "Noto Sans Symbols2", "Noto Sans Arabic",
-	"Noto Sans Hebrew", "Noto Sans Thai", "Noto Sans Devanagari", "Noto Sans CJK SC", "DejaVu Sans", "Noto Color Emoji"};
+	"Noto Sans Hebrew", "Noto Sans Thai", "Noto Sans Devanagari", "Noto Sans CJK SC", "Noto Serif CJK SC", "DejaVu Sans", "Noto Color Emoji"};
 
 static void LoadFile(const FFaceSource& Source)
 {
@@ -95,12 +96,15 @@ static FFaceMeasures ReadMeasures(const QRawFont& Font)
 	return Measures;
 }
 
+static constexpr int SpacesPerTab = 4;
+
 static void PrepareLayout(QTextLayout& Layout, const QFont& Font)
 {
 	QTextOption Option(Qt::AlignLeft | Qt::AlignAbsolute);
 	Option.setUseDesignMetrics(true);
 	Option.setWrapMode(QTextOption::NoWrap);
 	Option.setFlags(QTextOption::IncludeTrailingSpaces);
+	Option.setTabStopDistance(SpacesPerTab * QFontMetricsF(Font).horizontalAdvance(QLatin1Char(' ')));
 	Layout.setFont(Font);
 	Layout.setTextOption(Option);
 }
@@ -116,7 +120,7 @@ FFontFace::FFontFace(const QFont& InFont, bool bInMonospaced)
 	}
 	else
 	{
-		// Spaced text is never joined into ligatures; this spacing is the least there is, 1/65536 em.
+		// Spaced text is never joined into ligatures; this spacing is the least there is, 1/8192 em.
 		KerningFont.setLetterSpacing(QFont::AbsoluteSpacing, 1.0 / 64.0);
 	}
 	PrepareLayout(KerningLayout, KerningFont);

@@ -31,8 +31,11 @@ struct FFaceMeasures
 class FFontFace
 {
 public:
-	/** Text is shaped at this size and scaled, so that its advances grow linearly and a size may be any fraction. */
-	static constexpr int ShapingPixelSize = 1024;
+	/**
+	 * Text is shaped at this size and scaled, so that its advances grow linearly and a size may be any fraction. An advance is exact to
+	 * 1/8192 em; a larger size would be more exact, and slower, since the font engine keeps no large glyphs.
+	 */
+	static constexpr int ShapingPixelSize = 128;
 
 	FFontFace(const QFont& InFont, bool bInMonospaced);
 

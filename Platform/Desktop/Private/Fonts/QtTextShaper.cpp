@@ -22,15 +22,16 @@ static EFontFeatures FeaturesOf(ETextShapingMethod Method, bool bRightToLeft)
 }
 
 // The caller has resolved directions over the whole paragraph. Where this text alone would resolve to another one, it is overridden.
-static bool NeedsOverride(QStringView Text, bool bRightToLeft)
+static bool NeedsOverride(const QString& Text, bool bRightToLeft)
 {
-	return std::any_of(Text.begin(), Text.end(),
-		[bRightToLeft](QChar Unit)
+	const QList<uint> Characters = Text.toUcs4();
+	return std::any_of(Characters.begin(), Characters.end(),
+		[bRightToLeft](uint Character)
 		{
-			const QChar::Direction Direction = Unit.direction();
-			const bool bRight = Direction == QChar::DirR || Direction == QChar::DirAL;
-			const bool bLeft = Direction == QChar::DirL || Direction == QChar::DirEN;
-			return Direction == QChar::DirAN || (bRightToLeft ? bLeft : bRight) || Unit.isSurrogate();
+			const QChar::Direction Direction = QChar::direction(Character);
+			const bool bRight = Direction == QChar::DirR || Direction == QChar::DirAL || Direction == QChar::DirAN;
+			const bool bLeft = Direction == QChar::DirL || Direction == QChar::DirEN || Direction == QChar::DirAN;
+			return bRightToLeft ? bLeft : bRight;
 		});
 }
 
