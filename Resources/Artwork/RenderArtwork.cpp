@@ -1,5 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
-// Renders the drawings of this folder to the pictures that programs load: build the target RenderArtwork and run it with the project's root.
+// Renders the drawings of this folder to the pictures that programs load: build the target RenderArtwork and run it with the project's
+// root.
 
 #include <QGuiApplication>
 #include <QImage>

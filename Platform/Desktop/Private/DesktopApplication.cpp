@@ -3,6 +3,7 @@
 #include "DesktopApplication.h"
 
 #include "DesktopLog.h"
+#include "Editor.h"
 #include "Fonts/QtTextShaper.h"
 #include "Framework/Application/SlateApplication.h"
 #include "HAL/PlatformHooks.h"
@@ -27,6 +28,7 @@ static void LogQtMessage(QtMsgType Type, const QMessageLogContext&, const QStrin
 TSharedRef<FDesktopApplication> FDesktopApplication::Create(EBrowserMode BrowserMode)
 {
 	check(!Instance);
+	UEditorEngine::Startup();
 	Instance = MakeShared<FDesktopApplication>(BrowserMode);
 	FSlateApplication::Create(Instance.ToSharedRef());
 	return Instance.ToSharedRef();
@@ -36,6 +38,7 @@ void FDesktopApplication::Shutdown()
 {
 	FSlateApplication::Shutdown();
 	Instance.Reset();
+	UEditorEngine::Shutdown();
 }
 
 FDesktopApplication& FDesktopApplication::Get()
@@ -49,8 +52,14 @@ FDesktopApplication::FDesktopApplication(EBrowserMode InBrowserMode)
 	, TextShaper(MakeUnique<FQtTextShaper>())
 {
 	qInstallMessageHandler(LogQtMessage);
-	FPlatformHooks::Get().LaunchURL = [this](const FString& Address, FString& OutError) { return OpenAddress(Address, OutError); };
-	FPlatformHooks::Get().ClipboardCopy = [this](const FString& Text) { SetClipboardText(Text); };
+	FPlatformHooks::Get().LaunchURL = [this](const FString& Address, FString& OutError)
+	{
+		return OpenAddress(Address, OutError);
+	};
+	FPlatformHooks::Get().ClipboardCopy = [this](const FString& Text)
+	{
+		SetClipboardText(Text);
+	};
 }
 
 FDesktopApplication::~FDesktopApplication()

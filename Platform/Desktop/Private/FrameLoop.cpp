@@ -3,6 +3,7 @@
 #include "FrameLoop.h"
 
 #include "Containers/Ticker.h"
+#include "Editor.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Math/UnrealMathUtility.h"
 
@@ -46,8 +47,17 @@ void FCountdown::Run(double Now)
 FFrameLoop::FFrameLoop()
 {
 	Clock.start();
-	Countdowns.Add(FCountdown([](float Step) { FTSTicker::GetCoreTicker().Tick(Step); },
-		[] { return FTSTicker::GetCoreTicker().GetTimeToNextTick(); }));
+	Countdowns.Add(FCountdown(
+		[](float Step) { FTSTicker::GetCoreTicker().Tick(Step); }, [] { return FTSTicker::GetCoreTicker().GetTimeToNextTick(); }));
+	Countdowns.Add(FCountdown(
+		[](float Step)
+		{
+			if (GEditor)
+			{
+				GEditor->GetTimerManager()->Tick(Step);
+			}
+		},
+		[] { return GEditor ? GEditor->GetTimerManager()->GetTimeToNextTimer() : TOptional<float>(); }));
 	for (QTimer* Timer : {&FrameTimer, &DeadlineTimer})
 	{
 		Timer->setSingleShot(true);
@@ -56,12 +66,21 @@ FFrameLoop::FFrameLoop()
 	connect(&FrameTimer, &QTimer::timeout, this, &FFrameLoop::RunFrame);
 	connect(&DeadlineTimer, &QTimer::timeout, this, &FFrameLoop::RequestFrame);
 	TickerAddedHandle = FTSTicker::GetCoreTicker().OnTickerAdded.AddRaw(this, &FFrameLoop::ScheduleTimers);
+	if (GEditor)
+	{
+		TimerManager = GEditor->GetTimerManager();
+		TimerSetHandle = TimerManager->OnTimerSet.AddRaw(this, &FFrameLoop::ScheduleTimers);
+	}
 	QCoreApplication::instance()->installEventFilter(this);
 }
 
 FFrameLoop::~FFrameLoop()
 {
 	FTSTicker::GetCoreTicker().OnTickerAdded.Remove(TickerAddedHandle);
+	if (TimerManager)
+	{
+		TimerManager->OnTimerSet.Remove(TimerSetHandle);
+	}
 }
 
 void FFrameLoop::RequestFrame()

@@ -143,9 +143,9 @@ void QSlateWidget::mouseMoveEvent(QMouseEvent* Event)
 void QSlateWidget::wheelEvent(QWheelEvent* Event)
 {
 	const float Notches = static_cast<float>(Event->angleDelta().y()) / NotchInEighthsOfDegree;
-	const bool bHandled = Notches != 0.0f &&
-		FSlateApplication::Get().ProcessMouseWheelEvent(
-			Window, MakePointerEvent(Event->position(), EKeys::Invalid, Event->buttons(), Event->modifiers(), Notches));
+	const bool bHandled =
+		Notches != 0.0f && FSlateApplication::Get().ProcessMouseWheelEvent(
+							   Window, MakePointerEvent(Event->position(), EKeys::Invalid, Event->buttons(), Event->modifiers(), Notches));
 	Event->setAccepted(bHandled);
 }
 
@@ -169,8 +169,7 @@ void QSlateWidget::keyPressEvent(QKeyEvent* Event)
 
 void QSlateWidget::keyReleaseEvent(QKeyEvent* Event)
 {
-	const FKeyEvent KeyEvent(
-		InputTranslation::ToKey(*Event), InputTranslation::ToModifiers(Event->modifiers()), Event->isAutoRepeat());
+	const FKeyEvent KeyEvent(InputTranslation::ToKey(*Event), InputTranslation::ToModifiers(Event->modifiers()), Event->isAutoRepeat());
 	Event->setAccepted(FSlateApplication::Get().ProcessKeyUpEvent(Window, KeyEvent));
 }
 

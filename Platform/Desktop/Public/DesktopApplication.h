@@ -18,8 +18,8 @@ enum class EBrowserMode : uint8
 };
 
 /**
- * The desktop that widgets run on, by Qt. There is one, made after the QApplication and shut down before it goes; it brings the Slate
- * application up and down.
+ * The desktop that widgets run on, by Qt. There is one, made after the QApplication and shut down before it goes; it brings GEditor and
+ * the Slate application up and down.
  */
 class FDesktopApplication : public ISlateDesktop
 {

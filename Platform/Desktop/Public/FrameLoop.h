@@ -5,10 +5,13 @@
 #include "Delegates/Delegate.h"
 #include "Misc/Optional.h"
 #include "Templates/Function.h"
+#include "Templates/SharedPointer.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
+
+class FTimerManager;
 
 /** What frames cost, since the start or the last reset. */
 struct FFrameStatistics
@@ -78,6 +81,8 @@ private:
 	QTimer DeadlineTimer;
 	TArray<FCountdown> Countdowns;
 	FDelegateHandle TickerAddedHandle;
+	TSharedPtr<FTimerManager> TimerManager;
+	FDelegateHandle TimerSetHandle;
 	FFrameStatistics Statistics;
 	double FrameTime = 0.0;
 	bool bRequested = false;

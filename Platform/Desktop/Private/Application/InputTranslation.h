@@ -23,4 +23,4 @@ FKey ToKey(const QKeyEvent& Event);
 FString ToText(const QKeyEvent& Event);
 
 FTextCompositionEvent ToComposition(const QInputMethodEvent& Event);
-}
+} // namespace InputTranslation

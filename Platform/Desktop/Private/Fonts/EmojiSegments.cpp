@@ -28,7 +28,7 @@ static bool StartsEmoji(char32_t Character, char32_t Next)
 		return false;
 	}
 	return Next == EmojiSelector || u_hasBinaryProperty(Next, UCHAR_EMOJI_MODIFIER) ||
-		(Next != TextSelector && u_hasBinaryProperty(Character, UCHAR_EMOJI_PRESENTATION));
+		   (Next != TextSelector && u_hasBinaryProperty(Character, UCHAR_EMOJI_PRESENTATION));
 }
 
 static bool ContinuesEmoji(char32_t Character)

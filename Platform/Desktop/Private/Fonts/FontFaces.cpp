@@ -44,7 +44,7 @@ static const FFaceSource EmojiSource = {
 
 // Asked in this order for what a face lacks: symbols before CJK, whose own arrows and marks are a full em wide.
 static const QStringList FallbackFamilies = {"Noto Sans", "Noto Sans Math", "Noto Sans Symbols", "Noto Sans Symbols2", "Noto Sans Arabic",
-	"Noto Sans Hebrew", "Noto Sans Thai", "Noto Sans Devanagari", "Noto Sans CJK SC", "Noto Serif CJK SC", "DejaVu Sans", "Noto Color Emoji"};
+	"Noto Sans Hebrew", "Noto Sans Thai", "Noto Sans Devanagari", "Noto Sans CJK SC", "DejaVu Sans", "Noto Color Emoji"};
 
 static void LoadFile(const FFaceSource& Source)
 {

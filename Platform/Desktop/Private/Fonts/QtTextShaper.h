@@ -13,12 +13,13 @@
 class FQtTextShaper : public ITextShaper
 {
 public:
-	TSharedRef<const FShapedText> Shape(FStringView Text, const FSlateFontInfo& Font, float Scale, TextBiDi::ETextDirection Direction,
-		ETextShapingMethod Method) override;
+	TSharedRef<const FShapedText> Shape(
+		FStringView Text, const FSlateFontInfo& Font, float Scale, TextBiDi::ETextDirection Direction, ETextShapingMethod Method) override;
 	FFontMetrics GetMetrics(const FSlateFontInfo& Font, float Scale) override;
 
 private:
-	/** Appends a laid-out segment to the right of what Shaped holds already. Skipped units at the start of the layout are not of the text. */
+	/** Appends a laid-out segment to the right of what Shaped holds already. Skipped units at the start of the layout are not of the text.
+	 */
 	void AppendSegment(FQtShapedText& Shaped, const FPresentationSegment& Segment, const QTextLayout& Layout, int Skipped, float PixelSize);
 
 	/** The font at another size, always the same object for the same two, so that its glyphs are drawn once. */

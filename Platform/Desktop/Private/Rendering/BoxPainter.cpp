@@ -13,7 +13,9 @@ static QPainterPath MakeRoundedPath(const QRectF& Rect, const FSlateBrushOutline
 {
 	const QRectF Inner = Rect.adjusted(Inset, Inset, -Inset, -Inset);
 	const auto RadiusOf = [&](double Units)
-	{ return qBound(0.0, Units * Scale - Inset, qMin(Inner.width(), Inner.height()) / 2.0); };
+	{
+		return qBound(0.0, Units * Scale - Inset, qMin(Inner.width(), Inner.height()) / 2.0);
+	};
 	const double TopLeft = RadiusOf(Outline.CornerRadii.X);
 	const double TopRight = RadiusOf(Outline.CornerRadii.Y);
 	const double BottomRight = RadiusOf(Outline.CornerRadii.Z);

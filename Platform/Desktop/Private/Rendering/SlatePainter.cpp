@@ -25,7 +25,10 @@ static QTransform ToQTransform(const FSlateRenderTransform& Transform)
 // Whether the way to the device only moves and scales, by exactly this.
 static bool IsScaledBy(const QTransform& Transform, float Scale)
 {
-	const auto IsNear = [](double Value, double Expected) { return qAbs(Value - Expected) < 1.0e-4; };
+	const auto IsNear = [](double Value, double Expected)
+	{
+		return qAbs(Value - Expected) < 1.0e-4;
+	};
 	return IsNear(Transform.m11(), Scale) && IsNear(Transform.m22(), Scale) && IsNear(Transform.m12(), 0.0) && IsNear(Transform.m21(), 0.0);
 }
 
@@ -112,7 +115,8 @@ void FChunkPainter::PaintPayload(const FSlateBoxPayload& Box, const FPaintGeomet
 	{
 		// Edges lie on whole pixels, so that areas that touch leave no seam and thin lines stay sharp.
 		const QRectF Device = ToDevice.mapRect(Local);
-		const QRectF Snapped(QPointF(qRound(Device.left()), qRound(Device.top())), QPointF(qRound(Device.right()), qRound(Device.bottom())));
+		const QRectF Snapped(
+			QPointF(qRound(Device.left()), qRound(Device.top())), QPointF(qRound(Device.right()), qRound(Device.bottom())));
 		PaintBox(Painter, Images, Box.Brush, {Snapped, qAbs(ToDevice.m11())}, Tint);
 		return;
 	}
@@ -161,7 +165,7 @@ void FChunkPainter::PaintPayload(const FSlateLinePayload& Line, const FPaintGeom
 	Painter.setPen(QPen(ToScreenColor(Tint), Line.Thickness * Geometry.DrawScale, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
 	Painter.drawPolyline(Points);
 }
-}
+} // namespace
 
 FSlatePainter::FSlatePainter()
 	: Images(MakeUnique<FImageCache>())

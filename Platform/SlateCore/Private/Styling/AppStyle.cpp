@@ -29,7 +29,7 @@ private:
 	void SetComboBox();
 	void SetHyperlink();
 };
-}
+} // namespace
 
 FEditorStyle::FEditorStyle()
 	: FSlateStyleSet(FAppStyle::GetAppStyleSetName())
@@ -122,10 +122,9 @@ void FEditorStyle::SetComboBox()
 {
 	FComboButtonStyle ComboButton;
 	ComboButton.SetButtonStyle(GetWidgetStyle<FButtonStyle>(TEXT("SimpleButton")))
-		.SetDownArrowImage(
-			FSlateVectorImageBrush(RootToContentDir(TEXT("Icons/ChevronDown"), TEXT(".svg")), FVector2D(12.0, 12.0)))
-		.SetMenuBorderBrush(FSlateRoundedBoxBrush(EditorTheme::FromScreen(EditorTheme::Dropdown), 4.0f,
-			EditorTheme::FromScreen(EditorTheme::Hover2), 1.0f))
+		.SetDownArrowImage(FSlateVectorImageBrush(RootToContentDir(TEXT("Icons/ChevronDown"), TEXT(".svg")), FVector2D(12.0, 12.0)))
+		.SetMenuBorderBrush(
+			FSlateRoundedBoxBrush(EditorTheme::FromScreen(EditorTheme::Dropdown), 4.0f, EditorTheme::FromScreen(EditorTheme::Hover2), 1.0f))
 		.SetMenuBorderPadding(FMargin(4.0f));
 	FComboBoxStyle ComboBox;
 	ComboBox.SetComboButtonStyle(ComboButton);

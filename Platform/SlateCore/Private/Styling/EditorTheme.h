@@ -31,4 +31,4 @@ inline constexpr uint32 Hover2 = 0x4F5564;
 inline constexpr uint32 AccentBlue = 0x2459C4;
 inline constexpr uint32 AccentRed = 0xB8262B;
 inline constexpr uint32 AccentGreen = 0x1B7A3B;
-}
+} // namespace EditorTheme
