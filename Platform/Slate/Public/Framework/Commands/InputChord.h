@@ -15,3 +15,11 @@ enum Type : uint8
 	Command = 1 << 3
 };
 }
+
+// A key that calls a command; by default none.
+struct FInputChord
+{
+	FKey Key;
+
+	bool IsValidChord() const { return Key.IsValid(); }
+};
