@@ -28,6 +28,9 @@ inline constexpr uint32 Secondary = 0x363B45;
 inline constexpr uint32 Hover = 0x454B57;
 inline constexpr uint32 Hover2 = 0x4F5564;
 
+/** Behind selected text. */
+inline constexpr uint32 Selection = 0x264F8C;
+
 inline constexpr uint32 AccentBlue = 0x2459C4;
 inline constexpr uint32 AccentRed = 0xB8262B;
 inline constexpr uint32 AccentGreen = 0x1B7A3B;
