@@ -4,7 +4,7 @@
 
 #include "BlockStack.h"
 #include "CodeBlockText.h"
-#include "LinkAddress.h"
+#include "LinkAddresses.h"
 #include "MarkdownReader.h"
 #include "MarkupWriter.h"
 #include "SpanStack.h"

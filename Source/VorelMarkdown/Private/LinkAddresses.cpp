@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "LinkAddress.h"
+#include "LinkAddresses.h"
 
 #include "MarkdownEntities.h"
 #include <algorithm>
