@@ -33,6 +33,8 @@ protected:
 	void InvalidateOwner();
 
 private:
+	friend class SWidget;
+
 	TSharedRef<SWidget> Widget;
 	SWidget* Owner = nullptr;
 	int32 Index = 0;

@@ -19,7 +19,7 @@ public:
 
 	TSharedRef<const FShapedText> Shape(FStringView Text, const FSlateFontInfo& Font, float Scale,
 		TextBiDi::ETextDirection Direction = TextBiDi::ETextDirection::LeftToRight, ETextShapingMethod Method = ETextShapingMethod::Auto);
-	const FFontMetrics& GetMetrics(const FSlateFontInfo& Font, float Scale);
+	FFontMetrics GetMetrics(const FSlateFontInfo& Font, float Scale);
 
 	/** How many times the shaper itself was asked. */
 	int64 GetNumShaped() const { return NumShaped; }

@@ -29,15 +29,26 @@ public:
 	/** In device pixels. */
 	const FSlateRect& GetViewRect() const { return ViewRect; }
 
+	/** The size of the widget when its children were placed last; unset where all of them must be placed anew, seen or not. */
+	const TOptional<FVector2D>& GetFormerSize() const { return FormerSize; }
+
+	/** Children in which something changed since then. */
+	const TArray<TSharedPtr<SWidget>>& GetUnsettled() const { return Unsettled; }
+	void SetFormerState(const TOptional<FVector2D>& InSize, TArray<TSharedPtr<SWidget>> InUnsettled);
+
 	int32 Num() const { return InView.Num(); }
 	const FArrangedWidget& operator[](int32 Index) const { return InView[Index]; }
 	const TArray<FArrangedWidget>& GetInternalArray() const { return InView; }
 	const TArray<FArrangedWidget>& GetOutOfView() const { return OutOfView; }
-	void EmptyOutOfView() { OutOfView.Empty(); }
+
+	/** Keeps only what is needed to draw and to hit. */
+	void ForgetPass();
 
 private:
 	EVisibility Filter;
 	FSlateRect ViewRect;
+	TOptional<FVector2D> FormerSize;
+	TArray<TSharedPtr<SWidget>> Unsettled;
 	TArray<FArrangedWidget> InView;
 	TArray<FArrangedWidget> OutOfView;
 };

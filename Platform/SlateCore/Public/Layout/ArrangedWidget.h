@@ -17,6 +17,8 @@ public:
 	{
 	}
 
+	bool operator==(const FArrangedWidget& Other) const { return Widget == Other.Widget && Geometry == Other.Geometry; }
+
 	FGeometry Geometry;
 	TSharedRef<SWidget> Widget;
 };

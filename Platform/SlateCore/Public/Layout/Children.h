@@ -26,7 +26,7 @@ public:
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) const override;
 };
 
-/** Children in slots of one type, in order. Adding and removing lays the owner out again. */
+/** Children in slots of one type, in order. Adding lays the owner out again; after removing it says so itself. */
 template <typename SlotType>
 class TPanelChildren final : public FChildren
 {

@@ -40,9 +40,9 @@ struct FSlateRect
 	}
 	constexpr bool operator==(const FSlateRect&) const = default;
 
-	/** Whether both share more than an edge. */
+	/** Touching counts, so that something without size is not lost. */
 	static constexpr bool DoRectanglesIntersect(const FSlateRect& A, const FSlateRect& B)
 	{
-		return A.Left < B.Right && B.Left < A.Right && A.Top < B.Bottom && B.Top < A.Bottom;
+		return A.Left <= B.Right && B.Left <= A.Right && A.Top <= B.Bottom && B.Top <= A.Bottom;
 	}
 };

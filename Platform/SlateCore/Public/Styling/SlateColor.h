@@ -17,8 +17,11 @@ enum class ESlateColorStylingMode : uint8
 /** A color, or the rule by which it is taken from the surrounding widgets. */
 struct FSlateColor
 {
-	FSlateColor() = default;
-	FSlateColor(const FLinearColor& InColor);
+	constexpr FSlateColor() = default;
+	constexpr FSlateColor(const FLinearColor& InColor)
+		: SpecifiedColor(InColor)
+	{
+	}
 
 	static FSlateColor UseForeground();
 	static FSlateColor UseSubduedForeground();
@@ -29,14 +32,17 @@ struct FSlateColor
 	FLinearColor GetColor(const FWidgetStyle& InWidgetStyle) const;
 
 	/** Only meaningful where IsColorSpecified. */
-	FLinearColor GetSpecifiedColor() const { return SpecifiedColor; }
+	const FLinearColor& GetSpecifiedColor() const { return SpecifiedColor; }
 	bool IsColorSpecified() const { return ColorUseRule == ESlateColorStylingMode::UseColor_Specified; }
 	ESlateColorStylingMode GetColorRule() const { return ColorUseRule; }
 
 	bool operator==(const FSlateColor& Other) const;
 
 private:
-	explicit FSlateColor(ESlateColorStylingMode InRule);
+	constexpr explicit FSlateColor(ESlateColorStylingMode InRule)
+		: ColorUseRule(InRule)
+	{
+	}
 
 	FLinearColor SpecifiedColor = FLinearColor(1.0f, 1.0f, 1.0f, 1.0f);
 	ESlateColorStylingMode ColorUseRule = ESlateColorStylingMode::UseColor_Specified;

@@ -5,6 +5,8 @@
 #include "Layout/BasicLayoutWidgetSlot.h"
 #include "Widgets/SPanel.h"
 
+struct FBoxSlotExtent;
+
 /** What both boxes share: a row of slots, each as long as its child wishes or filling what is left by weight. */
 class SBoxPanel : public SPanel
 {
@@ -37,7 +39,7 @@ protected:
 
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
 	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
-	virtual void OnChildSizeChanged(SWidget& Child) override;
+	virtual void OnChildLayoutChanged(const FSlotBase* ChildSlot) override;
 
 	TPanelChildren<FSlot> Children;
 
@@ -54,9 +56,12 @@ private:
 	FRunningTotal AddToTotal(const FRunningTotal& Before, const FSlot& Slot) const;
 	void ArrangeFilling(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const;
 	void ArrangeVisibleRange(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const;
-	void AddUnsettled(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren, int32 First, int32 Last) const;
-	FArrangedWidget ArrangeSlot(const FGeometry& AllottedGeometry, const FSlot& Slot, float Offset, float Size) const;
+	void PlaceSlot(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren, int32 Index, bool bInView) const;
+	FArrangedWidget ArrangeSlot(const FGeometry& AllottedGeometry, const FSlot& Slot, const FBoxSlotExtent& Extent) const;
+
+	/** The first slot that does not end before an offset, by binary search. */
 	int32 FindSlotAt(float Offset) const;
+	float GetOffset(int32 Index) const { return Index > 0 ? Totals[Index - 1].Along : 0.0f; }
 	float Along(const FVector2D& Size) const { return static_cast<float>(Orientation == Orient_Horizontal ? Size.X : Size.Y); }
 	float Across(const FVector2D& Size) const { return static_cast<float>(Orientation == Orient_Horizontal ? Size.Y : Size.X); }
 

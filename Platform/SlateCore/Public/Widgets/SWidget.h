@@ -97,6 +97,9 @@ public:
 	void SetCursor(const TOptional<EMouseCursor::Type>& InCursor) { Cursor = InCursor; }
 
 	TSharedPtr<SWidget> GetParentWidget() const;
+
+	/** The slot it stands in; null where its parent has none. */
+	const FSlotBase* GetAssignedSlot() const { return AssignedSlot; }
 	bool IsHovered() const { return bIsHovered; }
 	bool HasKeyboardFocus() const;
 	bool HasMouseCapture() const;
@@ -158,8 +161,8 @@ protected:
 	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
 		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const = 0;
 
-	/** The desired size or the visibility of a child changed. */
-	virtual void OnChildSizeChanged(SWidget& Child);
+	/** What a child wishes for changed, or whether it takes room, or its slot. Null for a child without slot. */
+	virtual void OnChildLayoutChanged(const FSlotBase* ChildSlot);
 
 	/** Something in the tree of which this is the root needs a frame. */
 	virtual void OnTreeInvalidated() {}
@@ -195,17 +198,19 @@ private:
 		bool operator==(const FPaintKey&) const = default;
 	};
 
-	void AssignParent(SWidget& NewParent);
+	void AssignParent(SWidget& NewParent, FSlotBase* InSlot);
 	void RemoveParent(const SWidget& OldParent);
 	void ListInParent();
 	void MarkLayout(bool bSizeToo);
 	void MarkPaint() const;
 	void NoteWantsFrames();
 	void PrepassChildren(float LayoutScaleMultiplier, bool bAll);
-	void ArrangeOwnChildren(const TOptional<FVector2D>& FormerSize, const TArray<TWeakPtr<SWidget>>& Unsettled);
-	FSlateRect GetChildViewRect() const;
+	TArray<TSharedPtr<SWidget>> TakeUnsettledChildren();
+	void PlaceChildren(FArrangedChildren& NewArranged);
+	FSlateRect ClipToSelf(const FSlateRect& Rect) const;
 
 	SWidget* Parent = nullptr;
+	FSlotBase* AssignedSlot = nullptr;
 	const TCHAR* CreatedAs = TEXT("SWidget");
 	FName Tag;
 
@@ -247,6 +252,10 @@ private:
 	bool bWantsFrames = false;
 	bool bCanTick = false;
 	bool bIsHovered = false;
+
+protected:
+	/** Stands in many places at once, so it belongs to none. */
+	bool bKnowsNoParent = false;
 };
 
 /** Whether a class inherits SWidget's own, empty Tick. An override may be private, which then cannot be named here. */

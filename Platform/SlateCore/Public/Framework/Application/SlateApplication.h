@@ -8,6 +8,7 @@
 #include "Rendering/SlateRenderer.h"
 #include "Types/SlateEnums.h"
 
+class FReply;
 class FSlateFocus;
 class FSlateFrame;
 class FSlateMouse;
@@ -53,6 +54,9 @@ public:
 	bool IsFrameRequested() const { return bFrameRequested; }
 	const FSlateFrameStats& GetFrameStats() const;
 
+	/** Counts frames, from 1; 0 before the first. */
+	uint64 GetFrameNumber() const;
+
 	bool ProcessMouseMoveEvent(const TSharedRef<SWindow>& Window, const FPointerEvent& MouseEvent);
 	bool ProcessMouseButtonDownEvent(const TSharedRef<SWindow>& Window, const FPointerEvent& MouseEvent);
 	bool ProcessMouseButtonUpEvent(const TSharedRef<SWindow>& Window, const FPointerEvent& MouseEvent);
@@ -79,7 +83,12 @@ public:
 	ISlateDesktop& GetDesktop() { return *Desktop; }
 
 private:
+	friend class FSlateFocus;
+	friend class FSlateMouse;
+
 	explicit FSlateApplication(const TSharedRef<ISlateDesktop>& InDesktop);
+
+	void ProcessReply(const FReply& Reply);
 
 	TSharedRef<ISlateDesktop> Desktop;
 	FSlateRenderer Renderer;

@@ -1,0 +1,219 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Framework/Application/SlateFrame.h"
+#include "Widgets/SWidget.h"
+
+// The size and arrange passes, and the invalidation that tells them where to go.
+
+void SWidget::Invalidate(EInvalidateWidgetReason Reason)
+{
+	if (EnumHasReason(Reason, EInvalidateWidgetReason::Layout))
+	{
+		bOwnSizeStale = true;
+		bOwnArrangeStale = true;
+		MarkLayout(true);
+	}
+	if (EnumHasReason(Reason, EInvalidateWidgetReason::Layout) || EnumHasReason(Reason, EInvalidateWidgetReason::Paint))
+	{
+		MarkPaint();
+	}
+	if (Parent == nullptr)
+	{
+		return;
+	}
+	if (EnumHasReason(Reason, EInvalidateWidgetReason::RenderTransform))
+	{
+		Parent->bOwnArrangeStale = true;
+		Parent->MarkLayout(false);
+	}
+	if (EnumHasReason(Reason, EInvalidateWidgetReason::Visibility))
+	{
+		// What changed in it while it was collapsed was kept from its parent until now.
+		ListInParent();
+		Parent->OnChildLayoutChanged(AssignedSlot);
+		Parent->Invalidate(EInvalidateWidgetReason::Layout);
+	}
+}
+
+void SWidget::OnChildLayoutChanged(const FSlotBase*)
+{
+	bOwnSizeStale = true;
+	bOwnArrangeStale = true;
+}
+
+void SWidget::ListInParent()
+{
+	if (!bListedInParent && Parent != nullptr && (bSizePending || bArrangePending))
+	{
+		Parent->UnsettledChildren.Add(AsWeak());
+		bListedInParent = true;
+	}
+}
+
+void SWidget::MarkLayout(bool bSizeToo)
+{
+	for (SWidget* Widget = this; Widget != nullptr; Widget = Widget->Parent)
+	{
+		const bool bKnownAbove = Widget->bListedInParent && Widget->bArrangePending && (Widget->bSizePending || !bSizeToo);
+		Widget->bArrangePending = true;
+		Widget->bSizePending |= bSizeToo;
+		if (bKnownAbove || Widget->GetVisibility() == EVisibility::Collapsed)
+		{
+			return;
+		}
+		Widget->ListInParent();
+		if (Widget->Parent == nullptr)
+		{
+			Widget->OnTreeInvalidated();
+		}
+	}
+}
+
+void SWidget::SlatePrepass(float LayoutScaleMultiplier)
+{
+	const bool bScaleChanged = PrepassScale != LayoutScaleMultiplier;
+	if (!bSizePending && !bScaleChanged)
+	{
+		return;
+	}
+	bSizePending = false;
+	bOwnSizeStale |= bScaleChanged;
+	PrepassScale = LayoutScaleMultiplier;
+	PrepassChildren(LayoutScaleMultiplier, bScaleChanged);
+	if (!bOwnSizeStale)
+	{
+		return;
+	}
+	bOwnSizeStale = false;
+	++FSlateFrame::GetStats().NumDesiredSizes;
+	const FVector2D NewSize = ComputeDesiredSize(LayoutScaleMultiplier);
+	if (NewSize != DesiredSize)
+	{
+		DesiredSize = NewSize;
+		if (Parent != nullptr)
+		{
+			Parent->OnChildLayoutChanged(AssignedSlot);
+		}
+	}
+}
+
+void SWidget::PrepassChildren(float LayoutScaleMultiplier, bool bAll)
+{
+	const auto Visit = [LayoutScaleMultiplier](SWidget& Child)
+	{
+		if (Child.GetVisibility() != EVisibility::Collapsed)
+		{
+			Child.SlatePrepass(LayoutScaleMultiplier);
+		}
+	};
+	if (bAll)
+	{
+		FChildren& Children = *GetChildren();
+		for (int32 Index = 0; Index < Children.Num(); ++Index)
+		{
+			Visit(*Children.GetChildAt(Index));
+		}
+		return;
+	}
+	for (int32 Index = 0; Index < UnsettledChildren.Num(); ++Index)
+	{
+		const TSharedPtr<SWidget> Child = UnsettledChildren[Index].Pin();
+		if (Child.IsValid() && Child->Parent == this)
+		{
+			Visit(*Child);
+		}
+	}
+}
+
+TArray<TSharedPtr<SWidget>> SWidget::TakeUnsettledChildren()
+{
+	TArray<TSharedPtr<SWidget>> Taken;
+	for (const TWeakPtr<SWidget>& Weak : UnsettledChildren)
+	{
+		const TSharedPtr<SWidget> Child = Weak.Pin();
+		if (Child.IsValid() && Child->Parent == this)
+		{
+			Child->bListedInParent = false;
+			Taken.Add(Child);
+		}
+	}
+	UnsettledChildren.Empty();
+	return Taken;
+}
+
+void SWidget::Arrange(const FGeometry& AllottedGeometry, const FSlateRect& ViewRect)
+{
+	const bool bMoved = !bHasGeometry || !(AllottedGeometry == CachedGeometry);
+	const bool bViewChanged = !(ViewRect == CachedViewRect);
+	if (!bMoved && !bViewChanged && !bArrangePending)
+	{
+		return;
+	}
+	const bool bKeepsSize = bHasGeometry && AllottedGeometry.GetScale() == CachedGeometry.GetScale();
+	const TOptional<FVector2D> FormerSize = bKeepsSize ? CachedGeometry.GetLocalSize() : TOptional<FVector2D>();
+	const bool bPlaceAll = bMoved || bViewChanged || bOwnArrangeStale;
+	const bool bResized = !FormerSize.IsSet() || FormerSize.GetValue() != AllottedGeometry.GetLocalSize();
+	const bool bTellSelf = bResized || bOwnArrangeStale;
+
+	bHasGeometry = true;
+	CachedGeometry = AllottedGeometry;
+	CachedViewRect = ViewRect;
+	bArrangePending = false;
+	bOwnArrangeStale = false;
+	++FSlateFrame::GetStats().NumArranged;
+	if (bMoved)
+	{
+		MarkPaint();
+	}
+	if (bTellSelf)
+	{
+		OnArranged(AllottedGeometry);
+	}
+
+	FArrangedChildren NewArranged(EVisibility::Visible, ClipToSelf(ViewRect));
+	NewArranged.SetFormerState(FormerSize, TakeUnsettledChildren());
+	if (bPlaceAll)
+	{
+		OnArrangeChildren(AllottedGeometry, NewArranged);
+	}
+	PlaceChildren(NewArranged);
+	if (bPlaceAll)
+	{
+		const bool bSameChildren = NewArranged.GetInternalArray() == Arranged.GetInternalArray();
+		Arranged = MoveTemp(NewArranged);
+		Arranged.ForgetPass();
+		if (!bSameChildren)
+		{
+			MarkPaint();
+		}
+	}
+}
+
+void SWidget::PlaceChildren(FArrangedChildren& NewArranged)
+{
+	for (const FArrangedWidget& Child : NewArranged.GetInternalArray())
+	{
+		Child.Widget->Arrange(Child.Geometry, NewArranged.GetViewRect());
+	}
+	for (const FArrangedWidget& Child : NewArranged.GetOutOfView())
+	{
+		Child.Widget->Arrange(Child.Geometry, NewArranged.GetViewRect());
+	}
+	for (const TSharedPtr<SWidget>& Child : NewArranged.GetUnsettled())
+	{
+		if (Child->bArrangePending && Child->bHasGeometry && Child->GetVisibility().IsVisible())
+		{
+			Child->Arrange(Child->CachedGeometry, Child->CachedViewRect);
+		}
+	}
+}
+
+void SWidget::ArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const
+{
+	OnArrangeChildren(AllottedGeometry, ArrangedChildren);
+}
+
+FSlateRect SWidget::ClipToSelf(const FSlateRect& Rect) const
+{
+	return Clipping == EWidgetClipping::ClipToBounds ? Rect.IntersectionWith(CachedGeometry.GetRenderBoundingRect()) : Rect;
+}
