@@ -77,7 +77,7 @@ struct FShapeEqual
 		return A.Text == B.Text && A.Scale == B.Scale && A.Direction == B.Direction && A.Method == B.Method && A.Font == B.Font;
 	}
 };
-}
+} // namespace
 
 struct FShapedTextCache::FGeneration
 {

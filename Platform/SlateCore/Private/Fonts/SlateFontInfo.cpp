@@ -21,5 +21,6 @@ bool FSlateFontInfo::operator==(const FSlateFontInfo& Other) const
 
 uint32 GetTypeHash(const FSlateFontInfo& Font)
 {
-	return HashCombine(HashCombine(GetTypeHash(Font.TypefaceFontName), GetTypeHash(Font.Size)), GetTypeHash(Font.OutlineSettings.OutlineSize));
+	return HashCombine(
+		HashCombine(GetTypeHash(Font.TypefaceFontName), GetTypeHash(Font.Size)), GetTypeHash(Font.OutlineSettings.OutlineSize));
 }

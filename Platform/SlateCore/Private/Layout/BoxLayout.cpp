@@ -8,7 +8,7 @@ float LimitToMaxSize(const FBoxSlotInput& Slot, float ChildSize)
 {
 	return Slot.MaxSize > 0.0f ? FMath::Min(ChildSize, Slot.MaxSize) : ChildSize;
 }
-}
+} // namespace
 
 float GetWishedBoxSlotSize(const FBoxSlotInput& Slot)
 {

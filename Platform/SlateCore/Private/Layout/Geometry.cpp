@@ -16,9 +16,10 @@ FSlateRect BoundTransformedBox(const FVector2D& Size, const FSlateRenderTransfor
 	const double Top = Origin.Y + FMath::Min(0.0, AlongX.Y) + FMath::Min(0.0, AlongY.Y);
 	const double Width = FMath::Abs(AlongX.X) + FMath::Abs(AlongY.X);
 	const double Height = FMath::Abs(AlongX.Y) + FMath::Abs(AlongY.Y);
-	return FSlateRect(static_cast<float>(Left), static_cast<float>(Top), static_cast<float>(Left + Width), static_cast<float>(Top + Height));
+	return FSlateRect(
+		static_cast<float>(Left), static_cast<float>(Top), static_cast<float>(Left + Width), static_cast<float>(Top + Height));
 }
-}
+} // namespace
 
 FSlateRect FPaintGeometry::GetRenderBoundingRect() const
 {

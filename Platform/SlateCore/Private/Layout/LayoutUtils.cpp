@@ -33,7 +33,7 @@ AlignmentArrangeResult Place(EPlace Where, float Allotted, float Desired, float 
 		return {PaddingBefore, Size};
 	}
 }
-}
+} // namespace
 
 AlignmentArrangeResult AlignChild(EHorizontalAlignment Alignment, float AllottedSize, float DesiredSize, const FMargin& Padding)
 {

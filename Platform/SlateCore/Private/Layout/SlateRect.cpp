@@ -4,7 +4,8 @@
 
 FSlateRect FSlateRect::IntersectionWith(const FSlateRect& Other) const
 {
-	return FSlateRect(FMath::Max(Left, Other.Left), FMath::Max(Top, Other.Top), FMath::Min(Right, Other.Right), FMath::Min(Bottom, Other.Bottom));
+	return FSlateRect(
+		FMath::Max(Left, Other.Left), FMath::Max(Top, Other.Top), FMath::Min(Right, Other.Right), FMath::Min(Bottom, Other.Bottom));
 }
 
 FSlateRect FSlateRect::Expand(const FSlateRect& Other) const
@@ -17,5 +18,6 @@ FSlateRect FSlateRect::Expand(const FSlateRect& Other) const
 	{
 		return *this;
 	}
-	return FSlateRect(FMath::Min(Left, Other.Left), FMath::Min(Top, Other.Top), FMath::Max(Right, Other.Right), FMath::Max(Bottom, Other.Bottom));
+	return FSlateRect(
+		FMath::Min(Left, Other.Left), FMath::Min(Top, Other.Top), FMath::Max(Right, Other.Right), FMath::Max(Bottom, Other.Bottom));
 }

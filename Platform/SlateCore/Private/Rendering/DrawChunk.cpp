@@ -50,7 +50,7 @@ void CompareItems(const FItem& Old, const FItem& New, TArray<FSlateRect>& OutDam
 		FSlateDrawChunk::FindDamage(*OldChunk, *AsChunk(New), OutDamage);
 	}
 }
-}
+} // namespace
 
 void FSlateDrawChunk::FindDamage(const FSlateDrawChunk& Old, const FSlateDrawChunk& New, TArray<FSlateRect>& OutDamage)
 {

@@ -33,8 +33,8 @@ FSlateRenderTransform FSlateRenderTransform::Concatenate(const FSlateRenderTrans
 {
 	const FMatrix2x2& A = Matrix;
 	const FMatrix2x2& B = Then.Matrix;
-	const FMatrix2x2 Product{A.M00 * B.M00 + A.M01 * B.M10, A.M00 * B.M01 + A.M01 * B.M11, A.M10 * B.M00 + A.M11 * B.M10,
-		A.M10 * B.M01 + A.M11 * B.M11};
+	const FMatrix2x2 Product{
+		A.M00 * B.M00 + A.M01 * B.M10, A.M00 * B.M01 + A.M01 * B.M11, A.M10 * B.M00 + A.M11 * B.M10, A.M10 * B.M01 + A.M11 * B.M11};
 	return FSlateRenderTransform(Product, Then.TransformPoint(Translation));
 }
 

@@ -16,7 +16,7 @@ FSlateBrush::FSlateBrush(ESlateBrushDrawType::Type InDrawType, const FName& InRe
 
 bool FSlateBrush::operator==(const FSlateBrush& Other) const
 {
-	return DrawAs == Other.DrawAs && Tiling == Other.Tiling && ImageType == Other.ImageType && ImageSize == Other.ImageSize
-		&& Margin == Other.Margin && TintColor == Other.TintColor && OutlineSettings == Other.OutlineSettings
-		&& ResourceName == Other.ResourceName;
+	return DrawAs == Other.DrawAs && Tiling == Other.Tiling && ImageType == Other.ImageType && ImageSize == Other.ImageSize &&
+		   Margin == Other.Margin && TintColor == Other.TintColor && OutlineSettings == Other.OutlineSettings &&
+		   ResourceName == Other.ResourceName;
 }

@@ -32,7 +32,7 @@ const ValueType& FindOr(const TMap<FName, ValueType>& Map, const FName& Name, co
 	const ValueType* Found = Map.Find(Join(Name, Specifier));
 	return Found != nullptr ? *Found : Default;
 }
-}
+} // namespace
 
 FSlateStyleSet::FSlateStyleSet(const FName& InStyleSetName)
 	: StyleSetName(InStyleSetName)

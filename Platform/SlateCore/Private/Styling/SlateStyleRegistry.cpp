@@ -11,7 +11,7 @@ TMap<FName, const ISlateStyle*>& GetRegistry()
 	static TMap<FName, const ISlateStyle*> Registry;
 	return Registry;
 }
-}
+} // namespace
 
 void FSlateStyleRegistry::RegisterSlateStyle(const ISlateStyle& InSlateStyle)
 {

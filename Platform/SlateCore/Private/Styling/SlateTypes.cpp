@@ -34,10 +34,10 @@ FTextBlockStyle::FTextBlockStyle()
 
 bool FTextBlockStyle::operator==(const FTextBlockStyle& Other) const
 {
-	return Font == Other.Font && ColorAndOpacity == Other.ColorAndOpacity && ShadowOffset == Other.ShadowOffset
-		&& ShadowColorAndOpacity == Other.ShadowColorAndOpacity && SelectedBackgroundColor == Other.SelectedBackgroundColor
-		&& HighlightColor == Other.HighlightColor && HighlightShape == Other.HighlightShape && StrikeBrush == Other.StrikeBrush
-		&& UnderlineBrush == Other.UnderlineBrush;
+	return Font == Other.Font && ColorAndOpacity == Other.ColorAndOpacity && ShadowOffset == Other.ShadowOffset &&
+		   ShadowColorAndOpacity == Other.ShadowColorAndOpacity && SelectedBackgroundColor == Other.SelectedBackgroundColor &&
+		   HighlightColor == Other.HighlightColor && HighlightShape == Other.HighlightShape && StrikeBrush == Other.StrikeBrush &&
+		   UnderlineBrush == Other.UnderlineBrush;
 }
 
 FButtonStyle::FButtonStyle()

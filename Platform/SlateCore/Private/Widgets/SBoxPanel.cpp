@@ -9,7 +9,7 @@ namespace
 {
 /** In device pixels: a child's render transform may draw it this far out of its room. */
 constexpr float RenderTransformReach = 64.0f;
-}
+} // namespace
 
 void SBoxPanel::FSlot::SetFillWeight(float InWeight)
 {
@@ -186,10 +186,10 @@ FArrangedWidget SBoxPanel::ArrangeSlot(const FGeometry& AllottedGeometry, const 
 	const bool bHorizontal = Orientation == Orient_Horizontal;
 	const float Breadth = Across(AllottedGeometry.GetLocalSize());
 	const FVector2D Wish = Slot.GetWidget()->GetDesiredSize();
-	const AlignmentArrangeResult X = AlignChild(
-		Slot.GetHorizontalAlignment(), bHorizontal ? Extent.Size : Breadth, static_cast<float>(Wish.X), Slot.GetPadding());
-	const AlignmentArrangeResult Y = AlignChild(
-		Slot.GetVerticalAlignment(), bHorizontal ? Breadth : Extent.Size, static_cast<float>(Wish.Y), Slot.GetPadding());
+	const AlignmentArrangeResult X =
+		AlignChild(Slot.GetHorizontalAlignment(), bHorizontal ? Extent.Size : Breadth, static_cast<float>(Wish.X), Slot.GetPadding());
+	const AlignmentArrangeResult Y =
+		AlignChild(Slot.GetVerticalAlignment(), bHorizontal ? Breadth : Extent.Size, static_cast<float>(Wish.Y), Slot.GetPadding());
 	const FVector2D Start = bHorizontal ? FVector2D(Extent.Offset, 0.0) : FVector2D(0.0, Extent.Offset);
 	return AllottedGeometry.MakeChild(Slot.GetWidget(), Start + FVector2D(X.Offset, Y.Offset), FVector2D(X.Size, Y.Size));
 }

@@ -23,6 +23,6 @@ protected:
 		return LayerId;
 	}
 };
-}
+} // namespace
 
 TSharedRef<SWidget> SNullWidget::NullWidget = MakeShared<SNullWidgetContent>();

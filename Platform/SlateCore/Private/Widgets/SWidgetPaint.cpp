@@ -46,8 +46,8 @@ int32 SWidget::PaintArrangedChildren(const FPaintArgs& Args, const FSlateRect& M
 	{
 		if (FSlateRect::DoRectanglesIntersect(MyCullingRect, Child.Geometry.GetRenderBoundingRect()))
 		{
-			MaxLayerId = FMath::Max(
-				MaxLayerId, Child.Widget->Paint(Args, Child.Geometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled));
+			MaxLayerId = FMath::Max(MaxLayerId,
+				Child.Widget->Paint(Args, Child.Geometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled));
 		}
 	}
 	return MaxLayerId;

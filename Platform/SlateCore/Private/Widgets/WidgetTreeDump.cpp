@@ -57,8 +57,8 @@ void FDumper::AddLine(SWidget& Widget, const FGeometry& Geometry, const FSurroun
 {
 	const FVector2D Position = Geometry.GetAccumulatedLayoutTransform().Translation / Scale;
 	const FVector2D Size = Geometry.GetAbsoluteSize() / Scale;
-	Text += FString::ChrN(Self.Depth * 2, u' ') + Widget.GetTypeAsString() + TEXT(" ") + FormatNumber(Position.X) + TEXT(",")
-		+ FormatNumber(Position.Y) + TEXT(" ") + FormatNumber(Size.X) + TEXT("x") + FormatNumber(Size.Y);
+	Text += FString::ChrN(Self.Depth * 2, u' ') + Widget.GetTypeAsString() + TEXT(" ") + FormatNumber(Position.X) + TEXT(",") +
+			FormatNumber(Position.Y) + TEXT(" ") + FormatNumber(Size.X) + TEXT("x") + FormatNumber(Size.Y);
 	Text += Widget.GetVisibility() == EVisibility::Collapsed ? TEXT(" collapsed") : TEXT("");
 	Text += Widget.GetVisibility() == EVisibility::Hidden ? TEXT(" hidden") : TEXT("");
 	Text += Self.bEnabled ? TEXT("") : TEXT(" disabled");
@@ -106,7 +106,7 @@ void FDumper::AddChildren(SWidget& Widget, const FGeometry& Geometry, const FSur
 		Add(*Child, Found == INDEX_NONE ? FGeometry() : Placed[Found].Geometry, Around);
 	}
 }
-}
+} // namespace
 
 FString FWidgetTreeDump::Dump(const SWindow& Window)
 {

@@ -54,19 +54,20 @@ void FSlateFrame::CollectWantingFrames(SWidget& Widget, TArray<TSharedRef<SWidge
 		return;
 	}
 	OutWidgets.Add(Widget.AsShared());
-	Widget.BoundVisibilityChildren.RemoveAll([&Widget](const TWeakPtr<SWidget>& Weak)
-	{
-		const TSharedPtr<SWidget> Child = Weak.Pin();
-		return !Child.IsValid() || Child->Parent != &Widget || !Child->VisibilityAttribute.IsBound();
-	});
+	Widget.BoundVisibilityChildren.RemoveAll(
+		[&Widget](const TWeakPtr<SWidget>& Weak)
+		{
+			const TSharedPtr<SWidget> Child = Weak.Pin();
+			return !Child.IsValid() || Child->Parent != &Widget || !Child->VisibilityAttribute.IsBound();
+		});
 	for (const TWeakPtr<SWidget>& Child : Widget.BoundVisibilityChildren)
 	{
 		OutWidgets.Add(Child.Pin().ToSharedRef());
 	}
 	for (const FArrangedWidget& Child : Widget.Arranged.GetInternalArray())
 	{
-		if (Child.Widget->GetVisibility().IsVisible()
-			&& FSlateRect::DoRectanglesIntersect(Widget.Arranged.GetViewRect(), Child.Geometry.GetRenderBoundingRect()))
+		if (Child.Widget->GetVisibility().IsVisible() &&
+			FSlateRect::DoRectanglesIntersect(Widget.Arranged.GetViewRect(), Child.Geometry.GetRenderBoundingRect()))
 		{
 			CollectWantingFrames(*Child.Widget, OutWidgets);
 		}

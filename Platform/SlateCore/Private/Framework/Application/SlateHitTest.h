@@ -12,8 +12,8 @@ class FSlateHitTest
 {
 public:
 	/**
-	 * From the window down to the uppermost widget under the point; empty beside the window. Point is in device pixels. The path ends before
-	 * the first disabled widget, so that input for it goes to what is around it.
+	 * From the window down to the uppermost widget under the point; empty beside the window. Point is in device pixels. The path ends
+	 * before the first disabled widget, so that input for it goes to what is around it.
 	 */
 	static TArray<FArrangedWidget> FindPath(SWindow& Window, const FVector2D& Point);
 

@@ -10,8 +10,8 @@
 bool FSlateMouse::Move(SWindow& Window, const FPointerEvent& Event)
 {
 	const TArray<FArrangedWidget> Path = FindTargets(Window, Event);
-	const FReply Reply = Route(Path, Event, [](const FArrangedWidget& Target, const FPointerEvent& Move)
-	{ return Target.Widget->OnMouseMove(Target.Geometry, Move); });
+	const FReply Reply = Route(Path, Event,
+		[](const FArrangedWidget& Target, const FPointerEvent& Move) { return Target.Widget->OnMouseMove(Target.Geometry, Move); });
 	UpdateCursor(Path, Event);
 	return Reply.IsEventHandled();
 }
@@ -25,8 +25,8 @@ bool FSlateMouse::ButtonDown(SWindow& Window, const FPointerEvent& Event)
 FReply FSlateMouse::RouteButtonDown(const TArray<FArrangedWidget>& Path, const FPointerEvent& Event)
 {
 	const bool bWasCaptured = Captor.IsValid();
-	const FReply Reply = Route(Path, Event, [](const FArrangedWidget& Target, const FPointerEvent& Down)
-	{ return Target.Widget->OnMouseButtonDown(Target.Geometry, Down); });
+	const FReply Reply = Route(Path, Event,
+		[](const FArrangedWidget& Target, const FPointerEvent& Down) { return Target.Widget->OnMouseButtonDown(Target.Geometry, Down); });
 	if (!bWasCaptured && !Reply.GetUserFocusRecepient().IsValid() && !Reply.ShouldClearUserFocus())
 	{
 		FocusUnderMouse(Path);
@@ -37,8 +37,8 @@ FReply FSlateMouse::RouteButtonDown(const TArray<FArrangedWidget>& Path, const F
 bool FSlateMouse::ButtonUp(SWindow& Window, const FPointerEvent& Event)
 {
 	const TArray<FArrangedWidget> Path = FindTargets(Window, Event);
-	const FReply Reply = Route(Path, Event, [](const FArrangedWidget& Target, const FPointerEvent& Up)
-	{ return Target.Widget->OnMouseButtonUp(Target.Geometry, Up); });
+	const FReply Reply = Route(Path, Event,
+		[](const FArrangedWidget& Target, const FPointerEvent& Up) { return Target.Widget->OnMouseButtonUp(Target.Geometry, Up); });
 	Refresh();
 	return Reply.IsEventHandled();
 }
@@ -46,16 +46,18 @@ bool FSlateMouse::ButtonUp(SWindow& Window, const FPointerEvent& Event)
 bool FSlateMouse::DoubleClick(SWindow& Window, const FPointerEvent& Event)
 {
 	const TArray<FArrangedWidget> Path = FindTargets(Window, Event);
-	const FReply Reply = Route(Path, Event, [](const FArrangedWidget& Target, const FPointerEvent& Click)
-	{ return Target.Widget->OnMouseButtonDoubleClick(Target.Geometry, Click); });
+	const FReply Reply = Route(Path, Event,
+		[](const FArrangedWidget& Target, const FPointerEvent& Click)
+		{ return Target.Widget->OnMouseButtonDoubleClick(Target.Geometry, Click); });
 	return Reply.IsEventHandled() || RouteButtonDown(Path, Event).IsEventHandled();
 }
 
 bool FSlateMouse::Wheel(SWindow& Window, const FPointerEvent& Event)
 {
 	const TArray<FArrangedWidget> Path = FindTargets(Window, Event);
-	return Route(Path, Event, [](const FArrangedWidget& Target, const FPointerEvent& Turn)
-	{ return Target.Widget->OnMouseWheel(Target.Geometry, Turn); }).IsEventHandled();
+	return Route(Path, Event,
+		[](const FArrangedWidget& Target, const FPointerEvent& Turn) { return Target.Widget->OnMouseWheel(Target.Geometry, Turn); })
+		.IsEventHandled();
 }
 
 void FSlateMouse::Leave(SWindow& Window)

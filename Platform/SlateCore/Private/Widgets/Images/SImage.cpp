@@ -29,8 +29,8 @@ int32 SImage::OnPaint(const FPaintArgs&, const FGeometry& AllottedGeometry, cons
 {
 	if (const FSlateBrush* Image = GetImage())
 	{
-		const FLinearColor Tint = InWidgetStyle.GetColorAndOpacityTint() * ColorAndOpacityAttribute.Get().GetColor(InWidgetStyle)
-			* Image->GetTint(InWidgetStyle);
+		const FLinearColor Tint =
+			InWidgetStyle.GetColorAndOpacityTint() * ColorAndOpacityAttribute.Get().GetColor(InWidgetStyle) * Image->GetTint(InWidgetStyle);
 		FSlateDrawElement::MakeBox(OutDrawElements, LayerId, AllottedGeometry.ToPaintGeometry(), Image,
 			ShouldBeEnabled(bParentEnabled) ? ESlateDrawEffect::None : ESlateDrawEffect::DisabledEffect, Tint);
 	}
