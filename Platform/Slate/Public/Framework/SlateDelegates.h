@@ -10,4 +10,3 @@ class FReply;
 DECLARE_DELEGATE_RetVal(FReply, FOnClicked);
 DECLARE_DELEGATE_OneParam(FOnTextChanged, const FText&);
 DECLARE_DELEGATE_TwoParams(FOnTextCommitted, const FText&, ETextCommit::Type);
-DECLARE_DELEGATE_OneParam(FOnUserScrolled, float);

@@ -22,11 +22,8 @@ public:
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_END_ARGS()
 
-	SButton();
-	virtual ~SButton() override;
 	void Construct(const FArguments& InArgs);
 
-	void SetContent(const TSharedRef<SWidget>& InContent) { ChildSlot[InContent]; }
 	void SetOnClicked(const FOnClicked& InOnClicked) { OnClicked = InOnClicked; }
 	bool IsPressed() const { return bIsPressed; }
 
@@ -37,27 +34,20 @@ public:
 	virtual void OnFocusLost(const FFocusEvent& InFocusEvent) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
-	virtual FReply OnMouseButtonDoubleClick(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual void OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual void OnMouseLeave(const FPointerEvent& MouseEvent) override;
 	virtual void OnMouseCaptureLost() override;
 
 protected:
+	/** Where it holds nothing but an image: the last part of the name under which the image's brush stands in its style. */
 	virtual FText ComputeAccessibleText() const override;
-	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
-		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
-
-	const FButtonStyle& GetStyle() const { return *Style; }
-	virtual FReply ExecuteOnClick();
+	virtual const FSlateBrush* GetBackground(bool bEnabled) const override;
 
 private:
 	void SetPressed(bool bInPressed);
-	void UpdateLook();
 
 	const FButtonStyle* Style = nullptr;
 	FMargin ContentPadding;
 	FOnClicked OnClicked;
 	bool bIsPressed = false;
-	/** The key that holds it down, if one does. */
-	FKey PressedKey;
 };

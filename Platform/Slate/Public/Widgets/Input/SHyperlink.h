@@ -17,12 +17,8 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
-	virtual FCursorReply OnCursorQuery(const FGeometry& MyGeometry, const FPointerEvent& CursorEvent) const override;
-
-protected:
-	virtual FText ComputeAccessibleText() const override { return FText::GetEmpty(); }
-	virtual FReply ExecuteOnClick() override;
-
 private:
+	FReply HandleClicked();
+
 	FSimpleDelegate OnNavigate;
 };

@@ -32,6 +32,8 @@ public:
 	void SetPadding(const FMargin& InPadding) { ChildSlot.SetPadding(InPadding); }
 
 protected:
+	/** What is drawn behind the content; null draws nothing. */
+	virtual const FSlateBrush* GetBackground(bool bEnabled) const { return GetBorderImage(); }
 	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
 		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
 

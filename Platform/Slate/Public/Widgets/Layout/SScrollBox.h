@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "Framework/SlateDelegates.h"
 #include "Layout/BasicLayoutWidgetSlot.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/SPanel.h"
@@ -33,19 +32,17 @@ public:
 	SLATE_BEGIN_ARGS(SScrollBox) { _Clipping = EWidgetClipping::ClipToBounds; }
 	SLATE_SLOT_ARGUMENT(FSlot, Slots)
 	SLATE_STYLE_ARGUMENT(FScrollBarStyle, ScrollBarStyle)
-	SLATE_ARGUMENT_DEFAULT(EAllowOverscroll, AllowOverscroll) = EAllowOverscroll::Yes;
-	SLATE_EVENT(FOnUserScrolled, OnUserScrolled)
+	/** This box never goes beyond its ends, whatever it is told. */
+	SLATE_ARGUMENT_DEFAULT(EAllowOverscroll, AllowOverscroll) = EAllowOverscroll::No;
 	SLATE_END_ARGS()
 
 	SScrollBox();
-	virtual ~SScrollBox() override;
 	void Construct(const FArguments& InArgs);
 
 	static FSlot::FSlotArguments Slot() { return FSlot::FSlotArguments(MakeUnique<FSlot>()); }
 
 	/** Takes effect in the next layout, with the length the content has then. */
 	void ScrollToEnd();
-	void ScrollToStart() { SetScrollOffset(0.0f); }
 
 	/** Beyond the end counts as the end. */
 	void SetScrollOffset(float NewOffset);
@@ -78,6 +75,7 @@ private:
 	};
 
 	bool IsBarShown() const;
+	float GetBarThickness() const;
 	bool IsInBar(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) const;
 	FThumb GetThumb() const;
 	FReply ScrollByUser(float NewOffset);
@@ -87,7 +85,6 @@ private:
 
 	TPanelChildren<FSlot> Children;
 	const FScrollBarStyle* BarStyle = nullptr;
-	FOnUserScrolled OnUserScrolled;
 
 	/** In units; of the last layout. */
 	float ContentLength = 0.0f;
