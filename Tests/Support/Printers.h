@@ -4,6 +4,7 @@
 
 #include "CoreMinimal.h"
 
+#include <gtest/gtest.h>
 #include <ostream>
 
 // How texts stand in the messages of failed expectations.
@@ -21,3 +22,8 @@ void PrintTo(const FColor& Color, std::ostream* Stream);
 std::ostream& operator<<(std::ostream& Stream, const FString& String);
 std::ostream& operator<<(std::ostream& Stream, const FName& Name);
 std::ostream& operator<<(std::ostream& Stream, const FText& Text);
+
+// Equal unit by unit; EXPECT_EQ of two FStrings ignores case, as their operator does.
+#define EXPECT_TEXT(Actual, Expected) EXPECT_PRED_FORMAT2(CompareTexts, Actual, Expected)
+testing::AssertionResult CompareTexts(
+	const char* ActualExpression, const char* ExpectedExpression, FStringView Actual, FStringView Expected);

@@ -56,3 +56,14 @@ std::ostream& operator<<(std::ostream& Stream, const FText& Text)
 {
 	return Stream << Text.ToString();
 }
+
+testing::AssertionResult CompareTexts(
+	const char* ActualExpression, const char* ExpectedExpression, FStringView Actual, FStringView Expected)
+{
+	if (Actual.Equals(Expected))
+	{
+		return testing::AssertionSuccess();
+	}
+	return testing::AssertionFailure() << ActualExpression << "\n  is       " << testing::PrintToString(Actual) << "\n  expected "
+									   << testing::PrintToString(Expected);
+}

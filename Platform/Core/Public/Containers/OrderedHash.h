@@ -155,7 +155,7 @@ bool TOrderedHash<ElementType, KeyOf>::Remove(const KeyType& Key)
 	*Link = Removed.NextInChain;
 	--NumElements;
 	// Last, since the element's destructor may ask this container.
-	const std::optional<ElementType> Dying = std::exchange(Removed.Element, std::nullopt);
+	[[maybe_unused]] const std::optional<ElementType> Dying = std::exchange(Removed.Element, std::nullopt);
 	return true;
 }
 

@@ -69,4 +69,4 @@ private:
 	{                                                                                                                                      \
 	}                                                                                                                                      \
 	static FModuleInitializerEntry ModuleName##InitializerEntry(                                                                           \
-		TEXT(#ModuleName), []() -> IModuleInterface* { return new ModuleImplClass(); })
+		TEXT(#ModuleName), []() -> IModuleInterface* { return new ModuleImplClass(); });

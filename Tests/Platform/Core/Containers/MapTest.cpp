@@ -1,0 +1,103 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+static FString KeysOf(const TMap<FString, int32>& Map)
+{
+	FString Result;
+	for (const auto& [Key, Value] : Map)
+	{
+		Result += Key;
+	}
+	return Result;
+}
+
+TEST(MapTest, IteratesInTheOrderOfAdding)
+{
+	TMap<FString, int32> Map;
+	for (const TCHAR* Key : {TEXT("z"), TEXT("a"), TEXT("m"), TEXT("b")})
+	{
+		Map.Add(Key, 1);
+	}
+	EXPECT_TEXT(KeysOf(Map), TEXT("zamb"));
+	Map.Add(TEXT("a"), 2);
+	EXPECT_TEXT(KeysOf(Map), TEXT("zamb"));
+	Map.Remove(TEXT("a"));
+	EXPECT_TEXT(KeysOf(Map), TEXT("zmb"));
+	Map.Add(TEXT("a"), 3);
+	EXPECT_TEXT(KeysOf(Map), TEXT("zmba"));
+}
+
+TEST(MapTest, FindsAndReplaces)
+{
+	TMap<FName, FString> Map = {{"one", TEXT("1")}, {"two", TEXT("2")}};
+	EXPECT_TEXT(*Map.Find("ONE"), TEXT("1"));
+	EXPECT_EQ(Map.Find("three"), nullptr);
+	EXPECT_TEXT(Map.FindRef("three"), TEXT(""));
+	Map["two"] = TEXT("zwei");
+	EXPECT_TEXT(Map.FindChecked("two"), TEXT("zwei"));
+	Map.FindOrAdd("three") += TEXT("3");
+	Map.FindOrAdd("three") += TEXT("3");
+	EXPECT_TEXT(Map["three"], TEXT("33"));
+	EXPECT_EQ(*Map.FindKey(TEXT("zwei")), FName("two"));
+
+	FString Removed;
+	EXPECT_TRUE(Map.RemoveAndCopyValue("one", Removed));
+	EXPECT_FALSE(Map.RemoveAndCopyValue("one", Removed));
+	EXPECT_TEXT(Removed, TEXT("1"));
+	EXPECT_EQ(Map.Num(), 2);
+	TArray<FName> Keys;
+	Map.GetKeys(Keys);
+	EXPECT_EQ(Keys, (TArray<FName>{"two", "three"}));
+}
+
+TEST(MapTest, AgreesWithAPlainListUnderRandomUse)
+{
+	std::mt19937 Random(7);
+	TMap<int32, int32> Map;
+	TArray<TPair<int32, int32>> List;
+	for (int32 Step = 0; Step < 20000; ++Step)
+	{
+		const int32 Key = static_cast<int32>(Random() % 200);
+		const int32 Index = List.IndexOfByPredicate([Key](const auto& Pair) { return Pair.Key == Key; });
+		if (Random() % 2 == 0)
+		{
+			Map.Add(Key, Step);
+			Index == INDEX_NONE ? void(List.Add({Key, Step})) : void(List[Index].Value = Step);
+		}
+		else
+		{
+			ASSERT_EQ(Map.Remove(Key), Index == INDEX_NONE ? 0 : 1);
+			Index == INDEX_NONE ? void() : List.RemoveAt(Index);
+		}
+	}
+	TArray<TPair<int32, int32>> Seen;
+	for (const auto& Pair : Map)
+	{
+		Seen.Add(Pair);
+	}
+	EXPECT_EQ(Seen, List);
+}
+
+TEST(MapDeathTest, StopsWhereACheckedKeyIsMissing)
+{
+	const TMap<int32, int32> Map;
+	EXPECT_DEATH(Map[1], "Assertion failed");
+}
+
+TEST(SetTest, HoldsEachElementOnceInOrder)
+{
+	TSet<FString> Set = {TEXT("b"), TEXT("a")};
+	bool bWasThere = false;
+	Set.Add(TEXT("B"), &bWasThere);
+	EXPECT_TRUE(bWasThere);
+	Set.Add(TEXT("c"), &bWasThere);
+	EXPECT_FALSE(bWasThere);
+	EXPECT_TEXT(FString::Join(Set.Array(), TEXT("")), TEXT("bac"));
+	EXPECT_EQ(Set.Remove(TEXT("A")), 1);
+	EXPECT_FALSE(Set.Contains(TEXT("a")));
+	EXPECT_EQ(Set.Num(), 2);
+}

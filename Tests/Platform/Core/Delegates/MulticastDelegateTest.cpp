@@ -1,0 +1,164 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+
+DECLARE_MULTICAST_DELEGATE_OneParam(FOnEvent, const FString&);
+
+namespace
+{
+struct FHearer : TSharedFromThis<FHearer>
+{
+	void OnEvent(const FString& Text) { Heard += Text; }
+	void OnEventWith(const FString& Text, FString Tail) { Heard += Text + Tail; }
+
+	FString Heard;
+};
+} // namespace
+
+TEST(MulticastDelegateTest, TellsEveryHandler)
+{
+	const TSharedRef<FHearer> First = MakeShared<FHearer>();
+	const TSharedRef<FHearer> Second = MakeShared<FHearer>();
+	FOnEvent Event;
+	EXPECT_FALSE(Event.IsBound());
+	Event.Broadcast(TEXT("nobody"));
+	Event.AddSP(First, &FHearer::OnEvent);
+	Event.Add(FOnEvent::FDelegate::CreateSP(Second, &FHearer::OnEventWith, FString(TEXT("!"))));
+	Event.Broadcast(TEXT("a"));
+	EXPECT_TEXT(First->Heard, TEXT("a"));
+	EXPECT_TEXT(Second->Heard, TEXT("a!"));
+	EXPECT_TRUE(Event.IsBoundToObject(&First.Get()));
+}
+
+TEST(MulticastDelegateTest, RemovesByHandleAndByObject)
+{
+	const TSharedRef<FHearer> Hearer = MakeShared<FHearer>();
+	FOnEvent Event;
+	const FDelegateHandle Handle = Event.AddSP(Hearer, &FHearer::OnEvent);
+	EXPECT_TRUE(Event.Remove(Handle));
+	EXPECT_FALSE(Event.Remove(Handle));
+	EXPECT_FALSE(Event.Remove(FDelegateHandle()));
+
+	Event.AddSP(Hearer, &FHearer::OnEvent);
+	Event.AddRaw(&Hearer.Get(), &FHearer::OnEvent);
+	Event.AddLambda([](const FString&) {});
+	EXPECT_EQ(Event.RemoveAll(&Hearer.Get()), 2);
+	EXPECT_EQ(Event.RemoveAll(&Hearer.Get()), 0);
+	Event.Broadcast(TEXT("x"));
+	EXPECT_TEXT(Hearer->Heard, TEXT(""));
+	EXPECT_TRUE(Event.IsBound());
+	Event.Clear();
+	EXPECT_FALSE(Event.IsBound());
+}
+
+TEST(MulticastDelegateTest, SkipsObjectsThatAreGone)
+{
+	TSharedPtr<FHearer> Hearer = MakeShared<FHearer>();
+	FOnEvent Event;
+	Event.AddSP(Hearer.Get(), &FHearer::OnEvent);
+	Hearer.Reset();
+	Event.Broadcast(TEXT("x"));
+	EXPECT_FALSE(Event.IsBound());
+}
+
+TEST(MulticastDelegateTest, IgnoresUnboundDelegates)
+{
+	FOnEvent Event;
+	EXPECT_FALSE(Event.Add(FOnEvent::FDelegate()).IsValid());
+	Event.Broadcast(TEXT("x"));
+}
+
+// During a broadcast each handler may add handlers, which wait, and remove others, which do not run any more.
+TEST(MulticastDelegateTest, SurvivesChangesWhileItBroadcasts)
+{
+	FSimpleMulticastDelegate Event;
+	FString Log;
+	FDelegateHandle Victim = Event.AddLambda([&] { Log += TEXT("victim "); });
+	Event.AddLambda(
+		[&]
+		{
+			Log += TEXT("killer ");
+			Event.Remove(Victim);
+			for (int32 Index = 0; Index < 50; ++Index)
+			{
+				Event.AddLambda([&] { Log += TEXT("+"); });
+			}
+		});
+	Event.Broadcast();
+	EXPECT_TEXT(Log, TEXT("killer "));
+	Log.Reset();
+	Event.Broadcast();
+	EXPECT_EQ(Log, FString::ChrN(50, TEXT('+')) + TEXT("killer "));
+}
+
+TEST(MulticastDelegateTest, SurvivesObjectsThatDieWhileItBroadcasts)
+{
+	TArray<TSharedPtr<FHearer>> Hearers;
+	FOnEvent Event;
+	FString Last;
+	for (int32 Index = 0; Index < 3; ++Index)
+	{
+		Hearers.Add(MakeShared<FHearer>());
+		Event.AddSP(Hearers[Index].Get(), &FHearer::OnEvent);
+	}
+	Event.AddLambda(
+		[&](const FString&)
+		{
+			Last = Hearers[0]->Heard;
+			Hearers.Empty();
+		});
+	Event.Broadcast(TEXT("x"));
+	EXPECT_TEXT(Last, TEXT(""));
+	EXPECT_TRUE(Hearers.IsEmpty());
+}
+
+TEST(MulticastDelegateTest, MayDieWhileItBroadcasts)
+{
+	TUniquePtr<FSimpleMulticastDelegate> Event = MakeUnique<FSimpleMulticastDelegate>();
+	int32 NumCalls = 0;
+	Event->AddLambda([&] { ++NumCalls; });
+	Event->AddLambda(
+		[&]
+		{
+			++NumCalls;
+			Event.Reset();
+		});
+	Event->Broadcast();
+	EXPECT_EQ(NumCalls, 1);
+}
+
+TEST(MulticastDelegateTest, MayBroadcastInsideItself)
+{
+	FSimpleMulticastDelegate Event;
+	int32 Depth = 0;
+	int32 NumCalls = 0;
+	FDelegateHandle Once;
+	Once = Event.AddLambda([&] { Event.Remove(Once); });
+	Event.AddLambda(
+		[&]
+		{
+			++NumCalls;
+			const TGuardValue<int32> Guard(Depth, Depth + 1);
+			if (Depth < 3)
+			{
+				Event.Broadcast();
+			}
+		});
+	Event.Broadcast();
+	EXPECT_EQ(NumCalls, 3);
+}
+
+TEST(MulticastDelegateTest, ACopyHasTheSameHandlersAndItsOwnList)
+{
+	FSimpleMulticastDelegate Event;
+	int32 NumCalls = 0;
+	Event.AddLambda([&] { ++NumCalls; });
+	FSimpleMulticastDelegate Copy = Event;
+	Copy.Broadcast();
+	EXPECT_EQ(NumCalls, 1);
+	Copy.Clear();
+	Event.Broadcast();
+	EXPECT_EQ(NumCalls, 2);
+}

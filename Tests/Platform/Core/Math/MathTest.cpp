@@ -1,0 +1,49 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+
+TEST(MathTest, RoundsTowardsPlusInfinityAtHalves)
+{
+	EXPECT_EQ(FMath::RoundToInt(2.5f), 3);
+	EXPECT_EQ(FMath::RoundToInt(-2.5f), -2);
+	EXPECT_EQ(FMath::FloorToInt(-0.1f), -1);
+	EXPECT_EQ(FMath::CeilToInt(0.1f), 1);
+	EXPECT_EQ(FMath::Clamp(5, 0, 3), 3);
+	EXPECT_EQ(FMath::Lerp(10.0f, 20.0f, 0.25f), 12.5f);
+}
+
+TEST(MathTest, VectorsAddScaleAndConvert)
+{
+	const FVector2D A(1.0, 2.0);
+	EXPECT_EQ(A + FVector2D(3.0, 4.0), FVector2D(4.0, 6.0));
+	EXPECT_EQ(A * 2.0, FVector2D(2.0, 4.0));
+	EXPECT_EQ(FVector2D(3.0, 4.0).Size(), 5.0);
+	EXPECT_EQ(FVector2D(FVector2f(0.5f, 0.25f)), FVector2D(0.5, 0.25));
+	EXPECT_TRUE(FVector2D::ZeroVector.IsZero());
+	EXPECT_TRUE(A.Equals(FVector2D(1.00001, 2.0)));
+}
+
+TEST(ColorTest, ConvertsBetweenLinearAndSrgb)
+{
+	EXPECT_EQ(FLinearColor(0.5f, 0.0f, 1.0f).ToFColor(true), FColor(188, 0, 255));
+	EXPECT_EQ(FLinearColor(0.5f, 0.0f, 1.0f, 0.5f).ToFColor(false), FColor(128, 0, 255, 128));
+	EXPECT_EQ(FLinearColor(2.0f, -1.0f, 0.0f).ToFColor(true), FColor(255, 0, 0));
+	for (int32 Value = 0; Value < 256; ++Value)
+	{
+		const uint8 Channel = static_cast<uint8>(Value);
+		EXPECT_EQ(FLinearColor(FColor(Channel, Channel, Channel, Channel)).ToFColor(true), FColor(Channel, Channel, Channel, Channel));
+	}
+}
+
+TEST(ColorTest, ReadsHexDigits)
+{
+	EXPECT_EQ(FColor::FromHex(TEXT("#FF8000")), FColor(255, 128, 0));
+	EXPECT_EQ(FColor::FromHex(TEXT("ff800040")), FColor(255, 128, 0, 64));
+	EXPECT_TEXT(FColor(255, 128, 0, 64).ToHex(), TEXT("FF800040"));
+	for (const TCHAR* Wrong : {TEXT(""), TEXT("#FFF"), TEXT("GG0000"), TEXT("FF00000")})
+	{
+		EXPECT_EQ(FColor::FromHex(Wrong), FColor::Transparent);
+	}
+}

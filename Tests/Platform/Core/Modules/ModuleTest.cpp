@@ -1,0 +1,77 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Modules/ModuleManager.h"
+#include "Support/LogCapture.h"
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+FString Events;
+
+template <int32 Number>
+class TTestModule : public IModuleInterface
+{
+public:
+	~TTestModule() override { Events += FString::Printf(TEXT("~%d "), Number); }
+	void StartupModule() override
+	{
+		Events += FString::Printf(TEXT("+%d "), Number);
+		// A module may ask for itself while it starts.
+		EXPECT_EQ(&FModuleManager::LoadModuleChecked<TTestModule>(*FString::Printf(TEXT("TestModule%d"), Number)), this);
+	}
+	void ShutdownModule() override { Events += FString::Printf(TEXT("-%d "), Number); }
+};
+
+using FTestModule1 = TTestModule<1>;
+using FTestModule2 = TTestModule<2>;
+} // namespace
+
+IMPLEMENT_MODULE(FTestModule1, TestModule1)
+static FModuleInitializerEntry TestModule2Entry(TEXT("TestModule2"), []() -> IModuleInterface* { return new FTestModule2(); });
+
+class ModuleTest : public testing::Test
+{
+protected:
+	ModuleTest() { Events.Reset(); }
+	~ModuleTest() override { FModuleManager::Get().UnloadModulesAtShutdown(); }
+};
+
+TEST_F(ModuleTest, LoadsOnTheFirstAsk)
+{
+	FModuleManager& Manager = FModuleManager::Get();
+	EXPECT_FALSE(Manager.IsModuleLoaded("TestModule1"));
+	IModuleInterface& First = Manager.LoadModuleChecked("TestModule1");
+	EXPECT_EQ(&Manager.LoadModuleChecked("TestModule1"), &First);
+	EXPECT_EQ(Manager.GetModule("testmodule1"), &First);
+	EXPECT_TEXT(Events, TEXT("+1 "));
+}
+
+TEST_F(ModuleTest, ShutsDownInReverseOrder)
+{
+	FModuleManager::Get().LoadModule("TestModule2");
+	FModuleManager::Get().LoadModule("TestModule1");
+	FModuleManager::Get().UnloadModulesAtShutdown();
+	EXPECT_TEXT(Events, TEXT("+2 +1 -1 ~1 -2 ~2 "));
+	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("TestModule1"));
+}
+
+TEST_F(ModuleTest, StartsAgainAfterUnloading)
+{
+	FModuleManager::Get().LoadModule("TestModule1");
+	EXPECT_TRUE(FModuleManager::Get().UnloadModule("TestModule1"));
+	EXPECT_FALSE(FModuleManager::Get().UnloadModule("TestModule1"));
+	FModuleManager::Get().LoadModule("TestModule1");
+	EXPECT_TEXT(Events, TEXT("+1 -1 ~1 +1 "));
+}
+
+TEST_F(ModuleTest, DoesNotKnowOthers)
+{
+	EXPECT_EQ(FModuleManager::Get().LoadModule("NoSuchModule"), nullptr);
+}
+
+TEST(ModuleDeathTest, StopsWhereAModuleCannotBeLoaded)
+{
+	EXPECT_DEATH(FModuleManager::Get().LoadModuleChecked("NoSuchModule"), "Fatal: Module 'NoSuchModule' could not be loaded");
+}

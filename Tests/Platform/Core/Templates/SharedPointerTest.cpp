@@ -1,0 +1,93 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+struct FCounted
+{
+	explicit FCounted(int32& InAlive)
+		: Alive(InAlive)
+	{
+		++Alive;
+	}
+	virtual ~FCounted() { --Alive; }
+
+	int32& Alive;
+};
+
+struct FDerived : FCounted
+{
+	using FCounted::FCounted;
+};
+
+struct FSelf : TSharedFromThis<FSelf>
+{
+	virtual ~FSelf() = default;
+	void Construct() { Own = AsShared(); }
+
+	TWeakPtr<FSelf> Own;
+};
+
+struct FDerivedSelf : FSelf
+{
+	TSharedRef<FDerivedSelf> GetSelf() { return SharedThis(this); }
+};
+} // namespace
+
+TEST(SharedPointerTest, KeepsAnObjectAsLongAsSomebodyOwnsIt)
+{
+	int32 Alive = 0;
+	TSharedPtr<FCounted> Ptr = MakeShared<FDerived>(Alive);
+	TWeakPtr<FCounted> Weak = Ptr;
+	{
+		const TSharedRef<FCounted> Ref = Ptr.ToSharedRef();
+		Ptr.Reset();
+		EXPECT_EQ(Alive, 1);
+		EXPECT_EQ(Weak.Pin(), Ref);
+	}
+	EXPECT_EQ(Alive, 0);
+	EXPECT_FALSE(Weak.IsValid());
+	EXPECT_FALSE(Weak.Pin().IsValid());
+}
+
+TEST(SharedPointerTest, ConvertsBetweenBaseAndDerived)
+{
+	int32 Alive = 0;
+	const TSharedRef<FDerived> Derived = MakeShareable(new FDerived(Alive));
+	const TSharedRef<FCounted> Base = Derived;
+	EXPECT_EQ(StaticCastSharedRef<FDerived>(Base), Derived);
+	EXPECT_EQ(StaticCastSharedPtr<FDerived>(TSharedPtr<FCounted>(Base)), Derived);
+	EXPECT_EQ(Derived.GetSharedReferenceCount(), 2);
+	EXPECT_EQ(GetTypeHash(Base), GetTypeHash(TSharedPtr<FCounted>(Base)));
+}
+
+TEST(SharedPointerTest, AMovedFromReferenceIsStillNotNull)
+{
+	int32 Alive = 0;
+	TSharedRef<FCounted> Source = MakeShared<FCounted>(Alive);
+	const TSharedRef<FCounted> Target = MoveTemp(Source);
+	EXPECT_EQ(&Source.Get(), &Target.Get());
+}
+
+TEST(SharedPointerTest, HandsOutItselfOnceItIsHeld)
+{
+	const TSharedRef<FDerivedSelf> Self = MakeShared<FDerivedSelf>();
+	Self->Construct();
+	EXPECT_EQ(Self->Own.Pin(), Self);
+	EXPECT_EQ(Self->GetSelf(), Self);
+	EXPECT_TRUE(Self->DoesSharedInstanceExist());
+}
+
+TEST(SharedPointerDeathTest, StopsAtNull)
+{
+	EXPECT_DEATH(TSharedRef<int32>(static_cast<int32*>(nullptr)), "InObject != nullptr");
+	EXPECT_DEATH(*TSharedPtr<int32>(), "IsValid\\(\\)");
+	EXPECT_DEATH((void)TSharedPtr<FString>()->Len(), "IsValid\\(\\)");
+	EXPECT_DEATH(TSharedPtr<int32>().ToSharedRef(), "IsValid\\(\\)");
+	FSelf OnTheStack;
+	EXPECT_DEATH(OnTheStack.AsShared(), "IsValid\\(\\)");
+	EXPECT_DEATH(*TUniquePtr<int32>(), "IsValid\\(\\)");
+}

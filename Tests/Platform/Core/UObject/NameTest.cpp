@@ -1,0 +1,33 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+
+TEST(NameTest, IgnoresCaseAndKeepsTheFirstSpelling)
+{
+	const FName First = TEXT("VorelAI.SpellingTest");
+	const FName Second = "vorelai.SPELLINGTEST";
+	EXPECT_EQ(First, Second);
+	EXPECT_EQ(GetTypeHash(First), GetTypeHash(Second));
+	EXPECT_TEXT(Second.ToString(), TEXT("VorelAI.SpellingTest"));
+	EXPECT_TRUE(First == TEXT("VORELAI.spellingtest"));
+	EXPECT_NE(First, FName(TEXT("VorelAI.Other")));
+}
+
+TEST(NameTest, HasAnEmptyName)
+{
+	EXPECT_TRUE(FName().IsNone());
+	EXPECT_TRUE(FName(TEXT("")).IsNone());
+	EXPECT_TRUE(FName(TEXT("none")).IsNone());
+	EXPECT_EQ(FName(NAME_None), FName());
+	EXPECT_TEXT(FName().ToString(), TEXT("None"));
+	EXPECT_FALSE(FName(TEXT("x")).IsNone());
+}
+
+TEST(NameTest, OrdersByLetters)
+{
+	EXPECT_TRUE(FName(TEXT("Zebra1")).LexicalLess(TEXT("zebra2")));
+	EXPECT_FALSE(FName(TEXT("zebra2")).LexicalLess(TEXT("Zebra1")));
+	EXPECT_FALSE(FName(TEXT("zebra2")).LexicalLess(TEXT("ZEBRA2")));
+}

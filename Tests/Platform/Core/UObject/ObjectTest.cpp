@@ -1,0 +1,163 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "UObject/Object.h"
+#include "Support/Printers.h"
+#include "UObject/Package.h"
+#include "UObject/WeakObjectPtr.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+class UNode : public UObject
+{
+public:
+	~UNode() override
+	{
+		++NumDestroyed;
+		// What goes in the same collection does not resolve any more.
+		bSawDyingNeighbour |= static_cast<bool>(Watched);
+	}
+
+	void AddReferencedObjects(FReferenceCollector& Collector) override { Collector.AddReferencedObjects(Children); }
+
+	TArray<TObjectPtr<UNode>> Children;
+	TObjectPtr<UNode> Watched;
+
+	static inline int32 NumDestroyed = 0;
+	static inline bool bSawDyingNeighbour = false;
+};
+} // namespace
+
+class ObjectTest : public testing::Test
+{
+protected:
+	ObjectTest()
+	{
+		CollectGarbage();
+		UNode::NumDestroyed = 0;
+	}
+
+	static UNode* MakeKept()
+	{
+		UNode* Node = NewObject<UNode>(GetTransientPackage(), NAME_None, RF_Standalone);
+		return Node;
+	}
+
+	~ObjectTest() override { CollectGarbage(RF_NoFlags); }
+};
+
+TEST_F(ObjectTest, IsMadeWithOuterNameAndFlags)
+{
+	UNode* Node = NewObject<UNode>();
+	EXPECT_EQ(Node->GetOuter(), GetTransientPackage());
+	EXPECT_FALSE(Node->GetFName().IsNone());
+	EXPECT_FALSE(Node->HasAnyFlags(RF_Standalone));
+	const UNode* Inner = NewObject<UNode>(Node, "Inner", RF_Public | RF_Transient);
+	EXPECT_EQ(Inner->GetOuter(), Node);
+	EXPECT_TEXT(Inner->GetName(), TEXT("Inner"));
+	EXPECT_TRUE(Inner->HasAnyFlags(RF_Transient));
+	EXPECT_FALSE(Inner->HasAnyFlags(RF_Standalone));
+}
+
+TEST_F(ObjectTest, GoesWhenNothingKeepsIt)
+{
+	const TObjectPtr<UNode> Node = NewObject<UNode>();
+	EXPECT_TRUE(IsValid(Node));
+	CollectGarbage();
+	EXPECT_EQ(UNode::NumDestroyed, 1);
+	EXPECT_FALSE(IsValid(Node));
+	EXPECT_FALSE(Node);
+	EXPECT_EQ(Node.Get(), nullptr);
+}
+
+TEST_F(ObjectTest, StandaloneFlagAndRootSetKeep)
+{
+	UNode* Standalone = MakeKept();
+	UNode* Rooted = NewObject<UNode>();
+	Rooted->AddToRoot();
+	CollectGarbage();
+	EXPECT_EQ(UNode::NumDestroyed, 0);
+	Standalone->ClearFlags(RF_Standalone);
+	CollectGarbage();
+	EXPECT_EQ(UNode::NumDestroyed, 1);
+	Rooted->RemoveFromRoot();
+	CollectGarbage();
+	EXPECT_EQ(UNode::NumDestroyed, 2);
+}
+
+TEST_F(ObjectTest, KeepsWhatItReportsAndItsOuter)
+{
+	UNode* Parent = NewObject<UNode>();
+	UNode* Child = NewObject<UNode>();
+	Parent->Children.Add(Child);
+	Child->Children.Add(Parent);
+	const TObjectPtr<UNode> Inner = NewObject<UNode>(Child, NAME_None, RF_Standalone);
+	CollectGarbage();
+	EXPECT_EQ(UNode::NumDestroyed, 0);
+	Inner->ClearFlags(RF_Standalone);
+	CollectGarbage();
+	EXPECT_EQ(UNode::NumDestroyed, 3);
+}
+
+TEST_F(ObjectTest, AGarbageMarkEndsItsValidityAtOnceAndTheObjectAtTheNextCollection)
+{
+	UNode* Parent = MakeKept();
+	const TObjectPtr<UNode> Child = NewObject<UNode>();
+	const TWeakObjectPtr<UNode> Weak = Child.Get();
+	Parent->Children.Add(Child);
+	Child->MarkAsGarbage();
+	EXPECT_FALSE(IsValid(Child));
+	EXPECT_TRUE(Child);
+	EXPECT_FALSE(Weak.IsValid());
+	CollectGarbage();
+	EXPECT_EQ(UNode::NumDestroyed, 1);
+	EXPECT_FALSE(Child);
+	EXPECT_FALSE(Parent->Children[0]);
+}
+
+TEST_F(ObjectTest, AStalePointerDoesNotResolveToTheNextTenantOfItsSlot)
+{
+	const TObjectPtr<UNode> Old = NewObject<UNode>();
+	CollectGarbage();
+	TArray<TObjectPtr<UNode>> NewNodes;
+	for (int32 Index = 0; Index < 100; ++Index)
+	{
+		NewNodes.Add(NewObject<UNode>());
+	}
+	EXPECT_TRUE(
+		NewNodes.ContainsByPredicate([&Old](const TObjectPtr<UNode>& Node) { return Node.GetHandle().Index == Old.GetHandle().Index; }));
+	EXPECT_FALSE(Old);
+}
+
+TEST_F(ObjectTest, DestructorsDoNotReachWhatDiesWithThem)
+{
+	UNode* First = NewObject<UNode>();
+	UNode* Second = NewObject<UNode>();
+	First->Watched = Second;
+	Second->Watched = First;
+	CollectGarbage();
+	EXPECT_EQ(UNode::NumDestroyed, 2);
+	EXPECT_FALSE(UNode::bSawDyingNeighbour);
+}
+
+TEST_F(ObjectTest, PointersCompareByObject)
+{
+	UNode* Node = NewObject<UNode>();
+	const TObjectPtr<UNode> Ptr = Node;
+	const TObjectPtr<UObject> Base = Ptr;
+	EXPECT_TRUE(Ptr == Node);
+	EXPECT_TRUE(Base == Ptr);
+	EXPECT_TRUE(Ptr != nullptr);
+	EXPECT_TRUE(TObjectPtr<UNode>() == nullptr);
+	EXPECT_EQ(GetTypeHash(Ptr), GetTypeHash(Base));
+	EXPECT_FALSE(IsValid(TObjectPtr<UNode>(nullptr)));
+	EXPECT_FALSE(IsValid(static_cast<UNode*>(nullptr)));
+}
+
+TEST(ObjectDeathTest, StopsAtMisuse)
+{
+	EXPECT_DEATH(UNode(), "made by NewObject alone");
+	EXPECT_DEATH(TObjectPtr<UNode>()->GetName(), "A TObjectPtr was dereferenced that is null");
+	EXPECT_DEATH(GetTransientPackage()->MarkAsGarbage(), "can't become garbage");
+}

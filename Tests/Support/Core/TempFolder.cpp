@@ -1,0 +1,19 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Support/TempFolder.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+FTempFolder::FTempFolder()
+{
+	std::string Pattern = std::filesystem::temp_directory_path() / "vorel-test-XXXXXX";
+	check(mkdtemp(Pattern.data()) != nullptr);
+	Path = FString(Pattern.c_str());
+}
+
+FTempFolder::~FTempFolder()
+{
+	std::error_code Error;
+	std::filesystem::remove_all(TCHAR_TO_UTF8(Path), Error);
+}
