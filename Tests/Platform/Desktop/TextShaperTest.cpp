@@ -1,0 +1,239 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "PaintSupport.h"
+
+#include <QSet>
+
+static constexpr auto LeftToRight = TextBiDi::ETextDirection::LeftToRight;
+static constexpr auto RightToLeft = TextBiDi::ETextDirection::RightToLeft;
+
+static const TCHAR* const FaceWords[] = {TEXT("Regular"), TEXT("Bold"), TEXT("Italic"), TEXT("BoldItalic"), TEXT("Medium"), TEXT("Light"),
+	TEXT("VeryLight"), TEXT("Black"), TEXT("BlackItalic"), TEXT("BoldCondensed"), TEXT("BoldCondensedItalic"), TEXT("Mono")};
+
+static TSharedRef<const FShapedText> Shape(const TCHAR* Text, TextBiDi::ETextDirection Direction = LeftToRight, float Size = 10.0f,
+	float Scale = 1.0f, ETextShapingMethod Method = ETextShapingMethod::Auto, const TCHAR* Face = TEXT("Regular"))
+{
+	return FDesktopApplication::Get().GetTextShaper().Shape(Text, FontOf(Face, Size), Scale, Direction, Method);
+}
+
+static int CountGlyphs(const FQtShapedText& Shaped)
+{
+	int Count = 0;
+	for (const FGlyphRun& Run : Shaped.Runs)
+	{
+		Count += Run.Glyphs.glyphIndexes().size();
+	}
+	return Count;
+}
+
+static bool HasMissingGlyph(const FQtShapedText& Shaped)
+{
+	for (const FGlyphRun& Run : Shaped.Runs)
+	{
+		if (Run.Glyphs.glyphIndexes().contains(0))
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+TEST(Faces, EachWordHasPixelsOfItsOwn)
+{
+	QList<QImage> Pictures;
+	for (const TCHAR* Word : FaceWords)
+	{
+		const QImage Picture = FCanvas(120, 24).Text(FVector2D(2.0, 2.0), TEXT("Hamburgefonts"), FontOf(Word, 10.0f)).Paint();
+		EXPECT_FALSE(Pictures.contains(Picture)) << QString::fromUtf16(Word).toStdString();
+		Pictures.append(Picture);
+	}
+}
+
+TEST(Faces, EachWordComesFromTheFontMadeForIt)
+{
+	QSet<QString> Fonts;
+	for (const TCHAR* Word : FaceWords)
+	{
+		const QRawFont Font = AsQt(Shape(TEXT("a"), LeftToRight, 10.0f, 1.0f, ETextShapingMethod::Auto, Word)).Runs[0].Glyphs.rawFont();
+		Fonts.insert(Font.familyName() + QLatin1Char(' ') + Font.styleName());
+	}
+	EXPECT_EQ(Fonts,
+		(QSet<QString>{"Roboto Regular", "Roboto Bold", "Roboto Italic", "Roboto Bold Italic", "Roboto Medium", "Roboto Light",
+			"Roboto Thin", "Roboto Black", "Roboto Black Italic", "Roboto Condensed Bold", "Roboto Condensed Bold Italic",
+			"JetBrains Mono Regular"}));
+}
+
+TEST(Faces, AnUnknownWordIsRegular)
+{
+	EXPECT_EQ(Shape(TEXT("word"))->Width,
+		Shape(TEXT("word"), LeftToRight, 10.0f, 1.0f, ETextShapingMethod::Auto, TEXT("NoSuchFace"))->Width);
+}
+
+TEST(Sizes, TenPointsAreThirteenAndAThirdUnits)
+{
+	EXPECT_NEAR(AsQt(Shape(TEXT("a"))).Runs[0].Glyphs.rawFont().pixelSize(), 40.0 / 3.0, 1.0e-4);
+	// A cell of the monospaced face is 0.6 em wide.
+	EXPECT_NEAR(Shape(TEXT("0123456789"), LeftToRight, 10.0f, 1.0f, ETextShapingMethod::Auto, TEXT("Mono"))->Width, 80.0f, 0.02f);
+}
+
+TEST(Sizes, EverythingGrowsLinearly)
+{
+	const TSharedRef<const FShapedText> Small = Shape(TEXT("AVATAR office"), LeftToRight, 10.0f, 1.0f);
+	for (const float Scale : {1.25f, 1.5f, 2.0f, 3.0f})
+	{
+		const TSharedRef<const FShapedText> Large = Shape(TEXT("AVATAR office"), LeftToRight, 10.0f, Scale);
+		for (int32 Index = 0; Index < Small->CaretOffsets.Num(); ++Index)
+		{
+			EXPECT_NEAR(Large->CaretOffsets[Index], Small->CaretOffsets[Index] * Scale, 0.001f);
+		}
+		ITextShaper& Shaper = FDesktopApplication::Get().GetTextShaper();
+		EXPECT_NEAR(Shaper.GetMetrics(FontOf(TEXT("Regular"), 10.0f), Scale).LineHeight,
+			Shaper.GetMetrics(FontOf(TEXT("Regular"), 10.0f), 1.0f).LineHeight * Scale, 0.001f);
+	}
+}
+
+TEST(Sizes, MetricsAreThoseOfTheFaceAlone)
+{
+	const FFontMetrics Metrics = FDesktopApplication::Get().GetTextShaper().GetMetrics(FontOf(TEXT("Regular"), 10.0f), 1.0f);
+	EXPECT_GT(Metrics.Ascent, Metrics.Descent);
+	EXPECT_GT(Metrics.Descent, 0.0f);
+	EXPECT_GE(Metrics.LineHeight, Metrics.Ascent + Metrics.Descent);
+	EXPECT_GT(Metrics.UnderlineOffset, 0.0f);
+	EXPECT_LT(Metrics.UnderlineOffset, Metrics.Descent);
+	EXPECT_GT(Metrics.UnderlineThickness, 0.0f);
+}
+
+TEST(Carets, OneBeforeEachUnitAndOneBehindAll)
+{
+	for (const TCHAR* Text : {TEXT(""), TEXT("a"), TEXT("office "), TEXT("\u00e9\u0302x"), TEXT("a\U0001F600b"), TEXT("\u0928\u092e\u0938\u094d\u0924\u0947")})
+	{
+		const TSharedRef<const FShapedText> Shaped = Shape(Text);
+		ASSERT_EQ(Shaped->CaretOffsets.Num(), FStringView(Text).Len() + 1);
+		EXPECT_EQ(Shaped->CaretOffsets[0], 0.0f);
+		EXPECT_FLOAT_EQ(Shaped->CaretOffsets.Last(), Shaped->Width);
+		for (int32 Index = 1; Index < Shaped->CaretOffsets.Num(); ++Index)
+		{
+			EXPECT_GE(Shaped->CaretOffsets[Index], Shaped->CaretOffsets[Index - 1]);
+		}
+	}
+}
+
+TEST(Carets, RunFromTheRightEdgeInTextFromTheRight)
+{
+	const TSharedRef<const FShapedText> Shaped = Shape(TEXT("\u05e9\u05dc\U0001F600\u05d5\u05dd"), RightToLeft);
+	EXPECT_FLOAT_EQ(Shaped->CaretOffsets[0], Shaped->Width);
+	EXPECT_EQ(Shaped->CaretOffsets.Last(), 0.0f);
+	for (int32 Index = 1; Index < Shaped->CaretOffsets.Num(); ++Index)
+	{
+		EXPECT_LE(Shaped->CaretOffsets[Index], Shaped->CaretOffsets[Index - 1]);
+	}
+}
+
+TEST(Shaping, TheDirectionIsTheCallers)
+{
+	EXPECT_GT(Shape(TEXT("abc"), RightToLeft)->CaretOffsets[0], 0.0f);
+	EXPECT_EQ(Shape(TEXT("\u05e9\u05dc"), LeftToRight)->CaretOffsets[0], 0.0f);
+	EXPECT_GT(Shape(TEXT("12"), RightToLeft)->CaretOffsets[0], 0.0f);
+}
+
+TEST(Shaping, BracketsAreMirroredFromTheRight)
+{
+	const auto GlyphOf = [](const TCHAR* Text, TextBiDi::ETextDirection Direction)
+	{ return AsQt(Shape(Text, Direction)).Runs[0].Glyphs.glyphIndexes()[0]; };
+	EXPECT_EQ(GlyphOf(TEXT("("), RightToLeft), GlyphOf(TEXT(")"), LeftToRight));
+	EXPECT_NE(GlyphOf(TEXT("("), RightToLeft), GlyphOf(TEXT("("), LeftToRight));
+}
+
+TEST(Shaping, KerningOnlyKernsAndJoinsNothing)
+{
+	const auto ShapeBy = [](const TCHAR* Text, ETextShapingMethod Method, const TCHAR* Face)
+	{ return Shape(Text, LeftToRight, 10.0f, 1.0f, Method, Face); };
+	EXPECT_LT(ShapeBy(TEXT("AV"), ETextShapingMethod::KerningOnly, TEXT("Regular"))->Width,
+		ShapeBy(TEXT("A"), ETextShapingMethod::KerningOnly, TEXT("Regular"))->Width +
+			ShapeBy(TEXT("V"), ETextShapingMethod::KerningOnly, TEXT("Regular"))->Width);
+	EXPECT_EQ(CountGlyphs(AsQt(ShapeBy(TEXT("office"), ETextShapingMethod::KerningOnly, TEXT("Regular")))), 6);
+	EXPECT_LT(CountGlyphs(AsQt(ShapeBy(TEXT("office"), ETextShapingMethod::FullShaping, TEXT("Regular")))), 6);
+
+	const auto ArrowOf = [&](ETextShapingMethod Method)
+	{ return AsQt(ShapeBy(TEXT("->"), Method, TEXT("Mono"))).Runs[0].Glyphs.glyphIndexes(); };
+	EXPECT_NE(ArrowOf(ETextShapingMethod::KerningOnly), ArrowOf(ETextShapingMethod::FullShaping));
+	EXPECT_EQ(ArrowOf(ETextShapingMethod::Auto), ArrowOf(ETextShapingMethod::KerningOnly));
+}
+
+TEST(Shaping, ArabicLettersJoin)
+{
+	float Apart = 0.0f;
+	for (const TCHAR* Letter : {TEXT("\u0645"), TEXT("\u0631"), TEXT("\u062d"), TEXT("\u0628"), TEXT("\u0627")})
+	{
+		Apart += Shape(Letter, RightToLeft)->Width;
+	}
+	EXPECT_LT(Shape(TEXT("\u0645\u0631\u062d\u0628\u0627"), RightToLeft)->Width, Apart * 0.9f);
+	EXPECT_FLOAT_EQ(Shape(TEXT("\u0645\u0631\u062d\u0628\u0627"), RightToLeft)->Width,
+		Shape(TEXT("\u0645\u0631\u062d\u0628\u0627"), RightToLeft, 10.0f, 1.0f, ETextShapingMethod::KerningOnly)->Width);
+}
+
+TEST(Fallback, NoScriptShowsBoxes)
+{
+	const std::pair<const TCHAR*, TextBiDi::ETextDirection> Samples[] = {
+		{TEXT("\u4f60\u597d"), LeftToRight},
+		{TEXT("\u65e5\u672c\u8a9e\u304b\u306a"), LeftToRight},
+		{TEXT("\ud55c\uad6d\uc5b4"), LeftToRight},
+		{TEXT("\u0645\u0631\u062d\u0628\u0627"), RightToLeft},
+		{TEXT("\u05e9\u05dc\u05d5\u05dd"), RightToLeft},
+		{TEXT("\u0e2a\u0e27\u0e31\u0e2a\u0e14\u0e35"), LeftToRight},
+		{TEXT("\u0928\u092e\u0938\u094d\u0924\u0947"), LeftToRight},
+		{TEXT("\u03b1\u03b2\u0436\u0444"), LeftToRight},
+		{TEXT("\u2192\u2713\u2022\u2605\u2211\u221e"), LeftToRight},
+		{TEXT("\U0001F600\U0001F680\U0001F1E9\U0001F1EA"), LeftToRight},
+	};
+	for (const TCHAR* Face : FaceWords)
+	{
+		for (const auto& [Text, Direction] : Samples)
+		{
+			EXPECT_FALSE(HasMissingGlyph(AsQt(Shape(Text, Direction, 10.0f, 1.0f, ETextShapingMethod::Auto, Face))))
+				<< QString::fromUtf16(Text).toStdString() << " in " << QString::fromUtf16(Face).toStdString();
+		}
+	}
+	EXPECT_TRUE(HasMissingGlyph(AsQt(Shape(TEXT("\U0010FFF0"))))) << "the test itself would see a box";
+}
+
+TEST(Fallback, PresentationDecidesBetweenTextAndEmoji)
+{
+	const auto IsColored = [](const TCHAR* Text)
+	{
+		const FQtShapedText& Shaped = AsQt(Shape(Text));
+		bool bAll = true;
+		for (const FGlyphRun& Run : Shaped.Runs)
+		{
+			bAll &= Run.bColored;
+		}
+		return bAll;
+	};
+	EXPECT_TRUE(IsColored(TEXT("\U0001F600")));
+	EXPECT_TRUE(IsColored(TEXT("\u2764\ufe0f")));
+	EXPECT_TRUE(IsColored(TEXT("1\ufe0f\u20e3")));
+	EXPECT_TRUE(IsColored(TEXT("\u00a9\ufe0f")));
+	EXPECT_FALSE(IsColored(TEXT("\u2764")));
+	EXPECT_FALSE(IsColored(TEXT("\U0001F600\ufe0e")));
+	EXPECT_FALSE(IsColored(TEXT("1")));
+	EXPECT_FALSE(IsColored(TEXT("\u00a9")));
+}
+
+TEST(Fallback, AnEmojiSequenceIsOnePicture)
+{
+	const float One = Shape(TEXT("\U0001F600"))->Width;
+	for (const TCHAR* Sequence : {TEXT("\U0001F469\u200d\U0001F469\u200d\U0001F467"), TEXT("\U0001F1E9\U0001F1EA"), TEXT("\U0001F44D\U0001F3FD")})
+	{
+		EXPECT_FLOAT_EQ(Shape(Sequence)->Width, One) << QString::fromUtf16(Sequence).toStdString();
+	}
+}
+
+TEST(BadInput, IsShapedSomehow)
+{
+	const TCHAR LoneSurrogate[] = {0xD800, u'x', 0};
+	for (const TCHAR* Text : {LoneSurrogate + 0, TEXT("\u202e\u2066\u0000x"), TEXT("\x01\x7f"), TEXT("\ufe0f\u200d"), TEXT("\t\n")})
+	{
+		EXPECT_EQ(Shape(Text)->CaretOffsets.Num(), FStringView(Text).Len() + 1);
+		EXPECT_EQ(Shape(Text, RightToLeft)->CaretOffsets.Num(), FStringView(Text).Len() + 1);
+	}
+}
