@@ -67,8 +67,3 @@ inline FSlateFontInfo FontOf(const TCHAR* FaceWord, float Size)
 {
 	return FCoreStyle::GetDefaultFontStyle(FaceWord, Size);
 }
-
-inline const FQtShapedText& AsQt(const TSharedRef<const FShapedText>& Shaped)
-{
-	return static_cast<const FQtShapedText&>(*Shaped);
-}

@@ -35,7 +35,9 @@ static bool HasColor(const QImage& Picture)
 TEST(TextPixels, TwiceTheScaleHasMoreDetailThanTwiceThePicture)
 {
 	const auto Draw = [](float Scale)
-	{ return FCanvas(200, 24, Scale).Text(FVector2D(2.0, 2.0), TEXT("The quick brown fox"), FontOf(TEXT("Regular"), 10.0f)).Paint(); };
+	{
+		return FCanvas(200, 24, Scale).Text(FVector2D(2.0, 2.0), TEXT("The quick brown fox"), FontOf(TEXT("Regular"), 10.0f)).Paint();
+	};
 	const QImage Doubled = Draw(1.0f).scaled(400, 48, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 	const QImage Drawn = Draw(2.0f);
 	ASSERT_EQ(Drawn.size(), Doubled.size());
@@ -52,7 +54,9 @@ TEST(TextPixels, TextTakesItsTint)
 TEST(TextPixels, EmojiKeepTheirColorsAndTakeTheAlpha)
 {
 	const auto Draw = [](const FLinearColor& Tint)
-	{ return FCanvas(40, 40).Text(FVector2D(2.0, 2.0), TEXT("\U0001F600"), FontOf(TEXT("Regular"), 20.0f), Tint).Paint(); };
+	{
+		return FCanvas(40, 40).Text(FVector2D(2.0, 2.0), TEXT("\U0001F600"), FontOf(TEXT("Regular"), 20.0f), Tint).Paint();
+	};
 	const QImage White = Draw(FLinearColor::White);
 	EXPECT_TRUE(HasColor(White));
 	EXPECT_EQ(White, Draw(FLinearColor(0.0f, 0.0f, 1.0f)));

@@ -86,28 +86,31 @@ void FQtTextShaper::AppendSegment(
 {
 	const double Scale = static_cast<double>(PixelSize) / FFontFace::ShapingPixelSize;
 	const QTextLine Line = Layout.lineAt(0);
+	const double First = Line.cursorToX(Skipped);
+	const double Last = Line.cursorToX(Skipped + static_cast<int>(Segment.Length));
+	const double LayoutLeft = qMin(First, Last);
 	const double Left = Shaped.Width;
-	for (int Index = 0; Index <= Segment.Length; ++Index)
+	Shaped.Width = static_cast<float>(Left + qAbs(Last - First) * Scale);
+
+	const int32 Start = static_cast<int32>(Segment.Start);
+	const int32 End = Start + static_cast<int32>(Segment.Length);
+	// The offset behind a segment is that before the next one, which may lie elsewhere.
+	const int32 LastOwn = End == Shaped.CaretOffsets.Num() - 1 ? End : End - 1;
+	for (int32 Unit = Start; Unit <= LastOwn; ++Unit)
 	{
-		const bool bOfNeighbour = Index == Segment.Length && Segment.Start + Index < Shaped.CaretOffsets.Num() - 1;
-		if (!bOfNeighbour)
-		{
-			Shaped.CaretOffsets[static_cast<int32>(Segment.Start) + Index] =
-				static_cast<float>(Left + Line.cursorToX(Index + Skipped) * Scale);
-		}
+		Shaped.CaretOffsets[Unit] = static_cast<float>(Left + (Line.cursorToX(Unit - Start + Skipped) - LayoutLeft) * Scale);
 	}
 	for (QGlyphRun& Run : Layout.glyphRuns())
 	{
 		QList<QPointF> Positions = Run.positions();
 		for (QPointF& Position : Positions)
 		{
-			Position = QPointF(Left + Position.x() * Scale, (Position.y() - Line.ascent()) * Scale);
+			Position = QPointF(Left + (Position.x() - LayoutLeft) * Scale, (Position.y() - Line.ascent()) * Scale);
 		}
 		Run.setPositions(Positions);
 		Run.setRawFont(Resize(Run.rawFont(), PixelSize));
 		Shaped.Runs.Add({Run, Segment.bEmoji});
 	}
-	Shaped.Width = static_cast<float>(Left + Line.naturalTextWidth() * Scale);
 }
 
 QRawFont FQtTextShaper::Resize(const QRawFont& Font, float PixelSize)
