@@ -191,17 +191,28 @@ void SWidget::Arrange(const FGeometry& AllottedGeometry, const FSlateRect& ViewR
 
 void SWidget::PlaceChildren(FArrangedChildren& NewArranged)
 {
-	for (const FArrangedWidget& Child : NewArranged.GetInternalArray())
+	const bool bSomeUnsettled = !NewArranged.GetUnsettled().IsEmpty();
+	TSet<const SWidget*> Placed;
+	const auto Place = [&](const FArrangedWidget& Child)
 	{
 		Child.Widget->Arrange(Child.Geometry, NewArranged.GetViewRect());
+		if (bSomeUnsettled)
+		{
+			Placed.Add(&*Child.Widget);
+		}
+	};
+	for (const FArrangedWidget& Child : NewArranged.GetInternalArray())
+	{
+		Place(Child);
 	}
 	for (const FArrangedWidget& Child : NewArranged.GetOutOfView())
 	{
-		Child.Widget->Arrange(Child.Geometry, NewArranged.GetViewRect());
+		Place(Child);
 	}
 	for (const TSharedPtr<SWidget>& Child : NewArranged.GetUnsettled())
 	{
-		if (Child->bArrangePending && Child->bHasGeometry && Child->GetVisibility().IsVisible())
+		// One that was placed just now and wants another layout is left to the next pass, which its parents were told of.
+		if (Child->bArrangePending && Child->bHasGeometry && Child->GetVisibility().IsVisible() && !Placed.Contains(Child.Get()))
 		{
 			Child->Arrange(Child->CachedGeometry, Child->CachedViewRect);
 		}
