@@ -4,6 +4,7 @@
 
 #include "Brushes/SlateNoResource.h"
 #include "Brushes/SlateRoundedBoxBrush.h"
+#include "EditorTheme.h"
 
 #define SLATE_DEFINE_STYLE_TYPE(StyleType)                                                                                                 \
 	const FName StyleType::TypeName(TEXT("") #StyleType);                                                                                  \
@@ -24,7 +25,7 @@ SLATE_DEFINE_STYLE_TYPE(FScrollBarStyle)
 FTextBlockStyle::FTextBlockStyle()
 	: ShadowOffset(0.0, 0.0)
 	, ShadowColorAndOpacity(FLinearColor::Black)
-	, SelectedBackgroundColor(FLinearColor(0.0f, 0.13f, 0.5f))
+	, SelectedBackgroundColor(EditorTheme::FromScreen(EditorTheme::Selection))
 	, HighlightColor(FLinearColor::Black)
 	, HighlightShape(FSlateNoResource())
 	, StrikeBrush(FSlateNoResource())

@@ -4,7 +4,8 @@
 
 namespace
 {
-constexpr float SubduedOpacity = 0.45f;
+// Least that keeps a contrast of 4.5 to 1 on all grounds of the theme.
+constexpr float SubduedOpacity = 0.65f;
 }
 
 FWidgetStyle& FWidgetStyle::BlendColorAndOpacityTint(const FLinearColor& InTint)

@@ -1,0 +1,135 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Misc/Paths.h"
+#include "Styling/AppStyle.h"
+#include "Styling/CoreStyle.h"
+#include "Styling/SlateTypes.h"
+#include "Styling/WidgetStyle.h"
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+
+static FLinearColor ColorOf(const TCHAR* Name)
+{
+	const FLinearColor Missing(-1.0f, -1.0f, -1.0f);
+	const FSlateColor Color = FAppStyle::Get().GetSlateColor(Name, nullptr, Missing);
+	EXPECT_NE(Color.GetSpecifiedColor(), Missing) << FString(Name);
+	return Color.GetSpecifiedColor();
+}
+
+static FLinearColor OnGround(const FLinearColor& Color, const FLinearColor& Ground)
+{
+	// Blended as the screen does it, in sRGB.
+	const FColor Front = Color.ToFColor(true);
+	const FColor Back = Ground.ToFColor(true);
+	const auto Blend = [&](uint8 A, uint8 B)
+	{
+		return static_cast<uint8>(A * Color.A + B * (1.0f - Color.A) + 0.5f);
+	};
+	return FLinearColor(FColor(Blend(Front.R, Back.R), Blend(Front.G, Back.G), Blend(Front.B, Back.B)));
+}
+
+static float Luminance(const FLinearColor& Color)
+{
+	return 0.2126f * Color.R + 0.7152f * Color.G + 0.0722f * Color.B;
+}
+
+static float Contrast(const FLinearColor& Text, const FLinearColor& Ground)
+{
+	const float A = Luminance(OnGround(Text, Ground)) + 0.05f;
+	const float B = Luminance(Ground) + 0.05f;
+	return FMath::Max(A, B) / FMath::Min(A, B);
+}
+
+static FLinearColor Subdued(const FLinearColor& Foreground)
+{
+	return FWidgetStyle().SetForegroundColor(Foreground).GetSubduedForegroundColor();
+}
+
+TEST(ThemeContrast, TextIsReadableWhereItStands)
+{
+	const FLinearColor White = ColorOf(TEXT("Colors.White"));
+	const FLinearColor Foreground = ColorOf(TEXT("Colors.Foreground"));
+	const std::pair<const char*, FLinearColor> Texts[] = {
+		{"white", White},
+		{"foreground", Foreground},
+		{"white, subdued", Subdued(White)},
+		{"foreground, subdued", Subdued(Foreground)},
+		{"gray italic", FLinearColor(0.7f, 0.7f, 0.7f)},
+		{"inline code, operators, keywords", FLinearColor(1.0f, 0.7f, 0.4f)},
+		{"code", FLinearColor(0.9f, 0.95f, 1.0f)},
+		{"code string", FLinearColor(0.5f, 0.9f, 0.4f)},
+		{"code number", FLinearColor(1.0f, 0.9f, 0.4f)},
+		{"code comment", FLinearColor(0.5f, 0.7f, 0.9f)},
+		{"code preprocessor", FLinearColor(1.0f, 0.6f, 1.0f)},
+	};
+	for (const TCHAR* Ground : {TEXT("Colors.Black"), TEXT("Colors.AccentBlack"), TEXT("Colors.Dropdown")})
+	{
+		for (const auto& [Name, Text] : Texts)
+		{
+			EXPECT_GE(Contrast(Text, ColorOf(Ground)), 4.5f) << Name << " on " << FString(Ground);
+		}
+	}
+	for (const TCHAR* Ground : {TEXT("Colors.AccentGray"), TEXT("Colors.Secondary"), TEXT("Colors.Hover"), TEXT("Colors.Hover2"),
+			 TEXT("Colors.AccentRed"), TEXT("Colors.AccentGreen"), TEXT("Colors.AccentBlue")})
+	{
+		EXPECT_GE(Contrast(White, ColorOf(Ground)), 4.5f) << "white on " << FString(Ground);
+	}
+	EXPECT_GE(Contrast(White, FTextBlockStyle::GetDefault().SelectedBackgroundColor.GetSpecifiedColor()), 4.5f) << "selected";
+	EXPECT_GE(Contrast(ColorOf(TEXT("Colors.ForegroundInverted")), White), 4.5f);
+}
+
+TEST(ThemeContrast, ThePrimaryColorServesAsGroundAndAsLink)
+{
+	const FLinearColor Primary = ColorOf(TEXT("Colors.Primary"));
+	EXPECT_GE(Contrast(ColorOf(TEXT("Colors.White")), Primary), 3.5f);
+	EXPECT_GE(Contrast(Primary, ColorOf(TEXT("Colors.AccentBlack"))), 3.5f);
+	EXPECT_GE(Contrast(Primary, ColorOf(TEXT("Colors.Dropdown"))), 3.5f);
+	EXPECT_GE(Contrast(ColorOf(TEXT("Colors.White")), ColorOf(TEXT("Colors.PrimaryPress"))), 3.5f);
+}
+
+TEST(ThemeContrast, GroundsCanBeToldApart)
+{
+	const TCHAR* const Grounds[] = {TEXT("Colors.Black"), TEXT("Colors.AccentBlack"), TEXT("Colors.Dropdown"), TEXT("Colors.AccentGray")};
+	for (int32 Index = 1; Index < 4; ++Index)
+	{
+		EXPECT_GE(Contrast(ColorOf(Grounds[Index - 1]), ColorOf(Grounds[Index])), 1.1f) << FString(Grounds[Index]);
+	}
+}
+
+TEST(Theme, EveryNameIsThere)
+{
+	for (const TCHAR* Name : {TEXT("PrimaryHover"), TEXT("Header"), TEXT("ForegroundHover"), TEXT("Background")})
+	{
+		ColorOf(*(FString(TEXT("Colors.")) + Name));
+	}
+	for (const TCHAR* Name :
+		{TEXT("Icons.ArrowRight"), TEXT("Icons.FilledCircle"), TEXT("Icons.Plus"), TEXT("Icons.Delete"), TEXT("Icons.X"),
+			TEXT("Icons.ChevronDown"), TEXT("GenericCommands.Copy"), TEXT("Symbols.Check"), TEXT("ClassIcon.AIController")})
+	{
+		const FSlateBrush* Brush = FAppStyle::Get().GetOptionalBrush(Name, nullptr, nullptr);
+		ASSERT_NE(Brush, nullptr) << FString(Name);
+		EXPECT_TRUE(FPaths::FileExists(Brush->GetResourceName().ToString())) << FString(Name);
+		EXPECT_EQ(Brush->GetImageSize(), FVector2D(16.0, 16.0));
+	}
+	EXPECT_NE(FAppStyle::Get().GetOptionalBrush(TEXT("DefaultTextUnderline"), nullptr, nullptr), nullptr);
+	EXPECT_TRUE(FAppStyle::Get().HasWidgetStyle<FButtonStyle>(TEXT("NoBorder")));
+	EXPECT_TRUE(FAppStyle::Get().HasWidgetStyle<FButtonStyle>(TEXT("SimpleButton")));
+	EXPECT_TRUE(FAppStyle::Get().HasWidgetStyle<FComboBoxStyle>(TEXT("SimpleComboBox")));
+	EXPECT_TRUE(FAppStyle::Get().HasWidgetStyle<FHyperlinkStyle>(TEXT("Hyperlink")));
+	EXPECT_TRUE(FCoreStyle::Get().HasWidgetStyle<FTextBlockStyle>(TEXT("NormalText")));
+	EXPECT_TRUE(FCoreStyle::Get().HasWidgetStyle<FScrollBarStyle>(TEXT("ScrollBar")));
+}
+
+TEST(Theme, TheContentRootHoldsWhatStylesNameThemselves)
+{
+	for (const TCHAR* Name : {TEXT("Old/HyperlinkUnderline.png"), TEXT("TextBlockHighlightShape.png")})
+	{
+		EXPECT_TRUE(FPaths::FileExists(FPaths::Combine(FPaths::EngineContentDir(), Name))) << FString(Name);
+	}
+	for (const TCHAR* Name :
+		{TEXT("Logo500x105.png"), TEXT("Success.png"), TEXT("Error.png"), TEXT("Info.png"), TEXT("White.png"), TEXT("Icon128.png")})
+	{
+		EXPECT_TRUE(FPaths::FileExists(FPaths::Combine(FPaths::ProjectDir(), TEXT("Resources"), Name))) << FString(Name);
+	}
+}
