@@ -78,10 +78,14 @@ bool FGlobalTabmanager::CloseTab(const TSharedRef<SDockTab>& Tab)
 {
 	// The caller's reference may be the one in the list.
 	const TSharedRef<SDockTab> Closing = Tab;
-	const bool bWasForeground = ForegroundTab == Closing;
 	if (OpenTabs.Remove(Closing) == 0)
 	{
 		return false;
+	}
+	const bool bWasForeground = Closing->IsForeground();
+	if (bWasForeground)
+	{
+		ForegroundTab.Reset();
 	}
 	OnTabClosed.Broadcast(Closing);
 	Closing->OnTabClosed.ExecuteIfBound(Closing);

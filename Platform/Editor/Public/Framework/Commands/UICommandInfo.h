@@ -16,7 +16,7 @@ enum class EUserInterfaceActionType : uint8
 };
 
 // A group of commands.
-class FBindingContext : public TSharedFromThis<FBindingContext>
+class FBindingContext
 {
 public:
 	FBindingContext(const FName InContextName, const FText& InContextDesc, const FName InContextParent, const FName InStyleSetName)

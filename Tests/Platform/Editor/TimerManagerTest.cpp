@@ -1,0 +1,138 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Editor.h"
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+
+class TimerManagerTest : public testing::Test
+{
+protected:
+	FTimerDelegate Note(const TCHAR* Text)
+	{
+		return FTimerDelegate::CreateLambda([this, Text] { Log += Text; });
+	}
+
+	FTimerManager Timers;
+	FString Log;
+};
+
+TEST_F(TimerManagerTest, FiresOnceAfterItsDelay)
+{
+	FTimerHandle Handle;
+	EXPECT_FALSE(Handle.IsValid());
+	Timers.SetTimer(Handle, Note(TEXT("x")), 10.0f);
+	EXPECT_TRUE(Handle.IsValid());
+	EXPECT_TRUE(Timers.TimerExists(Handle));
+	Timers.Tick(9.9f);
+	EXPECT_TEXT(Log, TEXT(""));
+	EXPECT_NEAR(Timers.GetTimeToNextTimer().GetValue(), 0.1f, 1e-4f);
+	EXPECT_NEAR(Timers.GetTimerRemaining(Handle), 0.1f, 1e-4f);
+	Timers.Tick(0.1f);
+	EXPECT_TEXT(Log, TEXT("x"));
+	EXPECT_FALSE(Timers.TimerExists(Handle));
+	EXPECT_FALSE(Timers.GetTimeToNextTimer().IsSet());
+	EXPECT_EQ(Timers.GetTimerRemaining(Handle), -1.0f);
+	Timers.Tick(100.0f);
+	EXPECT_TEXT(Log, TEXT("x"));
+}
+
+TEST_F(TimerManagerTest, FiresAfterManySmallFrames)
+{
+	FTimerHandle Handle;
+	Timers.SetTimer(Handle, Note(TEXT("x")), 10.0f);
+	for (int32 Frame = 0; Frame < 100; ++Frame)
+	{
+		EXPECT_TEXT(Log, TEXT(""));
+		Timers.Tick(0.1f);
+	}
+	EXPECT_TEXT(Log, TEXT("x"));
+}
+
+TEST_F(TimerManagerTest, TheSameHandleStartsAnew)
+{
+	FTimerHandle Handle;
+	Timers.SetTimer(Handle, Note(TEXT("old")), 10.0f);
+	Timers.Tick(6.0f);
+	Timers.SetTimer(Handle, Note(TEXT("new")), 10.0f);
+	Timers.Tick(6.0f);
+	EXPECT_TEXT(Log, TEXT(""));
+	Timers.Tick(4.0f);
+	EXPECT_TEXT(Log, TEXT("new"));
+}
+
+TEST_F(TimerManagerTest, ClearingInvalidatesTheHandle)
+{
+	FTimerHandle Handle;
+	Timers.ClearTimer(Handle);
+	Timers.SetTimer(Handle, Note(TEXT("x")), 1.0f);
+	FTimerHandle Other;
+	Timers.SetTimer(Other, Note(TEXT("y")), 1.0f);
+	Timers.ClearTimer(Handle);
+	EXPECT_FALSE(Handle.IsValid());
+	Timers.SetTimer(Other, Note(TEXT("z")), 0.0f);
+	EXPECT_FALSE(Other.IsValid());
+	Timers.Tick(5.0f);
+	EXPECT_TEXT(Log, TEXT(""));
+}
+
+TEST_F(TimerManagerTest, RunsWhatIsDueInOrderOfTime)
+{
+	FTimerHandle Late;
+	FTimerHandle Early;
+	FTimerHandle Looping;
+	Timers.SetTimer(Late, Note(TEXT("late ")), 3.0f);
+	Timers.SetTimer(Early, Note(TEXT("early ")), 1.0f);
+	Timers.SetTimer(Looping, Note(TEXT("loop ")), 2.0f, true, 0.5f);
+	Timers.Tick(3.0f);
+	EXPECT_TEXT(Log, TEXT("loop early loop late "));
+	EXPECT_TRUE(Timers.TimerExists(Looping));
+}
+
+TEST_F(TimerManagerTest, HandlersMaySetAndClearTimers)
+{
+	FTimerHandle Self;
+	FTimerHandle Victim;
+	Timers.SetTimer(Self,
+		FTimerDelegate::CreateLambda(
+			[&]
+			{
+				Log += TEXT("a");
+				Timers.ClearTimer(Victim);
+				Timers.SetTimer(Self, Note(TEXT("b")), 1.0f, false, 0.0f);
+			}),
+		1.0f);
+	Timers.SetTimer(Victim, Note(TEXT("victim")), 1.5f);
+	Timers.Tick(2.0f);
+	EXPECT_TEXT(Log, TEXT("a"));
+	Timers.Tick(0.0f);
+	EXPECT_TEXT(Log, TEXT("ab"));
+}
+
+TEST_F(TimerManagerTest, SkipsObjectsThatAreGoneAndTellsTheHost)
+{
+	struct FOwner : TSharedFromThis<FOwner>
+	{
+		void Fail() { ADD_FAILURE() << "The timer of a dead object ran"; }
+	};
+	int32 NumSet = 0;
+	Timers.OnTimerSet.AddLambda([&NumSet] { ++NumSet; });
+	TSharedPtr<FOwner> Owner = MakeShared<FOwner>();
+	FTimerHandle Handle;
+	Timers.SetTimer(Handle, FTimerDelegate::CreateSP(Owner.Get(), &FOwner::Fail), 1.0f, true);
+	EXPECT_EQ(NumSet, 1);
+	Owner.Reset();
+	Timers.Tick(1.0f);
+	EXPECT_FALSE(Timers.TimerExists(Handle));
+}
+
+TEST(EditorEngineTest, IsThereBetweenStartupAndShutdown)
+{
+	EXPECT_EQ(GEditor, nullptr);
+	UEditorEngine::Startup();
+	CollectGarbage();
+	ASSERT_TRUE(IsValid(GEditor));
+	EXPECT_FALSE(GEditor->GetTimerManager()->GetTimeToNextTimer().IsSet());
+	UEditorEngine::Shutdown();
+	EXPECT_EQ(GEditor, nullptr);
+}
