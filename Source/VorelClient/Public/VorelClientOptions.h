@@ -8,10 +8,10 @@
 struct FVorelClientOptions
 {
 	// Base address of a chat-completions server. Neither here nor in the settings: the embedded local service.
-	FString AssistantUrl;
+	FString AssistantUrl{};
 
 	// Empty: the first one that the server names.
-	FString Model;
+	FString Model{};
 
 	// Pause of the local service between two pieces of an answer. Negative: its own natural pace.
 	int32 GuidePieceMilliseconds = -1;

@@ -59,9 +59,8 @@ FAnswerEnd MakeFailure(const FText& Failure)
 }
 } // namespace
 
-FAnswerCall::FAnswerCall(QNetworkAccessManager& InNetwork, FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits)
-	: Network(InNetwork)
-	, Endpoint(InEndpoint)
+FAnswerCall::FAnswerCall(FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits)
+	: Endpoint(InEndpoint)
 	, Limits(InLimits)
 {
 }
@@ -94,7 +93,7 @@ void FAnswerCall::AskForModels()
 {
 	FHttpRequest Request = MakeRequest(TEXT("/models"));
 	Request.Accept = "application/json";
-	Http = MakeUnique<FHttpCall>(Network, ::MoveTemp(Request), Limits);
+	Http = MakeUnique<FHttpCall>(::MoveTemp(Request), Limits);
 	Http->OnBody = [this](std::string_view Bytes)
 	{
 		Models.append(Bytes.substr(0, MaxModelListBytes - Models.size()));
@@ -130,7 +129,7 @@ void FAnswerCall::AskForAnswer()
 	FHttpRequest Request = MakeRequest(TEXT("/chat/completions"));
 	Request.Accept = "text/event-stream, application/json";
 	Request.Body = QByteArray(Body.data(), static_cast<qsizetype>(Body.size()));
-	Http = MakeUnique<FHttpCall>(Network, ::MoveTemp(Request), Limits);
+	Http = MakeUnique<FHttpCall>(::MoveTemp(Request), Limits);
 	Http->OnBody = [this](std::string_view Bytes)
 	{
 		ReadAnswer(Bytes);

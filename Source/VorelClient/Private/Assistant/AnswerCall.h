@@ -7,7 +7,6 @@
 #include "Assistant/ChatMessage.h"
 
 class FHttpCall;
-class QNetworkAccessManager;
 struct FHttpRequest;
 
 // Asks an assistant for the next message of a conversation, and for its first model before that where none is chosen.
@@ -15,7 +14,7 @@ class FAnswerCall
 {
 public:
 	// The endpoint must outlive the call, which notes the server's first model there.
-	FAnswerCall(QNetworkAccessManager& InNetwork, FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits);
+	FAnswerCall(FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits);
 	~FAnswerCall();
 
 	// Both fire on the game thread, OnEnded once and last, possibly before Start returns. Neither may destroy the call. Destroying it hangs
@@ -34,7 +33,6 @@ private:
 	void Deliver();
 	FHttpRequest MakeRequest(const TCHAR* Path) const;
 
-	QNetworkAccessManager& Network;
 	FAssistantEndpoint& Endpoint;
 	FRequestLimits Limits;
 	TArray<FChatMessage> Messages;

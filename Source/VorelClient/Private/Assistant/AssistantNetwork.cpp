@@ -24,9 +24,9 @@ public:
 };
 } // namespace
 
-TUniquePtr<QNetworkAccessManager> MakeNetwork()
+QNetworkAccessManager* MakeNetwork(QObject* Parent)
 {
-	TUniquePtr<QNetworkAccessManager> Network = MakeUnique<QNetworkAccessManager>();
+	auto* const Network = new QNetworkAccessManager(Parent);
 	Network->setProxyFactory(new FProxyForOthers);
 	return Network;
 }

@@ -5,6 +5,7 @@
 #include "CoreMinimal.h"
 
 class QNetworkAccessManager;
+class QObject;
 
-// The connections of one client; past the proxy for this machine's own addresses.
-TUniquePtr<QNetworkAccessManager> MakeNetwork();
+// With the system's proxy, but past it for this machine's own addresses.
+QNetworkAccessManager* MakeNetwork(QObject* Parent);

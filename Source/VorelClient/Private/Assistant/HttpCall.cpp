@@ -1,7 +1,8 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 // Qt's headers come before the engine's, whose macros they don't survive.
-#include <QBuffer>
+#include <QCoreApplication>
+#include <QIODevice>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QPointer>
@@ -9,6 +10,7 @@
 #include "Assistant/HttpCall.h"
 
 #include "Assistant/AnswerReader.h"
+#include "Assistant/AssistantNetwork.h"
 #include "Assistant/QtText.h"
 
 using FailureText::EPhase;
@@ -21,17 +23,34 @@ constexpr int32 MaxGoodbyeMilliseconds = 2000;
 
 // A body that can be read once. The network library sends a request again when the server hangs up without a reply; a question must not be
 // asked, and paid for, twice.
-class FOnceReadable final : public QBuffer
+class FOnceReadable final : public QIODevice
 {
 public:
-	explicit FOnceReadable(const QByteArray& Bytes)
+	explicit FOnceReadable(const QByteArray& InBytes)
+		: Bytes(InBytes)
 	{
-		setData(Bytes);
-		open(QIODevice::ReadOnly);
+		open(QIODevice::ReadOnly | QIODevice::Unbuffered);
 	}
 
 	bool isSequential() const override { return true; }
 	bool reset() override { return false; }
+	bool atEnd() const override { return Position == Bytes.size(); }
+	qint64 bytesAvailable() const override { return Bytes.size() - Position; }
+
+protected:
+	qint64 readData(char* Data, qint64 MaxSize) override
+	{
+		const qint64 Size = qMin(MaxSize, bytesAvailable());
+		std::copy_n(Bytes.constData() + Position, Size, Data);
+		Position += Size;
+		return Size > 0 ? Size : -1;
+	}
+
+	qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+	const QByteArray Bytes;
+	qint64 Position = 0;
 };
 
 bool IsSameOrigin(const QUrl& A, const QUrl& B)
@@ -75,9 +94,8 @@ QNetworkReply* Post(QNetworkAccessManager& Network, const FHttpRequest& Request)
 }
 } // namespace
 
-FHttpCall::FHttpCall(QNetworkAccessManager& InNetwork, FHttpRequest InRequest, const FRequestLimits& InLimits)
-	: Network(InNetwork)
-	, Request(::MoveTemp(InRequest))
+FHttpCall::FHttpCall(FHttpRequest InRequest, const FRequestLimits& InLimits)
+	: Request(::MoveTemp(InRequest))
 	, Limits(InLimits)
 {
 	Limit.setSingleShot(true);
@@ -91,17 +109,23 @@ FHttpCall::~FHttpCall()
 
 void FHttpCall::Start()
 {
-	Send();
+	// The application ends what is still open at its end.
+	Network = MakeNetwork(QCoreApplication::instance());
+	Reply = Request.Body.isEmpty() ? Network->get(MakeNetworkRequest(Request)) : Post(*Network, Request);
+	connect(Reply, &QNetworkReply::requestSent, this, [this] { StartLimit(EPhase::WaitingForFirstByte); });
+	connect(Reply, &QNetworkReply::readyRead, this, [this] { HandleBytes(); });
+	connect(Reply, &QNetworkReply::finished, this, [this] { HandleFinished(); });
+	StartLimit(EPhase::Connecting);
 }
 
 void FHttpCall::LetGo()
 {
+	Limit.stop();
 	if (QNetworkReply* const Leaving = Reply)
 	{
 		Reply = nullptr;
-		Limit.stop();
 		Leaving->disconnect(this);
-		connect(Leaving, &QNetworkReply::finished, Leaving, &QObject::deleteLater);
+		connect(Leaving, &QNetworkReply::finished, Network, &QObject::deleteLater);
 		QTimer::singleShot(MaxGoodbyeMilliseconds, Leaving, &QNetworkReply::abort);
 	}
 }
@@ -109,22 +133,14 @@ void FHttpCall::LetGo()
 void FHttpCall::HangUp()
 {
 	Limit.stop();
-	if (QNetworkReply* const Leaving = Reply)
+	if (Reply)
 	{
+		Reply->disconnect(this);
+		Reply->abort();
 		Reply = nullptr;
-		Leaving->disconnect(this);
-		Leaving->abort();
-		Leaving->deleteLater();
+		// With its reply.
+		Network->deleteLater();
 	}
-}
-
-void FHttpCall::Send()
-{
-	Reply = Request.Body.isEmpty() ? Network.get(MakeNetworkRequest(Request)) : Post(Network, Request);
-	connect(Reply, &QNetworkReply::requestSent, this, [this] { StartLimit(EPhase::WaitingForFirstByte); });
-	connect(Reply, &QNetworkReply::readyRead, this, [this] { HandleBytes(); });
-	connect(Reply, &QNetworkReply::finished, this, [this] { HandleFinished(); });
-	StartLimit(EPhase::Connecting);
 }
 
 void FHttpCall::StartLimit(EPhase InPhase)
@@ -213,11 +229,10 @@ bool FHttpCall::FollowRedirect(int32 Status)
 		End(FailureText::TooManyRedirects());
 		return true;
 	}
-	Reply->disconnect(this);
-	Reply->deleteLater();
+	HangUp();
 	Request.Url = Target;
 	Refusal.clear();
-	Send();
+	Start();
 	return true;
 }
 

@@ -29,7 +29,7 @@ struct FHttpRequest
 class FHttpCall final : public QObject
 {
 public:
-	FHttpCall(QNetworkAccessManager& InNetwork, FHttpRequest InRequest, const FRequestLimits& InLimits);
+	FHttpCall(FHttpRequest InRequest, const FRequestLimits& InLimits);
 	~FHttpCall() override;
 
 	// OnBody gets the bytes of a successful reply as they come; it may let go of the call and hang up, not destroy it. OnEnded comes last,
@@ -44,7 +44,6 @@ public:
 	void HangUp();
 
 private:
-	void Send();
 	void StartLimit(FailureText::EPhase InPhase);
 	void HandleBytes();
 	void HandleFinished();
@@ -58,7 +57,8 @@ private:
 	FText DescribeNetworkError() const;
 	FString GetHost() const;
 
-	QNetworkAccessManager& Network;
+	// One for each call, so that no connection is used a second time: a server may close an idle one just when the next question goes out.
+	QNetworkAccessManager* Network = nullptr;
 	FHttpRequest Request;
 	FRequestLimits Limits;
 	QNetworkReply* Reply = nullptr;

@@ -4,8 +4,8 @@
 
 #include "Chat/AnswerNote.h"
 
-FAnswerStream::FAnswerStream(QNetworkAccessManager& Network, FAssistantEndpoint& Endpoint, const FRequestLimits& Limits)
-	: Call(Network, Endpoint, Limits)
+FAnswerStream::FAnswerStream(FAssistantEndpoint& Endpoint, const FRequestLimits& Limits)
+	: Call(Endpoint, Limits)
 {
 	Call.OnText = [this](const FString& Text)
 	{

@@ -9,7 +9,7 @@
 class FAnswerStream : public TSharedFromThis<FAnswerStream>
 {
 public:
-	FAnswerStream(QNetworkAccessManager& Network, FAssistantEndpoint& Endpoint, const FRequestLimits& Limits);
+	FAnswerStream(FAssistantEndpoint& Endpoint, const FRequestLimits& Limits);
 	~FAnswerStream();
 
 	// Both fire in a frame after Start, and may let go of the stream. OnEnded comes once and last, in the same frame as the rest of the

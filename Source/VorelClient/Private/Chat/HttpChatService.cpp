@@ -1,18 +1,12 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-// Qt's headers come before the engine's, whose macros they don't survive.
-#include <QNetworkAccessManager>
-
 #include "Chat/HttpChatService.h"
 
-#include "Assistant/AssistantNetwork.h"
 #include "Assistant/FailureText.h"
 #include "Chat/AnswerNote.h"
 #include "Chat/ChatModes.h"
 #include "Chat/StoredMessage.h"
 #include "LogVorel.h"
-
-UHttpChatService::UHttpChatService() = default;
 
 UHttpChatService::~UHttpChatService()
 {
@@ -21,10 +15,9 @@ UHttpChatService::~UHttpChatService()
 
 void UHttpChatService::Initialize(const FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits)
 {
-	check(!Network);
+	check(!Current);
 	Endpoint = InEndpoint;
 	Limits = InLimits;
-	Network = MakeNetwork();
 	CurrentModeName = DefaultAgentChatModeName;
 	Current = Conversations.Create(CurrentModeName);
 }
@@ -36,7 +29,7 @@ void UHttpChatService::Shutdown()
 		Request->Stream->Cancel();
 	}
 	Request.Reset();
-	Network.Reset();
+	bShutDown = true;
 }
 
 TArray<FString> UHttpChatService::GetChatModeNames() const
@@ -111,7 +104,7 @@ void UHttpChatService::DeleteChatHistory(const FString& Id)
 
 void UHttpChatService::SendMessage(const FString& Text)
 {
-	if (Request || !Network)
+	if (Request || bShutDown)
 	{
 		UE_LOG(LogVorel, Warning, TEXT("A message was not sent, because an answer is under way or the client has shut down"));
 		return;
@@ -165,7 +158,7 @@ TArray<FChatMessage> UHttpChatService::MakeMessages() const
 
 void UHttpChatService::StartAnswer()
 {
-	Request->Stream = MakeShared<FAnswerStream>(*Network, Endpoint, Limits);
+	Request->Stream = MakeShared<FAnswerStream>(Endpoint, Limits);
 	Request->Stream->OnText = [this](const FString& Text)
 	{
 		HandleText(Text);

@@ -7,8 +7,6 @@
 #include "Chat/ConversationRepository.h"
 #include "ChatService.h"
 
-class QNetworkAccessManager;
-
 // Holds conversations with a chat-completions server.
 //
 // One request fires in this order: bIsProcessingRequest becomes true; OnChatHistoryChanged where the list or its order changes, with the
@@ -19,7 +17,6 @@ class QNetworkAccessManager;
 class UHttpChatService final : public UChatService
 {
 public:
-	UHttpChatService();
 	~UHttpChatService() override;
 
 	// To be called once, before anything else.
@@ -68,10 +65,10 @@ private:
 
 	FAssistantEndpoint Endpoint;
 	FRequestLimits Limits;
-	TUniquePtr<QNetworkAccessManager> Network;
 	FConversationRepository Conversations;
 	TObjectPtr<UStoredConversation> Current;
 	FString CurrentModeName;
 	TSharedPtr<FRequest> Request;
 	bool bHistoryChangeWaits = false;
+	bool bShutDown = false;
 };

@@ -1,0 +1,222 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "ClientFixture.h"
+
+#include <nlohmann/json.hpp>
+
+using FChatRequestTest = FChatClientTest;
+using nlohmann::json;
+
+namespace
+{
+json ParseBody(const FExchange& Exchange)
+{
+	return json::parse(Exchange.Body.toStdString(), nullptr, false);
+}
+} // namespace
+
+TEST_F(FChatRequestTest, TellsTheEventsOfARequestInTheirOrder)
+{
+	Service().OnMessageAdded.AddLambda(
+		[this](TObjectPtr<UMessage> Message) { EXPECT_EQ(Service().GetCurrentConversation()->Messages.Last(), Message); });
+	Server.Then(Answer("Hello!"));
+	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* chunk(Hello!)* answer(Hello!) completed"));
+
+	// The second message changes neither the list nor its order.
+	Server.Then(Answer("Again."));
+	EXPECT_EQ(Ask(TEXT("And?")), TEXT("user(And?)* chunk(Again.)* answer(Again.) completed"));
+}
+
+TEST_F(FChatRequestTest, TellsANewOrderOfTheListBeforeTheMessage)
+{
+	Server.Then(Answer("1"));
+	Server.Then(Answer("2"));
+	Server.Then(Answer("3"));
+	Ask(TEXT("first"));
+	const FString FirstId = Service().GetCurrentConversation()->Id;
+	Service().CreateNewConversation(TEXT("Agent"));
+	Ask(TEXT("second"));
+	Service().LoadConversation(FirstId);
+	EXPECT_EQ(TakeEvents(), TEXT("history(2)"));
+	EXPECT_EQ(Ask(TEXT("third")), TEXT("history(2)* user(third)* chunk(3)* answer(3) completed"));
+	EXPECT_EQ(Service().GetChatHistories()[0]->Id, FirstId);
+}
+
+TEST_F(FChatRequestTest, SendsTheWholeConversationAsStandardChatCompletion)
+{
+	Endpoint.ApiKey = TEXT("secret");
+	Endpoint.BaseUrl += TEXT("/");
+	Server.Then(Answer("Answer \\\"one\\\""));
+	Server.Then(Answer("Two"));
+	Ask(TEXT("Première \"question\"\n😀"));
+	Ask(TEXT("Second"));
+
+	const FExchange& Second = Server.GetExchanges()[1];
+	EXPECT_EQ(Second.Method, "POST");
+	EXPECT_EQ(Second.Path, "/v1/chat/completions");
+	EXPECT_EQ(Second.Headers["authorization"], "Bearer secret");
+	EXPECT_EQ(Second.Headers["accept-encoding"], "identity");
+	EXPECT_EQ(Second.Headers["content-type"], "application/json");
+	EXPECT_EQ(Second.Headers["user-agent"], "VorelAI");
+
+	const json Body = ParseBody(Second);
+	EXPECT_EQ(Body["model"], "test-model");
+	EXPECT_EQ(Body["stream"], true);
+	ASSERT_EQ(Body["messages"].size(), 4u);
+	EXPECT_EQ(Body["messages"][0]["role"], "system");
+	EXPECT_EQ(Body["messages"][1], json({{"role", "user"}, {"content", "Première \"question\"\n😀"}}));
+	EXPECT_EQ(Body["messages"][2], json({{"role", "assistant"}, {"content", "Answer \"one\""}}));
+	EXPECT_EQ(Body["messages"][3], json({{"role", "user"}, {"content", "Second"}}));
+}
+
+TEST_F(FChatRequestTest, SendsTheInstructionsOfTheMode)
+{
+	Server.Then(Answer("1"));
+	Server.Then(Answer("2"));
+	Ask(TEXT("Hi"));
+	Service().SetCurrentChatMode(TEXT("review"));
+	EXPECT_EQ(TakeEvents(), TEXT("mode(Review)"));
+	Ask(TEXT("Hi"));
+	const std::string Agent = ParseBody(Server.GetExchanges()[0])["messages"][0]["content"];
+	const std::string Review = ParseBody(Server.GetExchanges()[1])["messages"][0]["content"];
+	EXPECT_NE(Agent, Review);
+	EXPECT_NE(Review.find("reviewer"), std::string::npos);
+	EXPECT_FALSE(Server.GetExchanges()[0].Headers.contains("authorization"));
+}
+
+TEST_F(FChatRequestTest, KeepsRolesInTurnAfterAMessageWithoutAnswer)
+{
+	Server.Then([](const FExchange& Exchange) { Exchange.SendReply("500 Oops", "text/plain", "no"); });
+	Server.Then(Answer("2"));
+	Ask(TEXT("lost"));
+	Ask(TEXT("found"));
+	const json Messages = ParseBody(Server.GetExchanges()[1])["messages"];
+	ASSERT_EQ(Messages.size(), 2u);
+	EXPECT_EQ(Messages[1]["content"], "lost\n\nfound");
+}
+
+TEST_F(FChatRequestTest, HandsOverOneChunkAFrameHoweverManyEventsCame)
+{
+	Server.Then(
+		[](const FExchange& Exchange)
+		{
+			Exchange.SendStreamHead();
+			Exchange.Send(MakeDelta("a") + MakeDelta("b") + MakeDelta("c"));
+		});
+	Service().SendMessage(TEXT("Hi"));
+	TakeEvents();
+	ASSERT_TRUE(WaitForFrameRequest());
+	EXPECT_EQ(TakeEvents(), TEXT(""));
+	Tick();
+	EXPECT_EQ(TakeEvents(), TEXT("chunk(abc)*"));
+	Tick();
+	EXPECT_EQ(TakeEvents(), TEXT(""));
+
+	// The end comes with the rest of the text, in one frame too.
+	Server.GetExchanges()[0].Send(MakeDelta("d") + MakeDelta("e") + EndMark);
+	ASSERT_TRUE(WaitForFrameRequest());
+	Tick();
+	EXPECT_EQ(TakeEvents(), TEXT("chunk(de)* answer(abcde) completed"));
+}
+
+TEST_F(FChatRequestTest, PutsTextTogetherThatIsCutAnywhere)
+{
+	const QByteArray Stream = MakeDelta("\xE4\xBB\x8A\xF0\x9F\x98\x80") + MakeDelta(" ok") + StopChunk;
+	Server.Then(
+		[&Stream](const FExchange& Exchange)
+		{
+			Exchange.Socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+			Exchange.SendStreamHead();
+			for (const char Byte : Stream)
+			{
+				Exchange.Send(QByteArray(1, Byte));
+			}
+		});
+	Ask(TEXT("Hi"));
+	EXPECT_EQ(MaxChunksPerFrame, 1);
+	EXPECT_EQ(static_cast<UStoredMessage&>(*Service().GetCurrentConversation()->Messages.Last()).GetText(), TEXT("今😀 ok"));
+}
+
+TEST_F(FChatRequestTest, EndsAtTheEndMarkThoughTheConnectionStaysOpen)
+{
+	Server.Then(
+		[](const FExchange& Exchange)
+		{
+			Exchange.SendStreamHead();
+			Exchange.Send(MakeDelta("Done") + EndMark);
+		});
+	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* chunk(Done)* answer(Done) completed"));
+}
+
+TEST_F(FChatRequestTest, MarksAnAnswerThatTheServerCut)
+{
+	Server.Then(
+		[](const FExchange& Exchange)
+		{
+			Exchange.SendStreamHead();
+			Exchange.Send(MakeDelta("Half") + "data: {\"choices\":[{\"delta\":{},\"finish_reason\":\"length\"}]}\n\n" + EndMark);
+		});
+	Server.Then(Answer("Whole"));
+	const FString Shown = TEXT("Half\n\n*The answer ends here because it reached the assistant's length limit.*");
+	EXPECT_EQ(Ask(TEXT("Hi")), FString::Printf(TEXT("history(0)* user(Hi)* chunk(%s)* answer(%s) completed"), *Shown, *Shown));
+	Ask(TEXT("Go on"));
+	EXPECT_EQ(ParseBody(Server.GetExchanges()[1])["messages"][2]["content"], "Half");
+}
+
+TEST_F(FChatRequestTest, AsksForTheFirstModelOnce)
+{
+	Endpoint.Model.Reset();
+	Endpoint.ApiKey = TEXT("secret");
+	Server.Then([](const FExchange& Exchange)
+		{ Exchange.SendReply("200 OK", "application/json", "{\"object\":\"list\",\"data\":[{\"id\":\"alpha\"},{\"id\":\"beta\"}]}"); });
+	Server.Then(Answer("1"));
+	Server.Then(Answer("2"));
+	Ask(TEXT("Hi"));
+	Ask(TEXT("Hi"));
+	ASSERT_EQ(Server.GetExchanges().size(), 3);
+	EXPECT_EQ(Server.GetExchanges()[0].Method + Server.GetExchanges()[0].Path, "GET/v1/models");
+	EXPECT_EQ(Server.GetExchanges()[0].Headers["authorization"], "Bearer secret");
+	EXPECT_EQ(ParseBody(Server.GetExchanges()[1])["model"], "alpha");
+	EXPECT_EQ(ParseBody(Server.GetExchanges()[2])["model"], "alpha");
+}
+
+TEST_F(FChatRequestTest, AsksForTheModelAgainAfterAFailure)
+{
+	Endpoint.Model.Reset();
+	for (const QByteArray Name : {"alpha", "beta"})
+	{
+		Server.Then([Name](const FExchange& Exchange)
+			{ Exchange.SendReply("200 OK", "application/json", "{\"models\":[{\"name\":\"" + Name + "\"}]}"); });
+		Server.Then([](const FExchange& Exchange) { Exchange.SendReply("404 Not Found", "application/json", "{}"); });
+	}
+	Ask(TEXT("Hi"));
+	Ask(TEXT("Hi"));
+	EXPECT_EQ(ParseBody(Server.GetExchanges()[3])["model"], "beta");
+}
+
+TEST_F(FChatRequestTest, IgnoresAMessageWhileAnAnswerIsUnderWay)
+{
+	Service().SendMessage(TEXT("one"));
+	TakeEvents();
+	Service().SendMessage(TEXT("two"));
+	EXPECT_EQ(TakeEvents(), TEXT(""));
+	EXPECT_EQ(Log.CountAtLevel(TEXT("LogVorel"), ELogVerbosity::Warning), 1) << Log.Dump();
+}
+
+TEST_F(FChatRequestTest, TakesTheNextMessageFromALastEvent)
+{
+	Server.Then(Answer("1"));
+	Server.Then(Answer("2"));
+	int32 Sent = 0;
+	Service().OnRequestCompleted.AddLambda(
+		[this, &Sent]
+		{
+			if (++Sent == 1)
+			{
+				Service().SendMessage(TEXT("next"));
+			}
+		});
+	Service().SendMessage(TEXT("first"));
+	ASSERT_TRUE(PumpUntil([&Sent] { return Sent == 2; }));
+	EXPECT_EQ(Service().GetCurrentConversation()->Messages.Num(), 4);
+}

@@ -1,0 +1,123 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+// Qt's headers come before the engine's, whose macros they don't survive.
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include "ClientFixture.h"
+
+namespace
+{
+constexpr qint64 MaxWaitMilliseconds = 10000;
+
+bool RunEventLoopUntil(const TFunction<bool()>& bDone, const TFunction<void()>& AfterEvents)
+{
+	QTimer WakeUp;
+	WakeUp.start(2);
+	QElapsedTimer Elapsed;
+	Elapsed.start();
+	while (!bDone() && Elapsed.elapsed() < MaxWaitMilliseconds)
+	{
+		QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+		AfterEvents();
+	}
+	return bDone();
+}
+} // namespace
+
+bool PumpUntil(const TFunction<bool()>& bDone)
+{
+	return RunEventLoopUntil(bDone, [] { FTSTicker::GetCoreTicker().Tick(0.016f); });
+}
+
+bool WaitForFrameRequest()
+{
+	return RunEventLoopUntil([] { return FTSTicker::GetCoreTicker().GetTimeToNextTick().IsSet(); }, [] {});
+}
+
+FChatClientTest::FChatClientTest()
+{
+	Endpoint.BaseUrl = FString((Server.GetAddress() + "/v1").constData());
+	Endpoint.Model = TEXT("test-model");
+}
+
+FChatClientTest::~FChatClientTest()
+{
+	if (Made)
+	{
+		Made->Shutdown();
+		Made->RemoveFromRoot();
+	}
+	CollectGarbage();
+}
+
+UHttpChatService& FChatClientTest::Service()
+{
+	if (!Made)
+	{
+		Made = NewObject<UHttpChatService>();
+		Made->AddToRoot();
+		Made->Initialize(Endpoint, Limits);
+		Made->OnRequestFailed.AddLambda([this](const FString& Error) { Record(TEXT("failed(") + Error + TEXT(")")); });
+		Made->OnRequestCompleted.AddLambda([this] { Record(TEXT("completed")); });
+		Made->OnChunkReceived.AddLambda(
+			[this](const FString& Chunk)
+			{
+				MaxChunksPerFrame = FMath::Max(MaxChunksPerFrame, ++ChunksInFrame);
+				Record(TEXT("chunk(") + Chunk + TEXT(")"));
+			});
+		Made->OnChatHistoryChanged.AddLambda(
+			[this] { Record(FString::Printf(TEXT("history(%d)"), Made->GetCurrentConversation()->Messages.Num())); });
+		Made->OnMessageAdded.AddLambda([this](TObjectPtr<UMessage> Message) { RecordMessage(Message); });
+		Made->OnChatModeChanged.AddLambda([this](const FString& Name) { Record(TEXT("mode(") + Name + TEXT(")")); });
+	}
+	return *Made;
+}
+
+void FChatClientTest::RecordMessage(TObjectPtr<UMessage> Message)
+{
+	const UStoredMessage& Stored = static_cast<const UStoredMessage&>(*Message);
+	const TCHAR* const Kind = Stored.Role == EChatRole::User     ? TEXT("user")
+							  : Stored.End == EAnswerEnd::Failed ? TEXT("interrupted")
+																 : TEXT("answer");
+	Record(FString::Printf(TEXT("%s(%s)"), Kind, *Stored.GetText()));
+}
+
+void FChatClientTest::Record(const FString& Event)
+{
+	Events.Add(Event + (Made->bIsProcessingRequest ? TEXT("*") : TEXT("")));
+}
+
+FString FChatClientTest::Ask(const FString& Text)
+{
+	Service().SendMessage(Text);
+	EXPECT_TRUE(PumpUntil(
+		[this]
+		{
+			ChunksInFrame = 0;
+			return !Service().bIsProcessingRequest;
+		}));
+	return TakeEvents();
+}
+
+FString FChatClientTest::TakeEvents()
+{
+	const FString Joined = FString::Join(Events, TEXT(" "));
+	Events.Reset();
+	return Joined;
+}
+
+FString FChatClientTest::TakeFailure()
+{
+	FString Before;
+	FString Failure;
+	TakeEvents().Split(TEXT("failed("), &Before, &Failure);
+	return Failure.LeftChop(1);
+}
+
+void FChatClientTest::Tick()
+{
+	ChunksInFrame = 0;
+	FTSTicker::GetCoreTicker().Tick(0.016f);
+}

@@ -1,0 +1,188 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "ClientFixture.h"
+
+#include "Chat/ConversationTitle.h"
+
+using FConversationTest = FChatClientTest;
+
+namespace
+{
+FScriptedServer::FHandler SendHalf()
+{
+	return [](const FExchange& Exchange)
+	{
+		Exchange.SendStreamHead();
+		Exchange.Send(MakeDelta("Half"));
+	};
+}
+} // namespace
+
+TEST_F(FConversationTest, StartsWithAnEmptyOneInTheDefaultMode)
+{
+	EXPECT_EQ(Service().GetCurrentChatModeName(), TEXT("Agent"));
+	EXPECT_EQ(Service().GetChatModeNames(), (TArray<FString>{TEXT("Agent"), TEXT("Ask"), TEXT("Review")}));
+	EXPECT_TRUE(UChatService::IsChatModeNameAnAgent(UChatService::DefaultAgentChatModeName));
+	EXPECT_TRUE(UChatService::IsChatModeNameAnAgent(TEXT("agent")));
+	EXPECT_FALSE(UChatService::IsChatModeNameAnAgent(TEXT("Ask")));
+	EXPECT_FALSE(UChatService::IsChatModeNameAnAgent(TEXT("nonsense")));
+	EXPECT_TRUE(Service().GetCurrentConversation()->Messages.IsEmpty());
+	EXPECT_FALSE(Service().GetCurrentConversation()->IsValidHistory());
+	EXPECT_TRUE(Service().GetChatHistories().IsEmpty());
+}
+
+TEST_F(FConversationTest, IsAlreadyAValidRowWhenTheListIsTold)
+{
+	FString Title;
+	Service().OnChatHistoryChanged.AddLambda(
+		[&]
+		{
+			const TObjectPtr<USerializableChatHistory> First = Service().GetChatHistories()[0];
+			Title = First->IsValidHistory() ? First->GetDisplayableTitle(false, 20) : FString(TEXT("(invalid)"));
+		});
+	Server.Then(Answer("1"));
+	Ask(TEXT("  How do I\n\tspawn an actor in C++?  "));
+	EXPECT_EQ(Title, TEXT("How do I spawn an a…"));
+}
+
+TEST_F(FConversationTest, OpensAndDeletes)
+{
+	Server.Then(Answer("1"));
+	Ask(TEXT("one"));
+	const FString One = Service().GetCurrentConversation()->Id;
+	Service().CreateNewConversation(TEXT("ask"));
+	EXPECT_EQ(TakeEvents(), TEXT("mode(Ask) history(0)"));
+	Server.Then(Answer("2"));
+	Ask(TEXT("two"));
+	const FString Two = Service().GetCurrentConversation()->Id;
+
+	Service().LoadConversation(One);
+	EXPECT_EQ(TakeEvents(), TEXT("mode(Agent) history(2)"));
+	Service().LoadConversation(One);
+	EXPECT_EQ(TakeEvents(), TEXT(""));
+
+	Service().DeleteChatHistory(Two);
+	EXPECT_EQ(TakeEvents(), TEXT("history(2)"));
+	Service().DeleteChatHistory(One);
+	EXPECT_EQ(TakeEvents(), TEXT("history(0)"));
+	EXPECT_TRUE(Service().GetChatHistories().IsEmpty());
+}
+
+TEST_F(FConversationTest, IgnoresWhatItDoesNotKnow)
+{
+	Service().LoadConversation(TEXT("nowhere"));
+	Service().DeleteChatHistory(TEXT("nowhere"));
+	Service().SetCurrentChatMode(TEXT("nonsense"));
+	EXPECT_EQ(TakeEvents(), TEXT(""));
+	Service().CreateNewConversation(TEXT("nonsense"));
+	EXPECT_EQ(Service().GetCurrentChatModeName(), TEXT("Agent"));
+	EXPECT_EQ(Log.CountAtLevel(TEXT("LogVorel"), ELogVerbosity::Warning), 4) << Log.Dump();
+}
+
+TEST_F(FConversationTest, DeletingTheOneWithTheAnswerKeepsWhatArrivedUntilItIsGone)
+{
+	Server.Then(SendHalf());
+	Service().SendMessage(TEXT("Hi"));
+	ASSERT_TRUE(WaitForFrameRequest());
+	Tick();
+	TakeEvents();
+	Service().DeleteChatHistory(Service().GetCurrentConversation()->Id);
+	EXPECT_EQ(TakeEvents(), TEXT("interrupted(Half) failed(The answer was stopped because its conversation was deleted.) history(0)"));
+
+	Server.Then(Answer("Fine"));
+	EXPECT_EQ(Ask(TEXT("Next")), TEXT("history(0)* user(Next)* chunk(Fine)* answer(Fine) completed"));
+}
+
+TEST_F(FConversationTest, DeletingAnotherOneIsToldAfterTheAnswer)
+{
+	Server.Then(Answer("1"));
+	Ask(TEXT("one"));
+	const FString One = Service().GetCurrentConversation()->Id;
+	Service().CreateNewConversation(TEXT("Agent"));
+	Server.Then(Answer("2"));
+	TakeEvents();
+	Service().SendMessage(TEXT("two"));
+	Service().DeleteChatHistory(One);
+	EXPECT_EQ(Service().GetChatHistories().Num(), 1);
+	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
+	EXPECT_EQ(TakeEvents(), TEXT("history(0)* user(two)* chunk(2)* answer(2) completed history(2)"));
+}
+
+TEST_F(FConversationTest, LeavingAnAnswerNeverMixesTwoConversations)
+{
+	Server.Then(SendHalf());
+	Service().SendMessage(TEXT("Hi"));
+	const TObjectPtr<USerializableChatHistory> Left = Service().GetCurrentConversation();
+	// Arrived, and not yet handed over.
+	ASSERT_TRUE(WaitForFrameRequest());
+	TakeEvents();
+	Service().CreateNewConversation(TEXT("Agent"));
+	EXPECT_EQ(TakeEvents(), TEXT("interrupted(Half) failed(The answer was stopped because another conversation was opened.) history(0)"));
+	Server.GetExchanges()[0].Send(MakeDelta("more") + EndMark);
+	Server.Then(Answer("Fine"));
+	EXPECT_EQ(Ask(TEXT("Next")), TEXT("history(0)* user(Next)* chunk(Fine)* answer(Fine) completed"));
+	EXPECT_EQ(Left->Messages.Num(), 2);
+}
+
+TEST_F(FConversationTest, AListenerMayCancelTheRequestThatIsBeingTold)
+{
+	Server.Then(Answer("never"));
+	bool bDeleted = false;
+	Service().OnMessageAdded.AddLambda(
+		[&](TObjectPtr<UMessage>)
+		{
+			if (!bDeleted)
+			{
+				bDeleted = true;
+				Service().DeleteChatHistory(Service().GetCurrentConversation()->Id);
+			}
+		});
+	Service().SendMessage(TEXT("Hi"));
+	EXPECT_FALSE(Service().bIsProcessingRequest);
+	EXPECT_TRUE(Server.GetExchanges().isEmpty());
+	EXPECT_TRUE(Service().GetCurrentConversation()->Messages.IsEmpty());
+}
+
+TEST_F(FConversationTest, SurvivesTheCollectorDuringAnAnswer)
+{
+	Server.Then(SendHalf());
+	Service().SendMessage(TEXT("Hi"));
+	ASSERT_TRUE(WaitForFrameRequest());
+	CollectGarbage();
+	Tick();
+	Server.GetExchanges()[0].Send(EndMark);
+	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
+	CollectGarbage();
+	EXPECT_EQ(static_cast<UStoredMessage&>(*Service().GetCurrentConversation()->Messages.Last()).GetText(), TEXT("Half"));
+}
+
+TEST(FConversationTitleTest, IsOneLineOfTheFirstMessage)
+{
+	EXPECT_EQ(MakeConversationTitle(TEXT("  a \t\r\n b\x00A0\x2003 c \n")), TEXT("a b c"));
+	EXPECT_EQ(MakeConversationTitle(TEXT(" \n ")), TEXT(""));
+	EXPECT_LE(MakeConversationTitle(FString::ChrN(100000, 'x')).Len(), 400);
+}
+
+TEST(FConversationTitleTest, IsCutBetweenCharactersWithItsEllipsisInTheLimit)
+{
+	EXPECT_EQ(ShortenTitle(TEXT("12345678901234567890"), 20), TEXT("12345678901234567890"));
+	EXPECT_EQ(ShortenTitle(TEXT("123456789012345678901"), 20), TEXT("1234567890123456789…"));
+	EXPECT_EQ(ShortenTitle(TEXT("one two three"), 5), TEXT("one…"));
+	// A family, a flag and a letter with two marks are one character each.
+	EXPECT_EQ(ShortenTitle(TEXT("👨‍👩‍👧🇫🇷é̂x"), 4), TEXT("👨‍👩‍👧🇫🇷é̂x"));
+	EXPECT_EQ(ShortenTitle(TEXT("👨‍👩‍👧🇫🇷é̂x"), 3), TEXT("👨‍👩‍👧🇫🇷…"));
+	EXPECT_EQ(ShortenTitle(TEXT("abc"), 1), TEXT("…"));
+	EXPECT_EQ(ShortenTitle(TEXT("abc"), 0), TEXT(""));
+	EXPECT_EQ(ShortenTitle(TEXT(""), 20), TEXT(""));
+}
+
+TEST_F(FConversationTest, ShowsTheTimeBeforeTheTitle)
+{
+	Server.Then(Answer("1"));
+	Ask(TEXT("   "));
+	const FString Shown = Service().GetChatHistories()[0]->GetDisplayableTitle(true, 20);
+	EXPECT_TRUE(Shown.EndsWith(TEXT(" Untitled"))) << Shown;
+	EXPECT_EQ(Shown.Left(5)[2], ':') << Shown;
+	constexpr int64 Day = 24 * 60 * 60 * 1000;
+	EXPECT_EQ(FormatTimeOfUse(200 * Day, 300 * Day).Right(3), TEXT("Jul"));
+}

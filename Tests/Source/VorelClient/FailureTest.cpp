@@ -1,0 +1,259 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "ClientFixture.h"
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace
+{
+struct FFailureRow
+{
+	const char* Name;
+	FScriptedServer::FHandler Handler;
+	// What arrived before, which must be kept.
+	const TCHAR* Partial;
+	const TCHAR* Sentence;
+};
+
+FScriptedServer::FHandler Reply(const QByteArray& Status, const QByteArray& Content = "{}", const QByteArray& Headers = {})
+{
+	return [=](const FExchange& Exchange)
+	{
+		Exchange.SendReply(Status, "application/json", Content, Headers);
+	};
+}
+
+FScriptedServer::FHandler Stream(const QByteArray& Bytes)
+{
+	return [Bytes](const FExchange& Exchange)
+	{
+		Exchange.SendStreamHead();
+		Exchange.Send(Bytes);
+		Exchange.Close();
+	};
+}
+
+FScriptedServer::FHandler Raw(const QByteArray& Bytes)
+{
+	return [Bytes](const FExchange& Exchange)
+	{
+		Exchange.Send(Bytes);
+		Exchange.Close();
+	};
+}
+
+constexpr const TCHAR* BrokenOff = TEXT("The connection to the assistant broke off before the answer was complete.");
+constexpr const TCHAR* NotAnAnswer = TEXT("What the server sent is not an assistant's answer. Check the assistant's address.");
+
+const std::vector<FFailureRow>& GetRows()
+{
+	static const std::vector<FFailureRow> Rows = {
+		{"hangs up without a reply", [](const FExchange& Exchange) { Exchange.Close(); }, TEXT(""), BrokenOff},
+		{"resets without a reply", [](const FExchange& Exchange) { Exchange.Reset(); }, TEXT(""), BrokenOff},
+		{"hangs up after the head", Stream(""), TEXT(""), BrokenOff},
+		{"hangs up in the middle", Stream(MakeDelta("Half")), TEXT("Half"), BrokenOff},
+		{"hangs up in a chunk", Raw("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n100\r\n" + MakeDelta("Half")), TEXT("Half"),
+			BrokenOff},
+		{"ends a chunked body too early",
+			Raw("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" + QByteArray::number(MakeDelta("Half").size(), 16) + "\r\n" +
+				MakeDelta("Half") + "\r\n0\r\n\r\n"),
+			TEXT("Half"), BrokenOff},
+		{"sends no HTTP", Raw("hello, who is there?\r\n\r\n"), TEXT(""), BrokenOff},
+		{"sends a web page",
+			[](const FExchange& Exchange) { Exchange.SendReply("200 OK", "text/html", "<html><title>Portal</title></html>"); }, TEXT(""),
+			TEXT("A web page came in place of the assistant's answer. Check the assistant's address. It says: Portal")},
+		{"sends a bare error", Reply("200 OK", "{\"error\":{\"message\":\"no memory\"}}"), TEXT(""),
+			TEXT("The assistant reported an error. It says: no memory")},
+		{"sends an error in the stream", Stream(MakeDelta("Half") + "data: {\"error\":\"overload\"}\n\n"), TEXT("Half"),
+			TEXT("The assistant reported an error. It says: overload")},
+		{"sends rubbish in the stream", Stream(MakeDelta("Half") + "data: what?\n\n"), TEXT("Half"), NotAnAnswer},
+		{"ends without a word", Stream(StopChunk), TEXT(""), TEXT("The assistant ended its answer without a word. Try again.")},
+		{"400", Reply("400 Bad", "{\"error\":{\"message\":\"context too long\"}}"), TEXT(""),
+			TEXT("The assistant rejected the request. The conversation may be too long for it; a new chat can help. (Error 400.) It says: "
+				 "context "
+				 "too long")},
+		{"401", Reply("401 No", "{}", "WWW-Authenticate: Basic\r\n"), TEXT(""),
+			TEXT("The assistant did not accept the key. Set the environment variable VOREL_ASSISTANT_KEY to a valid one. (Error 401.)")},
+		{"402", Reply("402 Pay"), TEXT(""), TEXT("The account at this assistant has no credits left. (Error 402.)")},
+		{"403", Reply("403 No"), TEXT(""), TEXT("The assistant does not allow this key to use it. (Error 403.)")},
+		{"404", Reply("404 Not Found", "<html>"), TEXT(""),
+			TEXT("The assistant was not found at its address, or it does not have the model. Check both. (Error 404.)")},
+		{"429", Reply("429 Slow", "{\"error\":\"limit\"}", "Retry-After: 7\r\n"), TEXT(""),
+			TEXT("The assistant gets too many requests at the moment. Wait a little and send the message again. (Error 429.) It asks to "
+				 "wait 7 "
+				 "seconds. It says: limit")},
+		{"500", Reply("500 Oops"), TEXT(""), TEXT("The assistant's server has a problem. Try again later. (Error 500.)")},
+		{"503", Reply("503 Oops", "not json"), TEXT(""), TEXT("The assistant's server has a problem. Try again later. (Error 503.)")},
+		{"303", Reply("303 Other", "{}", "Location: /elsewhere\r\n"), TEXT(""),
+			TEXT("The assistant's server refused the request. (Error 303.)")},
+	};
+	return Rows;
+}
+} // namespace
+
+using FFailureTest = FChatClientTest;
+
+TEST_F(FFailureTest, EveryFailureHasItsWordsKeepsWhatArrivedAndLetsTheNextMessageWork)
+{
+	for (const FFailureRow& Row : GetRows())
+	{
+		SCOPED_TRACE(Row.Name);
+		Service().CreateNewConversation(TEXT("Agent"));
+		TakeEvents();
+		const qsizetype Before = Server.GetExchanges().size();
+		Server.Then(Row.Handler);
+		const FString Events = Ask(TEXT("Hi"));
+		const FString Partial = Row.Partial;
+		const FString Kept = Partial.IsEmpty() ? FString() : FString::Printf(TEXT("chunk(%s)* interrupted(%s) "), *Partial, *Partial);
+		const FString Start = TEXT("history(0)* user(Hi)* ") + Kept + TEXT("failed(");
+		EXPECT_EQ(Events, Start + Row.Sentence + TEXT(")"));
+		// A question is never asked twice.
+		EXPECT_EQ(Server.GetExchanges().size(), Before + 1);
+
+		Server.Then(Answer("Fine"));
+		EXPECT_EQ(Ask(TEXT("Again")), TEXT("user(Again)* chunk(Fine)* answer(Fine) completed"));
+	}
+}
+
+TEST_F(FFailureTest, AServerThatIsNotThere)
+{
+	Server.Then(Answer("Hello"));
+	Ask(TEXT("Hi"));
+	const FString Host(Server.GetAddress().mid(7).constData());
+	Server.StopListening();
+	EXPECT_EQ(Ask(TEXT("Hi")), FString::Printf(TEXT("user(Hi)* failed(No assistant answers at %s. Is it running?)"), *Host));
+}
+
+TEST_F(FFailureTest, AServerThatNeverBeginsToAnswer)
+{
+	Limits.FirstByte = 0.05;
+	Server.Then([](const FExchange& Exchange) { Exchange.SendStreamHead(); });
+	Service().SendMessage(TEXT("Hi"));
+	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
+	EXPECT_EQ(TakeFailure(), TEXT("The assistant did not begin to answer within 0.05 seconds."));
+	Server.Then(Answer("Fine"));
+	EXPECT_EQ(Ask(TEXT("Again")), TEXT("user(Again)* chunk(Fine)* answer(Fine) completed"));
+}
+
+TEST_F(FFailureTest, AServerThatFallsSilent)
+{
+	Limits.BetweenBytes = 0.05;
+	Server.Then(
+		[](const FExchange& Exchange)
+		{
+			Exchange.SendStreamHead();
+			Exchange.Send(MakeDelta("Half"));
+		});
+	EXPECT_EQ(Ask(TEXT("Hi")),
+		TEXT("history(0)* user(Hi)* chunk(Half)* interrupted(Half) failed(The assistant fell silent for 0.05 seconds in the "
+			 "middle of its answer.)"));
+}
+
+TEST_F(FFailureTest, AServerThatAcceptsNoConnection)
+{
+	// A listener whose backlog is full lets a further caller wait.
+	const int Listener = ::socket(AF_INET, SOCK_STREAM, 0);
+	sockaddr_in Address{};
+	Address.sin_family = AF_INET;
+	Address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+	socklen_t Length = sizeof(Address);
+	::bind(Listener, reinterpret_cast<sockaddr*>(&Address), Length);
+	::listen(Listener, 0);
+	::getsockname(Listener, reinterpret_cast<sockaddr*>(&Address), &Length);
+	const int Caller = ::socket(AF_INET, SOCK_STREAM, 0);
+	ASSERT_EQ(::connect(Caller, reinterpret_cast<sockaddr*>(&Address), Length), 0);
+
+	Limits.Connect = 0.1;
+	Endpoint.BaseUrl = FString::Printf(TEXT("http://127.0.0.1:%d/v1"), static_cast<int32>(ntohs(Address.sin_port)));
+	Service().SendMessage(TEXT("Hi"));
+	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
+	EXPECT_EQ(TakeFailure(),
+		FString::Printf(TEXT("127.0.0.1:%d did not accept a connection within 0.1 seconds."), static_cast<int32>(ntohs(Address.sin_port))));
+	::close(Caller);
+	::close(Listener);
+}
+
+TEST_F(FFailureTest, AServerWithoutASecureConnection)
+{
+	Server.bRaw = true;
+	Server.Then(Raw("HTTP/1.1 400 Bad Request\r\n\r\n"));
+	Endpoint.BaseUrl = Endpoint.BaseUrl.Replace(TEXT("http:"), TEXT("https:"));
+	Service().SendMessage(TEXT("Hi"));
+	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
+	EXPECT_TRUE(TakeFailure().StartsWith(TEXT("No secure connection to 127.0.0.1:")));
+}
+
+TEST_F(FFailureTest, AServerThatNamesNoModel)
+{
+	Endpoint.Model.Reset();
+	const std::pair<FScriptedServer::FHandler, const TCHAR*> Rows[] = {
+		{Reply("200 OK", "{\"data\":[]}"), TEXT("The assistant's server names no model. Choose one with --model.")},
+		{Reply("200 OK", "what?"), TEXT("The assistant's server names no model. Choose one with --model.")},
+		{Reply("404 No"), TEXT("The assistant was not found at its address, or it does not have the model. Check both. (Error 404.)")},
+	};
+	for (const auto& [Handler, Sentence] : Rows)
+	{
+		Server.Then(Handler);
+		Service().SendMessage(TEXT("Hi"));
+		ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
+		EXPECT_EQ(TakeFailure(), Sentence);
+	}
+}
+
+TEST_F(FFailureTest, AnAddressThatIsNone)
+{
+	for (const TCHAR* Address : {TEXT("localhost:8080"), TEXT("ftp://127.0.0.1/"), TEXT("what is this"), TEXT("http://")})
+	{
+		FAssistantEndpoint Bad;
+		Bad.BaseUrl = Address;
+		Bad.Model = TEXT("m");
+		UHttpChatService* const Other = NewObject<UHttpChatService>();
+		Other->AddToRoot();
+		Other->Initialize(Bad, Limits);
+		FString Failure;
+		Other->OnRequestFailed.AddLambda([&Failure](const FString& Error) { Failure = Error; });
+		Other->SendMessage(TEXT("Hi"));
+		EXPECT_TRUE(Failure.IsEmpty());
+		Tick();
+		EXPECT_EQ(Failure,
+			FString::Printf(TEXT("The assistant's address \"%s\" is not a web address. It must begin with http:// or https://."), Address));
+		Other->RemoveFromRoot();
+	}
+}
+
+TEST_F(FFailureTest, RedirectsStayWithinTheOrigin)
+{
+	Endpoint.ApiKey = TEXT("secret");
+	FScriptedServer Elsewhere;
+	Elsewhere.Then(Answer("Stolen"));
+	Server.Then(Reply("307 Moved", "{}", "Location: " + Elsewhere.GetAddress() + "/v1/chat/completions\r\n"));
+	Service().SendMessage(TEXT("Hi"));
+	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
+	EXPECT_EQ(TakeFailure(),
+		FString::Printf(
+			TEXT("The assistant's address leads on to another server, %s, which was not contacted. If you trust it, give its address "
+				 "instead."),
+			*FString(Elsewhere.GetAddress().constData())));
+	EXPECT_TRUE(Elsewhere.GetExchanges().isEmpty());
+
+	Server.Then(Reply("308 Moved", "{}", "Location: /v2/chat/completions\r\n"));
+	Server.Then(Answer("Fine"));
+	EXPECT_EQ(Ask(TEXT("Again")), TEXT("user(Again)* chunk(Fine)* answer(Fine) completed"));
+	EXPECT_EQ(Server.GetExchanges().last().Path, "/v2/chat/completions");
+	EXPECT_EQ(Server.GetExchanges().last().Headers["authorization"], "Bearer secret");
+	EXPECT_EQ(Server.GetExchanges().last().Body, Server.GetExchanges()[1].Body);
+}
+
+TEST_F(FFailureTest, RedirectsDoNotGoRoundForEver)
+{
+	for (int32 Round = 0; Round < 20; ++Round)
+	{
+		Server.Then(Reply("307 Moved", "{}", "Location: /v1/chat/completions\r\n"));
+	}
+	Service().SendMessage(TEXT("Hi"));
+	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
+	EXPECT_EQ(TakeFailure(), TEXT("The assistant's address leads round in a circle."));
+	EXPECT_LT(Server.GetExchanges().size(), 10);
+}

@@ -1,0 +1,102 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "ClientFixture.h"
+
+#include "AuthenticationService.h"
+#include "Modules/ModuleManager.h"
+#include "UserDataService.h"
+#include "VorelClient.h"
+#include "VorelClientOptions.h"
+#include "VorelSettings.h"
+#include "VorelUpdateService.h"
+
+// The whole module with the embedded service, as the program without options starts it.
+class FLocalAssistantTest : public testing::Test
+{
+protected:
+	FLocalAssistantTest()
+	{
+		FVorelClientOptions::Set({.GuidePieceMilliseconds = 0});
+		FModuleManager::Get().LoadModuleChecked(TEXT("VorelClient"));
+	}
+
+	~FLocalAssistantTest() override
+	{
+		FModuleManager::Get().UnloadModule(TEXT("VorelClient"));
+		FVorelClientOptions::Set({});
+		CollectGarbage();
+	}
+};
+
+TEST_F(FLocalAssistantTest, AnswersFromTheGuideWithoutConfiguration)
+{
+	const TObjectPtr<UChatService> Chat = FVorelClient::Get().GetChatService();
+	FString Streamed;
+	FString Failure;
+	bool bCompleted = false;
+	Chat->OnChunkReceived.AddLambda([&](const FString& Chunk) { Streamed += Chunk; });
+	Chat->OnRequestFailed.AddLambda([&](const FString& Error) { Failure = Error; });
+	Chat->OnRequestCompleted.AddLambda([&] { bCompleted = true; });
+	Chat->SendMessage(TEXT("How do I set a timer?"));
+	ASSERT_TRUE(PumpUntil([&] { return !Chat->bIsProcessingRequest; }));
+	EXPECT_TRUE(bCompleted) << Failure;
+	EXPECT_TRUE(Streamed.Contains(TEXT("From its article **Timers**"))) << Streamed.Left(200);
+	EXPECT_EQ(Chat->GetCurrentConversation()->Messages.Last()->Contents[0]->Text, Streamed);
+}
+
+TEST_F(FLocalAssistantTest, TellsTheWebPagesAddress)
+{
+	EXPECT_TRUE(UVorelSettings::Get()->GetAppUrl().StartsWith(TEXT("http://127.0.0.1:")));
+}
+
+TEST_F(FLocalAssistantTest, CountsAsSignedIn)
+{
+	const TObjectPtr<UAuthenticationService> Auth = FVorelClient::Get().GetAuthService();
+	int32 Changes = 0;
+	Auth->OnAuthenticationStateChanged.AddLambda([&] { ++Changes; });
+	EXPECT_TRUE(Auth->IsAuthenticated());
+	Auth->Logout();
+	Auth->Logout();
+	EXPECT_FALSE(Auth->IsAuthenticated());
+	EXPECT_EQ(Changes, 1);
+	Auth->StartLogin();
+	EXPECT_TRUE(Auth->IsAuthenticated());
+	EXPECT_EQ(Changes, 2);
+}
+
+TEST_F(FLocalAssistantTest, KnowsTheLocalUserInTheNextFrame)
+{
+	const TObjectPtr<UUserDataService> Users = FVorelClient::Get().GetUserDataService();
+	FString Told;
+	Users->OnUserDataChanged.AddLambda([&](const FVorelUserData& Data, bool bSuccess)
+		{ Told += FString::Printf(TEXT("%s %d %d;"), *Data.UserName, Data.Credits, bSuccess ? 1 : 0); });
+	Users->GetUserData();
+	Users->GetUserData();
+	EXPECT_EQ(Told, TEXT(""));
+	EXPECT_TRUE(Users->UserData.UserName.IsEmpty());
+	FTSTicker::GetCoreTicker().Tick(0.0f);
+	FTSTicker::GetCoreTicker().Tick(0.0f);
+	EXPECT_EQ(Told, TEXT("Local user 100 1;"));
+}
+
+TEST_F(FLocalAssistantTest, TellsOfNoUpdateWhileTheInstalledVersionIsCurrent)
+{
+	const TObjectPtr<UVorelUpdateService> Updates = FVorelClient::Get().GetUpdateService();
+	bool bTold = false;
+	Updates->OnLatestVersionReceived.AddLambda([&](const FString&) { bTold = true; });
+	Updates->CheckForUpdates();
+	FTSTicker::GetCoreTicker().Tick(0.0f);
+	EXPECT_FALSE(bTold);
+}
+
+TEST_F(FLocalAssistantTest, KeepsItsServicesUntilItIsUnloaded)
+{
+	const TObjectPtr<UChatService> Chat = FVorelClient::Get().GetChatService();
+	CollectGarbage();
+	EXPECT_TRUE(IsValid(Chat));
+	Chat->SendMessage(TEXT("How do I set a timer?"));
+	FModuleManager::Get().UnloadModule(TEXT("VorelClient"));
+	CollectGarbage();
+	EXPECT_FALSE(IsValid(Chat));
+	FTSTicker::GetCoreTicker().Tick(0.0f);
+}
