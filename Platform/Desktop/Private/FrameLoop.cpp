@@ -76,6 +76,7 @@ FFrameLoop::FFrameLoop()
 
 FFrameLoop::~FFrameLoop()
 {
+	QCoreApplication::instance()->removeEventFilter(this);
 	FTSTicker::GetCoreTicker().OnTickerAdded.Remove(TickerAddedHandle);
 	if (TimerManager)
 	{

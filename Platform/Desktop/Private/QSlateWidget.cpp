@@ -11,9 +11,12 @@
 #include <QInputMethod>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRegion>
 
 // Mouse wheels report eighths of a degree, of which one notch has this many.
 static constexpr float NotchInEighthsOfDegree = 120.0f;
+
+static constexpr int MostPartsPerFrame = 8;
 
 static FVector2D ToVector(const QPointF& Point)
 {
@@ -65,17 +68,22 @@ void QSlateWidget::ShowFrame()
 	{
 		return;
 	}
-	TArray<FSlateRect> Damage = Window->TakeDamage();
-	if (bRepaintAll)
+	// Parts that overlap are painted once; many small ones together.
+	QRegion Damage;
+	for (const FSlateRect& Rect : Window->TakeDamage())
 	{
-		Damage = {FSlateRect(0.0f, 0.0f, Picture.width(), Picture.height())};
+		Damage += QRectF(QPointF(Rect.Left, Rect.Top), QPointF(Rect.Right, Rect.Bottom)).toAlignedRect() & Picture.rect();
+	}
+	if (bRepaintAll || Damage.rectCount() > MostPartsPerFrame)
+	{
+		Damage = bRepaintAll ? Picture.rect() : Damage.boundingRect();
 		bRepaintAll = false;
 	}
-	for (const FSlateRect& Rect : Damage)
+	for (const QRect& Part : Damage)
 	{
-		Painter.Paint(Picture, *Window->GetDisplayList(), Rect);
+		Painter.Paint(Picture, *Window->GetDisplayList(), FSlateRect(Part.left(), Part.top(), Part.right() + 1.0f, Part.bottom() + 1.0f));
 		const double Scale = Picture.devicePixelRatio();
-		update(QRectF(QPointF(Rect.Left, Rect.Top) / Scale, QPointF(Rect.Right, Rect.Bottom) / Scale).toAlignedRect());
+		update(QRectF(QPointF(Part.topLeft()) / Scale, QSizeF(Part.size()) / Scale).toAlignedRect());
 		Desktop.GetFrameLoop().NotePainted();
 	}
 }

@@ -77,8 +77,8 @@ private:
 	void ScheduleTimers();
 
 	QElapsedTimer Clock;
-	QTimer FrameTimer;
-	QTimer DeadlineTimer;
+	QTimer FrameTimer{this};
+	QTimer DeadlineTimer{this};
 	TArray<FCountdown> Countdowns;
 	FDelegateHandle TickerAddedHandle;
 	TSharedPtr<FTimerManager> TimerManager;

@@ -74,12 +74,12 @@ FKey InputTranslation::ToKey(const QKeyEvent& Event)
 
 FString InputTranslation::ToText(const QKeyEvent& Event)
 {
-	const bool bWrites =
-		std::all_of(Event.text().begin(), Event.text().end(), [](QChar Unit) { return Unit.isPrint() || Unit.isSurrogate(); });
+	const QString Text = Event.text();
+	const bool bWrites = std::all_of(Text.begin(), Text.end(), [](QChar Unit) { return Unit.isPrint() || Unit.isSurrogate(); });
 	// With both, Control and Alt are the third level of many keyboards.
 	const bool bControl = Event.modifiers().testFlag(Qt::ControlModifier);
 	const bool bAlt = Event.modifiers().testFlag(Qt::AltModifier);
-	return bWrites && bControl == bAlt ? ToFString(Event.text()) : FString();
+	return bWrites && bControl == bAlt ? ToFString(Text) : FString();
 }
 
 FTextCompositionEvent InputTranslation::ToComposition(const QInputMethodEvent& Event)

@@ -1,0 +1,37 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "DesktopApplication.h"
+#include "HAL/PlatformApplicationMisc.h"
+#include "HAL/PlatformProcess.h"
+#include "Support/LogCapture.h"
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+
+TEST(Desktop, OnlyWebAndMailAddressesAreOpened)
+{
+	FDesktopApplication& Desktop = FDesktopApplication::Get();
+	const int32 Before = Desktop.GetOpenedAddresses().Num();
+	for (const TCHAR* Address : {TEXT("file:///etc/passwd"), TEXT("javascript:alert(1)"), TEXT("data:text/html,x"), TEXT("//host/path"),
+			 TEXT("http:///nohost"), TEXT("calc.exe"), TEXT(""), TEXT("https://exa mple.com"), TEXT("ms-settings:")})
+	{
+		FString Error;
+		EXPECT_FALSE(Desktop.OpenAddress(Address, Error)) << FString(Address);
+		EXPECT_FALSE(Error.IsEmpty());
+	}
+	EXPECT_EQ(Desktop.GetOpenedAddresses().Num(), Before);
+
+	FPlatformProcess::LaunchURL(TEXT("https://example.com/tos?a=b#c"), nullptr, nullptr);
+	Desktop.LaunchURL(TEXT("mailto:someone@example.com"));
+	ASSERT_EQ(Desktop.GetOpenedAddresses().Num(), Before + 2);
+	EXPECT_EQ(Desktop.GetOpenedAddresses()[Before], FString(TEXT("https://example.com/tos?a=b#c")));
+}
+
+TEST(Desktop, TheClipboardKeepsTextExactly)
+{
+	const FString Code(TEXT("int a;\n\tb -> \u00fc \U0001F600\n"));
+	FPlatformApplicationMisc::ClipboardCopy(*Code);
+	EXPECT_TRUE(FDesktopApplication::Get().GetClipboardText().Equals(Code));
+	FDesktopApplication::Get().SetClipboardText(FString());
+	EXPECT_TRUE(FDesktopApplication::Get().GetClipboardText().IsEmpty());
+}
