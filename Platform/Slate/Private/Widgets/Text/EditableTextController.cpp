@@ -16,7 +16,7 @@ FEditableTextController::FEditableTextController(SWidget& InOwner, const TShared
 void FEditableTextController::SetText(const FString& NewText)
 {
 	Text.SetText(NewText, IsReadOnly());
-	bBringCaretIntoView = !IsReadOnly();
+	bBringCaretIntoView = !IsReadOnly() && Owner.HasKeyboardFocus();
 }
 
 bool FEditableTextController::Copy()

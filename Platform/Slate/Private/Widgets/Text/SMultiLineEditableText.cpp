@@ -228,6 +228,10 @@ FReply SMultiLineEditableText::OnFocusReceived(const FGeometry& MyGeometry, cons
 
 void SMultiLineEditableText::OnFocusLost(const FFocusEvent& InFocusEvent)
 {
+	if (InputArea.IsSet())
+	{
+		FSlateApplication::Get().SetTextInputArea(false, FSlateRect());
+	}
 	Controller->OnFocusLost();
 }
 

@@ -26,26 +26,41 @@ FTextLocation Forward(const FTextLayout& Layout, const FTextLocation& From, int3
 	return From.GetLineIndex() + 1 < Layout.GetLineCount() ? FTextLocation(From.GetLineIndex() + 1, 0) : From;
 }
 
-/** Behind the first line up lies the beginning of the text. */
-FTextCaret Up(const FTextLayout& Layout, const FTextCaret& Caret, float Column, float Distance)
+/** Where a point in that height is on no line above the caret's, the text begins. */
+FTextCaret Up(const FTextLayout& Layout, const FTextCaret& Caret, float Column, float Y)
 {
-	const float Top = Layout.GetCaretRect(Caret).Top;
-	const FTextCaret Target = Layout.GetCaretAt(FVector2D(Column, Top - Distance));
-	return Layout.GetCaretRect(Target).Top < Top ? Target : FTextCaret();
+	const FTextCaret Target = Layout.GetCaretAt(FVector2D(Column, Y));
+	return Layout.GetCaretRect(Target).Top < Layout.GetCaretRect(Caret).Top ? Target : FTextCaret();
 }
 
-FTextCaret Down(const FTextLayout& Layout, const FTextCaret& Caret, float Column, float Distance)
+FTextCaret Down(const FTextLayout& Layout, const FTextCaret& Caret, float Column, float Y)
 {
+	const FTextCaret Target = Layout.GetCaretAt(FVector2D(Column, Y));
+	return Layout.GetCaretRect(Target).Top > Layout.GetCaretRect(Caret).Top ? Target : FTextCaret{Layout.GetEnd()};
+}
+
+FTextCaret MoveVertically(const FTextLayout& Layout, const FTextCaret& Caret, ETextMove Move, float Column, float PageHeight)
+{
+	// Any height within the neighbouring line will do; a page is counted from the middle of the line.
+	constexpr float IntoLine = 0.5f;
 	const FSlateRect Rect = Layout.GetCaretRect(Caret);
-	const FTextCaret Target = Layout.GetCaretAt(FVector2D(Column, Rect.Bottom + Distance));
-	return Layout.GetCaretRect(Target).Top > Rect.Top ? Target : FTextCaret{Layout.GetEnd()};
+	const float Middle = (Rect.Top + Rect.Bottom) / 2.0f;
+	switch (Move)
+	{
+	case ETextMove::LineUp:
+		return Up(Layout, Caret, Column, Rect.Top - IntoLine);
+	case ETextMove::LineDown:
+		return Down(Layout, Caret, Column, Rect.Bottom + IntoLine);
+	case ETextMove::PageUp:
+		return Up(Layout, Caret, Column, FMath::Min(Middle - PageHeight, Rect.Top - IntoLine));
+	default:
+		return Down(Layout, Caret, Column, FMath::Max(Middle + PageHeight, Rect.Bottom + IntoLine));
+	}
 }
 } // namespace
 
 FTextCaret MoveCaret(const FTextLayout& Layout, const FTextCaret& Caret, ETextMove Move, float Column, float PageHeight)
 {
-	// Into the neighbouring line, wherever in it.
-	constexpr float OneLine = 0.5f;
 	switch (Move)
 	{
 	case ETextMove::PreviousCharacter:
@@ -64,14 +79,7 @@ FTextCaret MoveCaret(const FTextLayout& Layout, const FTextCaret& Caret, ETextMo
 		return {};
 	case ETextMove::TextEnd:
 		return {Layout.GetEnd()};
-	case ETextMove::LineUp:
-		return Up(Layout, Caret, Column, OneLine);
-	case ETextMove::LineDown:
-		return Down(Layout, Caret, Column, OneLine);
-	case ETextMove::PageUp:
-		return Up(Layout, Caret, Column, FMath::Max(PageHeight, OneLine));
-	case ETextMove::PageDown:
-		return Down(Layout, Caret, Column, FMath::Max(PageHeight, OneLine));
+	default:
+		return MoveVertically(Layout, Caret, Move, Column, PageHeight);
 	}
-	return Caret;
 }

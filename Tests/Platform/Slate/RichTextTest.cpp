@@ -1,0 +1,256 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+#include "TextDriver.h"
+
+#include "Framework/Text/ITextDecorator.h"
+#include "Framework/Text/RichTextLayoutMarshaller.h"
+#include "Framework/Text/SlateTextLayout.h"
+#include "Framework/Text/SlateTextRun.h"
+#include "Framework/Text/SlateWidgetRun.h"
+#include "Rendering/SlateRenderer.h"
+#include "Styling/SlateStyle.h"
+#include "Widgets/Input/SButton.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/Layout/SScrollBox.h"
+
+namespace
+{
+/** Makes widgets of `<widget/>` runs; remembers what it was handed. */
+class FWidgetDecorator final : public ITextDecorator
+{
+public:
+	explicit FWidgetDecorator(TFunction<TSharedRef<SWidget>(const FString&)> InMake)
+		: Make(MoveTemp(InMake))
+	{
+	}
+
+	virtual bool Supports(const FTextRunParseResults& Run, const FString&) const override { return Run.Name == TEXT("widget"); }
+
+	virtual TSharedRef<ISlateRun> Create(const TSharedRef<FTextLayout>& Layout, const FTextRunParseResults& Run, const FString& Markup,
+		const TSharedRef<FString>& ModelText, const ISlateStyle*) override
+	{
+		FRunInfo Info(Run.Name);
+		for (const auto& Entry : Run.MetaData)
+		{
+			Info.MetaData.Add(Entry.Key, Markup.Mid(Entry.Value.BeginIndex, Entry.Value.Len()));
+		}
+		const FTextRange Range(ModelText->Len(), ModelText->Len() + 1);
+		ModelText->AppendChar(0x200B);
+		const FString Content = Markup.Mid(Run.ContentRange.BeginIndex, Run.ContentRange.Len());
+		Contents.Add(Content);
+		return FSlateWidgetRun::Create(Layout, Info, ModelText, FSlateWidgetRun::FWidgetRunInfo(Make(Content), int16(0)), Range);
+	}
+
+	TFunction<TSharedRef<SWidget>(const FString&)> Make;
+	TArray<FString> Contents;
+};
+
+/** A text run that counts how often it is measured. */
+class FCountingRun final : public FSlateTextRun
+{
+public:
+	FCountingRun(const TSharedRef<FString>& InText, const FTextBlockStyle& InStyle, const FTextRange& InRange, int32& InCount)
+		: FSlateTextRun(FRunInfo(TEXT("Counting")), InText, InStyle, InRange)
+		, Count(InCount)
+	{
+	}
+
+	virtual FVector2D Measure(int32 StartIndex, int32 EndIndex, float Scale, const FRunTextContext& TextContext) const override
+	{
+		++Count;
+		return FSlateTextRun::Measure(StartIndex, EndIndex, Scale, TextContext);
+	}
+
+	virtual bool IsSameAs(const IRun& Other) const override { return Other.GetTextRange() == Range; }
+
+private:
+	int32& Count;
+};
+
+class FCountingDecorator final : public ITextDecorator
+{
+public:
+	FCountingDecorator(const FTextBlockStyle& InStyle, int32& InCount)
+		: Style(InStyle)
+		, Count(InCount)
+	{
+	}
+
+	virtual bool Supports(const FTextRunParseResults&, const FString&) const override { return true; }
+
+	virtual TSharedRef<ISlateRun> Create(const TSharedRef<FTextLayout>&, const FTextRunParseResults& Run, const FString& Markup,
+		const TSharedRef<FString>& ModelText, const ISlateStyle*) override
+	{
+		const int32 Begin = ModelText->Len();
+		*ModelText += Markup.Mid(Run.ContentRange.BeginIndex, Run.ContentRange.Len());
+		return MakeShared<FCountingRun>(ModelText, Style, FTextRange(Begin, ModelText->Len()), Count);
+	}
+
+private:
+	FTextBlockStyle Style;
+	int32& Count;
+};
+} // namespace
+
+class FRichText : public FTextTest
+{
+protected:
+	FRichText()
+	{
+		FTextBlockStyle Large = Style;
+		Large.SetFont(FSlateFontInfo("Regular", 2 * Letter));
+		StyleSet.Set("Large", Large);
+		StyleSet.Set("Colored", FTextBlockStyle(Style).SetColorAndOpacity(FLinearColor::Red));
+	}
+
+	void ShowMarkup(const FString& Markup, TArray<TSharedRef<ITextDecorator>> Decorators = {}, float Width = 1000.0f)
+	{
+		const TSharedRef<FRichTextLayoutMarshaller> Marshaller = FRichTextLayoutMarshaller::Create(MoveTemp(Decorators), &StyleSet);
+		ShowText(Arguments().Text(FText::FromString(Markup)).Marshaller(Marshaller).IsReadOnly(true).AutoWrapText(true), Width);
+	}
+
+	static TSharedRef<SWidget> MakeBox(float Width, float Height) { return SNew(SBox).WidthOverride(Width).HeightOverride(Height); }
+
+	FSlateStyleSet StyleSet = FSlateStyleSet("RichTextTest");
+};
+
+TEST_F(FRichText, RunsTakeTheStyleOfTheirNameAndShareABaseline)
+{
+	ShowMarkup(TEXT("small <Large>big</> <Unknown>default</>"));
+	EXPECT_EQ(Text->GetShownText(), FString(TEXT("small big default")));
+	// A line is as high as its highest run, and "big" is twice as wide as other words.
+	EXPECT_EQ(Text->GetDesiredSize(), FVector2D((6 + 2 * 3 + 8) * Letter, 2 * Row));
+}
+
+TEST_F(FRichText, WrapsAcrossRuns)
+{
+	ShowMarkup(TEXT("one<Colored>two</>three <Colored>four</>"), {}, 120.0f);
+	EXPECT_EQ(Screen(), FString(TEXT("onetwothree \nfour")));
+	ShowMarkup(TEXT("one<Colored>two</>three <Colored>four</>"), {}, 80.0f);
+	EXPECT_EQ(Screen(), FString(TEXT("onetwoth\nree four")));
+}
+
+TEST_F(FRichText, TheFirstDecoratorThatSupportsARunMakesIt)
+{
+	const auto First = MakeShared<FWidgetDecorator>([](const FString&) { return MakeBox(50.0f, 30.0f); });
+	const auto Second = MakeShared<FWidgetDecorator>([](const FString&) { return MakeBox(10.0f, 10.0f); });
+	ShowMarkup(TEXT("<WIDGET k=\"v\">a&lt;/&gt;b</>"), {First, Second});
+	EXPECT_EQ(First->Contents, TArray<FString>({FString(TEXT("a</>b"))}));
+	EXPECT_TRUE(Second->Contents.IsEmpty());
+	EXPECT_EQ(Text->GetDesiredSize(), FVector2D(50.0, 30.0));
+	EXPECT_EQ(Text->GetShownText(), FString());
+}
+
+TEST_F(FRichText, WidgetsStandAmongTheWordsOnTheBaseline)
+{
+	TArray<TSharedRef<SWidget>> Boxes;
+	const auto Decorator = MakeShared<FWidgetDecorator>(
+		[&Boxes](const FString&)
+		{
+			Boxes.Add(MakeBox(50.0f, 30.0f));
+			return Boxes.Last();
+		});
+	ShowMarkup(TEXT("ab<widget></><widget></>"), {Decorator}, 110.0f);
+	// 15 of the 20 pixels of a letter are above the baseline.
+	EXPECT_EQ(Boxes[0]->GetCachedGeometry().GetAbsolutePosition(), FVector2D(20.0, 0.0));
+	EXPECT_EQ(Boxes[1]->GetCachedGeometry().GetAbsolutePosition(), FVector2D(0.0, 35.0));
+	EXPECT_EQ(Text->GetDesiredSize(), FVector2D(70.0, 35.0 + 30.0));
+	EXPECT_EQ(Text->GetChildren()->Num(), 2);
+}
+
+TEST_F(FRichText, AWidgetThatGrowsMovesTheWordsBehindIt)
+{
+	float Width = 50.0f;
+	const TSharedRef<SWidget> Box = SNew(SBox).WidthOverride_Lambda([&Width] { return FOptionalSize(Width); }).HeightOverride(20.0f);
+	ShowMarkup(TEXT("<widget></>end"), {MakeShared<FWidgetDecorator>([&Box](const FString&) { return Box; })});
+	EXPECT_EQ(ReadScreen().GetRowLeft(0), 50.0f);
+	Width = 80.0f;
+	EXPECT_EQ(ReadScreen().GetRowLeft(0), 80.0f);
+}
+
+TEST_F(FRichText, AClickReachesTheWidgetAmongTheText)
+{
+	int32 Clicks = 0;
+	const auto MakeButton = [&Clicks](const FString&)
+	{
+		return SNew(SButton).OnClicked_Lambda(
+			[&Clicks]
+			{
+				++Clicks;
+				return FReply::Handled();
+			})[MakeBox(50.0f, 20.0f)];
+	};
+	ShowMarkup(TEXT("ab<widget></>cd"), {MakeShared<FWidgetDecorator>(MakeButton)});
+	Click(3);
+	EXPECT_EQ(Clicks, 1);
+	Click(0);
+	EXPECT_EQ(Clicks, 1);
+	EXPECT_TRUE(Text->HasKeyboardFocus());
+}
+
+TEST_F(FRichText, EachTextMakesItsWidgetsAnew)
+{
+	const auto Decorator = MakeShared<FWidgetDecorator>([](const FString&) { return MakeBox(50.0f, 20.0f); });
+	ShowMarkup(TEXT("<widget></>"), {Decorator});
+	const TWeakPtr<SWidget> Former = Text->GetChildren()->GetChildAt(0);
+	Text->SetText(INVTEXT("<widget></>"));
+	Frame();
+	EXPECT_EQ(Decorator->Contents.Num(), 2);
+	EXPECT_FALSE(Former.IsValid());
+	EXPECT_EQ(Text->GetChildren()->Num(), 1);
+}
+
+TEST_F(FRichText, OnlyLinesThatChangedAreMeasured)
+{
+	int32 Count = 0;
+	ShowMarkup(TEXT("one\ntwo\nthree"), {MakeShared<FCountingDecorator>(Style, Count)});
+	EXPECT_EQ(Count, 3);
+	Text->SetText(INVTEXT("one\ntwo\nthree more\nfour"));
+	Frame();
+	EXPECT_EQ(Count, 3 + 3);
+	EXPECT_EQ(Screen(), FString(TEXT("one\ntwo\nthree more\nfour")));
+
+	// Another width wraps what was measured.
+	Window->SetClientArea(FVector2D(60.0, 400.0), 1.0f);
+	EXPECT_EQ(Screen(), FString(TEXT("one\ntwo\nthree \nmore\nfour")));
+	EXPECT_EQ(Count, 3 + 3);
+}
+
+TEST_F(FRichText, OnlyVisibleLinesArePainted)
+{
+	FString Many;
+	for (int32 Line = 0; Line < 1000; ++Line)
+	{
+		Many += Line > 0 ? TEXT("\n") : TEXT("");
+		Many.AppendInt(Line);
+	}
+	ShowText(Arguments().Text(FText::FromString(Many)).IsReadOnly(true), 200.0f, 100.0f);
+	EXPECT_EQ(Window->GetDisplayList()->GetItems().Num(), 1);
+	const FString Shown = Screen();
+	EXPECT_TRUE(Shown.Equals(TEXT("0\n1\n2\n3\n4"))) << Shown;
+	MoveMouse(50.0f, 50.0f);
+	EXPECT_TRUE(Wheel(-1.0f));
+	const FString Scrolled = Screen();
+	EXPECT_TRUE(Scrolled.Equals(TEXT("3\n4\n5\n6\n7"))) << Scrolled;
+}
+
+TEST_F(FRichText, ASelectionOutlivesTheGrowthOfTheText)
+{
+	const TSharedRef<FRichTextLayoutMarshaller> Marshaller = FRichTextLayoutMarshaller::Create({}, &StyleSet);
+	ShowText(Arguments().Text(INVTEXT("<Colored>one two</>")).Marshaller(Marshaller).IsReadOnly(true).ClearTextSelectionOnFocusLoss(false));
+	DoubleClick(5);
+	EXPECT_EQ(Screen(), FString(TEXT("one [two]")));
+	Text->SetText(INVTEXT("<Colored>one two</> three"));
+	Application().ClearKeyboardFocus();
+	EXPECT_EQ(Screen(), FString(TEXT("one [two] three")));
+	EXPECT_EQ(Text->GetText().ToString(), FString(TEXT("<Colored>one two</> three")));
+}
+
+TEST_F(FRichText, ALayoutTellsItsLinesAndRuns)
+{
+	const TSharedRef<SWidget> Owner = MakeBox(1.0f, 1.0f);
+	const TSharedRef<FSlateTextLayout> Layout = FSlateTextLayout::Create(*Owner, Style);
+	FRichTextLayoutMarshaller::Create({}, &StyleSet)->SetText(TEXT("ab <Colored>cd ef</>"), *Layout);
+	Layout->SetWrappingWidth(50.0f);
+	Layout->UpdateIfNeeded();
+	EXPECT_EQ(Layout->ToDebugString(), FString(TEXT("0,0 50x20: \"ab \" Colored\"cd \"\n0,20 20x20: Colored\"ef\"\n")));
+}
