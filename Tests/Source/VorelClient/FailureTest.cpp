@@ -79,7 +79,8 @@ const std::vector<FFailureRow>& GetRows()
 		{"402", Reply("402 Pay"), TEXT(""), TEXT("The account at this assistant has no credits left. (Error 402.)")},
 		{"403", Reply("403 No"), TEXT(""), TEXT("The assistant does not allow this key to use it. (Error 403.)")},
 		{"404", Reply("404 Not Found", "<html>"), TEXT(""),
-			TEXT("The assistant was not found at its address, or it does not have the model. Check both. (Error 404.)")},
+			TEXT("The assistant was not found at its address, or it does not have the model. Check both; many addresses end in /v1. (Error "
+				 "404.)")},
 		{"429", Reply("429 Slow", "{\"error\":\"limit\"}", "Retry-After: 7\r\n"), TEXT(""),
 			TEXT("The assistant gets too many requests at the moment. Wait a little and send the message again. (Error 429.) It asks to "
 				 "wait 7 "
@@ -191,7 +192,8 @@ TEST_F(FFailureTest, AServerThatNamesNoModel)
 	const std::pair<FScriptedServer::FHandler, const TCHAR*> Rows[] = {
 		{Reply("200 OK", "{\"data\":[]}"), TEXT("The assistant's server names no model. Choose one with --model.")},
 		{Reply("200 OK", "what?"), TEXT("The assistant's server names no model. Choose one with --model.")},
-		{Reply("404 No"), TEXT("The assistant was not found at its address, or it does not have the model. Check both. (Error 404.)")},
+		{Reply("404 No"), TEXT("The assistant was not found at its address, or it does not have the model. Check both; many addresses end "
+							   "in /v1. (Error 404.)")},
 	};
 	for (const auto& [Handler, Sentence] : Rows)
 	{

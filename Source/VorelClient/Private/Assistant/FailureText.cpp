@@ -20,7 +20,8 @@ FText DescribeStatus(int32 Code)
 	case 403:
 		return LOCTEXT("Status403", "The assistant does not allow this key to use it.");
 	case 404:
-		return LOCTEXT("Status404", "The assistant was not found at its address, or it does not have the model. Check both.");
+		return LOCTEXT("Status404",
+			"The assistant was not found at its address, or it does not have the model. Check both; many addresses end in /v1.");
 	case 408:
 	case 504:
 		return LOCTEXT("StatusTime", "The assistant's server took too long. Try again.");

@@ -5,7 +5,6 @@
 #include <QIODevice>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QPointer>
 
 #include "Assistant/HttpCall.h"
 
@@ -109,8 +108,8 @@ FHttpCall::~FHttpCall()
 
 void FHttpCall::Start()
 {
-	// The application ends what is still open at its end.
-	Network = MakeNetwork(QCoreApplication::instance());
+	// One for each call, so that no connection is used twice: a server may close an idle one just when the next question goes out.
+	QNetworkAccessManager* const Network = MakeNetwork(QCoreApplication::instance());
 	Reply = Request.Body.isEmpty() ? Network->get(MakeNetworkRequest(Request)) : Post(*Network, Request);
 	connect(Reply, &QNetworkReply::requestSent, this, [this] { StartLimit(EPhase::WaitingForFirstByte); });
 	connect(Reply, &QNetworkReply::readyRead, this, [this] { HandleBytes(); });
@@ -125,7 +124,7 @@ void FHttpCall::LetGo()
 	{
 		Reply = nullptr;
 		Leaving->disconnect(this);
-		connect(Leaving, &QNetworkReply::finished, Network, &QObject::deleteLater);
+		connect(Leaving, &QNetworkReply::finished, Leaving->manager(), &QObject::deleteLater);
 		QTimer::singleShot(MaxGoodbyeMilliseconds, Leaving, &QNetworkReply::abort);
 	}
 }
@@ -133,13 +132,12 @@ void FHttpCall::LetGo()
 void FHttpCall::HangUp()
 {
 	Limit.stop();
-	if (Reply)
+	if (QNetworkReply* const Leaving = Reply)
 	{
-		Reply->disconnect(this);
-		Reply->abort();
 		Reply = nullptr;
-		// With its reply.
-		Network->deleteLater();
+		Leaving->disconnect(this);
+		Leaving->abort();
+		Leaving->manager()->deleteLater();
 	}
 }
 

@@ -5,6 +5,7 @@
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QByteArray>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <QUrl>
 
@@ -12,7 +13,6 @@
 #include "Assistant/FailureText.h"
 #include <string_view>
 
-class QNetworkAccessManager;
 class QNetworkReply;
 
 struct FHttpRequest
@@ -57,11 +57,10 @@ private:
 	FText DescribeNetworkError() const;
 	FString GetHost() const;
 
-	// One for each call, so that no connection is used a second time: a server may close an idle one just when the next question goes out.
-	QNetworkAccessManager* Network = nullptr;
 	FHttpRequest Request;
 	FRequestLimits Limits;
-	QNetworkReply* Reply = nullptr;
+	// Null once ended. Goes with the application too, which ends what is still open.
+	QPointer<QNetworkReply> Reply;
 	QTimer Limit;
 	FailureText::EPhase Phase = FailureText::EPhase::Connecting;
 	// What the server wrote to a refusal, up to a limit.
