@@ -1,0 +1,260 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Framework/Application/SlateApplication.h"
+#include "Probes.h"
+#include "Support/UserDriver.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/SNullWidget.h"
+#include "Widgets/SOverlay.h"
+#include "Widgets/SWindow.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+const FSlateFrameStats& Stats()
+{
+	return FSlateApplication::Get().GetFrameStats();
+}
+
+FVector2D PositionOf(const SWidget& Widget)
+{
+	return Widget.GetCachedGeometry().GetAccumulatedLayoutTransform().Translation;
+}
+
+FVector2D SizeOf(const SWidget& Widget)
+{
+	return Widget.GetCachedGeometry().GetLocalSize();
+}
+
+/** Two columns of two probes each. */
+class LayoutPasses : public testing::Test
+{
+protected:
+	LayoutPasses()
+	{
+		for (TSharedPtr<SProbe>& Probe : Probes)
+		{
+			Probe = SNew(SProbe);
+		}
+		// clang-format off
+		SAssignNew(Root, SHorizontalBox)
+		+ SHorizontalBox::Slot().AutoWidth()
+		[
+			SAssignNew(Left, SVerticalBox)
+			+ SVerticalBox::Slot().AutoHeight()[Probes[0].ToSharedRef()]
+			+ SVerticalBox::Slot().AutoHeight()[Probes[1].ToSharedRef()]
+		]
+		+ SHorizontalBox::Slot().AutoWidth()
+		[
+			SAssignNew(Right, SVerticalBox)
+			+ SVerticalBox::Slot().AutoHeight()[Probes[2].ToSharedRef()]
+			+ SVerticalBox::Slot().AutoHeight()[Probes[3].ToSharedRef()]
+		];
+		// clang-format on
+		User.Emplace(Root.ToSharedRef(), FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	}
+
+	TSharedPtr<SProbe> Probes[4];
+	TSharedPtr<SHorizontalBox> Root;
+	TSharedPtr<SVerticalBox> Left;
+	TSharedPtr<SVerticalBox> Right;
+	TOptional<FUserDriver> User;
+};
+}
+
+TEST_F(LayoutPasses, TheFirstFrameVisitsEverythingOnce)
+{
+	for (const TSharedPtr<SProbe>& Probe : Probes)
+	{
+		EXPECT_EQ(Probe->NumSized, 1);
+		EXPECT_EQ(Probe->NumArranged, 1);
+		EXPECT_EQ(Probe->NumPainted, 1);
+	}
+	EXPECT_EQ(PositionOf(*Probes[3]), FVector2D(20.0, 10.0));
+	EXPECT_EQ(SizeOf(*Probes[3]), FVector2D(20.0, 10.0));
+}
+
+TEST_F(LayoutPasses, AnIdleApplicationAsksForNoFrameAndAFrameThatRunsAllTheSameDoesNothing)
+{
+	EXPECT_FALSE(FSlateApplication::Get().IsFrameRequested());
+	User->GetDesktop().NumFramesRequested = 0;
+	User->AdvanceTime(1.0f);
+	EXPECT_EQ(User->GetDesktop().NumFramesRequested, 0);
+	EXPECT_EQ(Stats().NumDesiredSizes + Stats().NumArranged + Stats().NumPainted + Stats().NumLayoutPasses, 0);
+}
+
+TEST_F(LayoutPasses, InvalidationsBeforeAFrameAskForItOnce)
+{
+	User->GetDesktop().NumFramesRequested = 0;
+	Probes[0]->SetSize(FVector2D(30.0, 30.0));
+	Probes[1]->SetSize(FVector2D(30.0, 30.0));
+	Probes[0]->Invalidate(EInvalidateWidgetReason::Paint);
+	EXPECT_EQ(User->GetDesktop().NumFramesRequested, 1);
+}
+
+TEST_F(LayoutPasses, ANewSizeMovesWhatFollowsAndLeavesTheRestAlone)
+{
+	Probes[0]->SetSize(FVector2D(20.0, 25.0));
+	User->Frame();
+	EXPECT_EQ(PositionOf(*Probes[1]), FVector2D(0.0, 25.0));
+	EXPECT_EQ(Probes[0]->NumSized, 2);
+	EXPECT_EQ(Probes[1]->NumSized, 1);
+	EXPECT_EQ(Probes[1]->NumPainted, 2) << "it moved";
+	EXPECT_EQ(Probes[2]->NumSized + Probes[2]->NumArranged + Probes[2]->NumPainted, 3) << "the other column was not touched";
+	EXPECT_EQ(Stats().NumDesiredSizes, 4) << "the probe, its column, the row, the window";
+}
+
+TEST_F(LayoutPasses, ASizeThatStaysTheSameEndsThere)
+{
+	Probes[0]->Invalidate(EInvalidateWidgetReason::Layout);
+	User->Frame();
+	EXPECT_EQ(Stats().NumDesiredSizes, 1);
+}
+
+TEST_F(LayoutPasses, PaintAloneLaysNothingOut)
+{
+	Probes[0]->Invalidate(EInvalidateWidgetReason::Paint);
+	User->Frame();
+	EXPECT_EQ(Stats().NumLayoutPasses, 0);
+	EXPECT_EQ(Stats().NumPainted, 4) << "the probe, its column, the row, the window";
+	EXPECT_EQ(Probes[1]->NumPainted, 1);
+}
+
+TEST_F(LayoutPasses, ARenderTransformComputesNoSizes)
+{
+	Probes[0]->SetRenderTransform(FSlateRenderTransform(FVector2D(0.0, 3.0)));
+	User->Frame();
+	EXPECT_EQ(Stats().NumDesiredSizes, 0);
+	EXPECT_EQ(PositionOf(*Probes[0]), FVector2D(0.0, 0.0));
+	EXPECT_EQ(Probes[0]->GetCachedGeometry().GetAbsolutePosition(), FVector2D(0.0, 3.0));
+	EXPECT_EQ(Probes[1]->NumPainted, 1);
+}
+
+TEST_F(LayoutPasses, HiddenKeepsRoomAndCollapsedDoesNot)
+{
+	Probes[0]->SetVisibility(EVisibility::Hidden);
+	User->Frame();
+	EXPECT_EQ(PositionOf(*Probes[1]), FVector2D(0.0, 10.0));
+	Probes[0]->SetVisibility(EVisibility::Collapsed);
+	User->Frame();
+	EXPECT_EQ(PositionOf(*Probes[1]), FVector2D(0.0, 0.0));
+	Probes[0]->SetVisibility(EVisibility::Visible);
+	User->Frame();
+	EXPECT_EQ(PositionOf(*Probes[1]), FVector2D(0.0, 10.0));
+}
+
+TEST_F(LayoutPasses, WhatChangesInACollapsedBoxCostsNothingUntilItShows)
+{
+	Left->SetVisibility(EVisibility::Collapsed);
+	User->Frame();
+	User->GetDesktop().NumFramesRequested = 0;
+	Probes[1]->SetSize(FVector2D(44.0, 33.0));
+	Probes[0]->Invalidate(EInvalidateWidgetReason::Paint);
+	Probes[0]->SetVisibility(EVisibility::Collapsed);
+	EXPECT_EQ(User->GetDesktop().NumFramesRequested, 0);
+	Left->SetVisibility(EVisibility::Visible);
+	User->Frame();
+	EXPECT_EQ(SizeOf(*Probes[1]), FVector2D(44.0, 33.0));
+	EXPECT_EQ(PositionOf(*Probes[1]), FVector2D(0.0, 0.0));
+	EXPECT_EQ(PositionOf(*Probes[2]), FVector2D(44.0, 0.0));
+}
+
+TEST_F(LayoutPasses, ChildrenComeAndGo)
+{
+	const TSharedRef<SProbe> Late = SNew(SProbe);
+	Left->AddSlot(0).AutoHeight().Padding(0.0f, 5.0f, 0.0f, 0.0f)[Late];
+	User->Frame();
+	EXPECT_EQ(PositionOf(*Late), FVector2D(0.0, 5.0));
+	EXPECT_EQ(PositionOf(*Probes[1]), FVector2D(0.0, 25.0));
+	EXPECT_TRUE(Left->RemoveSlot(Late));
+	EXPECT_FALSE(Left->RemoveSlot(Late));
+	EXPECT_FALSE(Late->GetParentWidget().IsValid());
+	User->Frame();
+	EXPECT_EQ(PositionOf(*Probes[1]), FVector2D(0.0, 10.0));
+	Left->ClearChildren();
+	User->Frame();
+	EXPECT_EQ(Left->NumSlots(), 0);
+	EXPECT_EQ(PositionOf(*Probes[2]), FVector2D(0.0, 0.0));
+}
+
+TEST_F(LayoutPasses, AWidgetThatIsPutElsewhereLeavesItsFormerPlace)
+{
+	Right->AddSlot().AutoHeight()[Probes[0].ToSharedRef()];
+	User->Frame();
+	EXPECT_EQ(PositionOf(*Probes[0]), FVector2D(20.0, 20.0));
+	EXPECT_EQ(PositionOf(*Probes[1]), FVector2D(0.0, 0.0));
+	EXPECT_EQ(Left->GetChildren()->GetChildAt(0), SNullWidget::NullWidget);
+}
+
+TEST_F(LayoutPasses, ScaleTurnsUnitsIntoPixelsAndAsksForEverySizeAnew)
+{
+	User->SetScale(2.0f);
+	EXPECT_EQ(Probes[3]->NumSized, 2);
+	EXPECT_EQ(PositionOf(*Probes[3]), FVector2D(40.0, 20.0));
+	EXPECT_EQ(SizeOf(*Probes[3]), FVector2D(20.0, 10.0));
+	EXPECT_EQ(User->GetWindow()->GetClientSizeInPixels(), FVector2D(200.0, 200.0));
+}
+
+TEST(WrappingLayout, AHeightThatFollowsFromTheWidthIsThereInTheSameFrame)
+{
+	const TSharedRef<SWrappingProbe> Text = SNew(SWrappingProbe).Area(1000.0f);
+	const TSharedRef<SProbe> Below = SNew(SProbe);
+	// clang-format off
+	const TSharedRef<SWidget> Column =
+		SNew(SVerticalBox)
+		+ SVerticalBox::Slot().AutoHeight()[Text]
+		+ SVerticalBox::Slot().AutoHeight()[Below];
+	// clang-format on
+	FUserDriver User(Column, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	EXPECT_EQ(Stats().NumLayoutPasses, 2);
+	EXPECT_EQ(PositionOf(*Below), FVector2D(0.0, 10.0));
+	EXPECT_EQ(Below->NumPainted, 1) << "nothing is painted in between";
+
+	User.Resize(FVector2D(50.0, 100.0));
+	EXPECT_EQ(PositionOf(*Below), FVector2D(0.0, 20.0));
+	EXPECT_EQ(Stats().NumLayoutPasses, 2);
+	Text->SetArea(2000.0f);
+	User.Frame();
+	EXPECT_EQ(PositionOf(*Below), FVector2D(0.0, 40.0));
+	EXPECT_EQ(Stats().NumLayoutPasses, 1) << "the width is known";
+}
+
+namespace
+{
+/** Never content with its height. */
+class SRestlessProbe : public SWrappingProbe
+{
+protected:
+	void OnArranged(const FGeometry&) override { Invalidate(EInvalidateWidgetReason::Layout); }
+};
+}
+
+TEST(WrappingLayout, LayoutThatNeverSettlesIsCutOffAndDrawn)
+{
+	FUserDriver User(SNew(SRestlessProbe), FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	EXPECT_EQ(Stats().NumLayoutPasses, SWidget::MaxLayoutPasses);
+	EXPECT_TRUE(User.GetWindow()->GetDisplayList().IsValid());
+}
+
+TEST(OverlayLayout, ChildrenShareTheRoomByTheirAlignment)
+{
+	const TSharedRef<SProbe> Filling = SNew(SProbe);
+	const TSharedRef<SProbe> Centered = SNew(SProbe);
+	const TSharedRef<SProbe> InCorner = SNew(SProbe);
+	const TSharedRef<SProbe> TooLarge = SNew(SProbe).Size(FVector2D(500.0, 500.0));
+	// clang-format off
+	FUserDriver User(
+		SNew(SOverlay)
+		+ SOverlay::Slot()[Filling]
+		+ SOverlay::Slot().HAlign(HAlign_Center).VAlign(VAlign_Center)[Centered]
+		+ SOverlay::Slot().HAlign(HAlign_Right).VAlign(VAlign_Bottom).Padding(0.0f, 0.0f, 15.0f, 5.0f)[InCorner]
+		+ SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Top).Padding(10.0f)[TooLarge],
+		FVector2D(100.0, 80.0), 1.0f, EDriverFonts::Even);
+	// clang-format on
+	EXPECT_EQ(SizeOf(*Filling), FVector2D(100.0, 80.0));
+	EXPECT_EQ(PositionOf(*Centered), FVector2D(40.0, 35.0));
+	EXPECT_EQ(PositionOf(*InCorner), FVector2D(65.0, 65.0));
+	EXPECT_EQ(PositionOf(*TooLarge), FVector2D(10.0, 10.0));
+	EXPECT_EQ(SizeOf(*TooLarge), FVector2D(80.0, 60.0)) << "as large as there is room";
+}
