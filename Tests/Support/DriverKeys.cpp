@@ -8,15 +8,14 @@
 
 namespace
 {
-const FKey NamedKeys[] = {EKeys::BackSpace, EKeys::Delete, EKeys::Insert, EKeys::Enter, EKeys::Escape, EKeys::SpaceBar, EKeys::Tab,
-	EKeys::Left, EKeys::Right, EKeys::Up, EKeys::Down, EKeys::Home, EKeys::End, EKeys::PageUp, EKeys::PageDown};
-
 FKey FindKey(const FString& Name)
 {
 	if (Name.Len() == 1)
 	{
 		return FKey(*Name.ToUpper());
 	}
+	static const FKey NamedKeys[] = {EKeys::BackSpace, EKeys::Delete, EKeys::Insert, EKeys::Enter, EKeys::Escape, EKeys::SpaceBar,
+		EKeys::Tab, EKeys::Left, EKeys::Right, EKeys::Up, EKeys::Down, EKeys::Home, EKeys::End, EKeys::PageUp, EKeys::PageDown};
 	for (const FKey& Key : NamedKeys)
 	{
 		if (Key.ToString() == Name)

@@ -214,13 +214,14 @@ private:
 	const TCHAR* CreatedAs = TEXT("SWidget");
 	FName Tag;
 
+	/** Before the attributes, which leave it as they go. */
+	TArray<FSlateAttributeBase*> BoundAttributes;
 	TSlateAttribute<EVisibility, EInvalidateWidgetReason::Visibility> VisibilityAttribute;
 	TSlateAttribute<bool, EInvalidateWidgetReason::Paint> EnabledAttribute;
 	TSlateAttribute<TOptional<FSlateRenderTransform>, EInvalidateWidgetReason::RenderTransform> RenderTransformAttribute;
 	TSlateAttribute<FVector2D, EInvalidateWidgetReason::RenderTransform> RenderTransformPivotAttribute;
 	TSlateAttribute<FText, EInvalidateWidgetReason::None> ToolTipTextAttribute;
 	TSlateAttribute<FText, EInvalidateWidgetReason::None> AccessibleTextAttribute;
-	TArray<FSlateAttributeBase*> BoundAttributes;
 	TOptional<EMouseCursor::Type> Cursor;
 	EWidgetClipping Clipping = EWidgetClipping::Inherit;
 

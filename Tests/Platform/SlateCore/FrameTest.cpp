@@ -1,0 +1,191 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Framework/Application/SlateApplication.h"
+#include "Probes.h"
+#include "Support/UserDriver.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/SCompoundWidget.h"
+#include "Widgets/SWindow.h"
+
+#include <gtest/gtest.h>
+
+// Bound attributes and ticking: what a frame reads and runs before layout.
+
+namespace
+{
+/** Ticks, by an override that none but the application can call. */
+class STickingProbe : public SProbe
+{
+public:
+	TArray<float> Steps;
+
+private:
+	void Tick(const FGeometry& AllottedGeometry, const double InCurrentTime, const float InDeltaTime) override
+	{
+		SProbe::Tick(AllottedGeometry, InCurrentTime, InDeltaTime);
+		Steps.Add(InDeltaTime);
+	}
+};
+
+class SDerivedTickingProbe : public STickingProbe
+{
+};
+
+static_assert(CWidgetWithoutTick<SProbe>);
+static_assert(!CWidgetWithoutTick<STickingProbe>);
+static_assert(!CWidgetWithoutTick<SDerivedTickingProbe>);
+
+struct FBound
+{
+	FVector2D Size = FVector2D(20.0, 10.0);
+	int32 NumRead = 0;
+
+	TAttribute<FVector2D> MakeAttribute()
+	{
+		return TAttribute<FVector2D>::CreateLambda(
+			[this]
+			{
+				++NumRead;
+				return Size;
+			});
+	}
+};
+}
+
+TEST(BoundAttributes, AreReadOnceAFrameBeforeLayout)
+{
+	FBound Bound;
+	const TSharedRef<SProbe> Probe = SNew(SProbe).BoundSize(Bound.MakeAttribute());
+	EXPECT_EQ(Bound.NumRead, 0) << "not while the widget is built";
+	FUserDriver User(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Probe], FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	Bound.NumRead = 0;
+	User.AdvanceTime(0.0f);
+	EXPECT_EQ(Bound.NumRead, 1);
+	EXPECT_EQ(FSlateApplication::Get().GetFrameStats().NumAttributesRead, 1);
+	EXPECT_EQ(FSlateApplication::Get().GetFrameStats().NumLayoutPasses, 0) << "the same value changes nothing";
+
+	Bound.Size = FVector2D(20.0, 40.0);
+	User.AdvanceTime(0.0f);
+	EXPECT_EQ(Probe->GetCachedGeometry().GetLocalSize().Y, 40.0) << "in the frame that read it";
+}
+
+TEST(BoundAttributes, APlainValueEndsTheBinding)
+{
+	FBound Bound;
+	const TSharedRef<SProbe> Probe = SNew(SProbe).BoundSize(Bound.MakeAttribute());
+	FUserDriver User(Probe, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	Probe->SetSize(FVector2D(1.0, 1.0));
+	Bound.NumRead = 0;
+	User.AdvanceTime(0.0f);
+	EXPECT_EQ(Bound.NumRead, 0);
+}
+
+TEST(BoundAttributes, AreNotReadOutOfViewAndAreUpToDateWhenTheyComeIntoIt)
+{
+	FBound Bound;
+	const TSharedRef<SProbe> Above = SNew(SProbe).Size(FVector2D(10.0, 1000.0));
+	const TSharedRef<SProbe> Probe = SNew(SProbe).BoundSize(Bound.MakeAttribute());
+	// clang-format off
+	FUserDriver User(
+		SNew(SVerticalBox)
+		+ SVerticalBox::Slot().AutoHeight()[Above]
+		+ SVerticalBox::Slot().AutoHeight()[Probe],
+		FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	// clang-format on
+	Bound.NumRead = 0;
+	Bound.Size = FVector2D(10.0, 33.0);
+	User.AdvanceTime(0.0f);
+	EXPECT_EQ(Bound.NumRead, 0);
+	Above->SetSize(FVector2D(10.0, 10.0));
+	User.AdvanceTime(0.0f);
+	EXPECT_EQ(Bound.NumRead, 1);
+	EXPECT_EQ(Probe->GetCachedGeometry().GetLocalSize().Y, 33.0);
+}
+
+TEST(BoundAttributes, ABoundVisibilityBringsACollapsedWidgetBack)
+{
+	bool bShown = false;
+	const TSharedRef<SProbe> Probe =
+		SNew(SProbe).Visibility_Lambda([&bShown] { return bShown ? EVisibility::Visible : EVisibility::Collapsed; });
+	FUserDriver User(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Probe], FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	EXPECT_EQ(Probe->NumPainted, 0);
+	bShown = true;
+	User.AdvanceTime(0.0f);
+	EXPECT_EQ(Probe->NumPainted, 1);
+	bShown = false;
+	User.AdvanceTime(0.0f);
+	EXPECT_EQ(User.GetWindow()->GetContent()->GetDesiredSize(), FVector2D(0.0, 0.0));
+}
+
+namespace
+{
+/** As a view that binds what it shows to getters of its own. */
+class SPresenter : public SCompoundWidget
+{
+public:
+	SLATE_BEGIN_ARGS(SPresenter) {}
+	SLATE_END_ARGS()
+
+	void Construct(const FArguments&) { ChildSlot[SAssignNew(Probe, SProbe).BoundSize(this, &SPresenter::GetSize)]; }
+	FVector2D GetSize() const { return FVector2D(7.0, 7.0); }
+
+	TSharedPtr<SProbe> Probe;
+};
+}
+
+TEST(BoundAttributes, AWidgetThatHasGoneLeavesItsLastValue)
+{
+	TSharedPtr<SPresenter> Presenter = SNew(SPresenter);
+	const TSharedRef<SProbe> Probe = Presenter->Probe.ToSharedRef();
+	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox);
+	Box->AddSlot().AutoHeight()[Presenter.ToSharedRef()];
+	FUserDriver User(Box, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	Box->AddSlot().AutoHeight()[Probe];
+	Box->RemoveSlot(Presenter.ToSharedRef());
+	Presenter.Reset();
+	User.AdvanceTime(0.0f);
+	EXPECT_EQ(Probe->GetDesiredSize(), FVector2D(7.0, 7.0));
+}
+
+TEST(Ticking, AWidgetInViewTicksAndKeepsTheFramesComing)
+{
+	const TSharedRef<STickingProbe> Probe = SNew(STickingProbe);
+	FUserDriver User(Probe, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	Probe->Steps.Empty();
+	FSlateApplication::Get().Tick(0.25f);
+	EXPECT_EQ(Probe->Steps, TArray<float>({0.25f}));
+	EXPECT_TRUE(FSlateApplication::Get().IsFrameRequested());
+	EXPECT_EQ(FSlateApplication::Get().GetFrameStats().NumPainted, 0) << "it changed nothing";
+}
+
+TEST(Ticking, CollapsedHiddenOrOutOfViewItRests)
+{
+	const TSharedRef<SProbe> Above = SNew(SProbe);
+	const TSharedRef<STickingProbe> Probe = SNew(SDerivedTickingProbe);
+	// clang-format off
+	FUserDriver User(
+		SNew(SVerticalBox)
+		+ SVerticalBox::Slot().AutoHeight()[Above]
+		+ SVerticalBox::Slot().AutoHeight()[Probe],
+		FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	// clang-format on
+	const auto CountTicks = [&]
+	{
+		User.Frame();
+		Probe->Steps.Empty();
+		User.AdvanceTime(1.0f);
+		return Probe->Steps.Num();
+	};
+	EXPECT_GT(CountTicks(), 0);
+	Probe->SetVisibility(EVisibility::Collapsed);
+	EXPECT_EQ(CountTicks(), 0);
+	EXPECT_FALSE(FSlateApplication::Get().IsFrameRequested());
+	Probe->SetVisibility(EVisibility::Hidden);
+	EXPECT_EQ(CountTicks(), 0);
+	Probe->SetVisibility(EVisibility::Visible);
+	Above->SetSize(FVector2D(10.0, 1000.0));
+	EXPECT_EQ(CountTicks(), 0);
+	EXPECT_FALSE(FSlateApplication::Get().IsFrameRequested());
+	Above->SetSize(FVector2D(10.0, 10.0));
+	EXPECT_GT(CountTicks(), 0);
+}
