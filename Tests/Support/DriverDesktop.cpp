@@ -2,7 +2,7 @@
 
 #include "Support/DriverDesktop.h"
 
-#include "Fonts/QtTextShaper.h"
+#include "Fonts/DesktopTextShaper.h"
 #include "HAL/PlatformHooks.h"
 #include "Support/EvenTextShaper.h"
 
@@ -10,7 +10,7 @@ FDriverDesktop::FDriverDesktop(EDriverFonts Fonts)
 {
 	if (Fonts == EDriverFonts::Real)
 	{
-		Shaper = MakeUnique<FQtTextShaper>();
+		Shaper = MakeDesktopTextShaper();
 	}
 	else
 	{

@@ -4,7 +4,7 @@
 
 #include "DesktopLog.h"
 #include "Editor.h"
-#include "Fonts/QtTextShaper.h"
+#include "Fonts/DesktopTextShaper.h"
 #include "Framework/Application/SlateApplication.h"
 #include "HAL/PlatformHooks.h"
 #include "QSlateWidget.h"
@@ -49,7 +49,7 @@ FDesktopApplication& FDesktopApplication::Get()
 
 FDesktopApplication::FDesktopApplication(EBrowserMode InBrowserMode)
 	: BrowserMode(InBrowserMode)
-	, TextShaper(MakeUnique<FQtTextShaper>())
+	, TextShaper(MakeDesktopTextShaper())
 {
 	qInstallMessageHandler(LogQtMessage);
 	FPlatformHooks::Get().LaunchURL = [this](const FString& Address, FString& OutError)
@@ -71,11 +71,6 @@ FDesktopApplication::~FDesktopApplication()
 void FDesktopApplication::ForgetHost(const QSlateWidget* Host)
 {
 	ActiveHost = ActiveHost == Host ? nullptr : ActiveHost;
-}
-
-ITextShaper& FDesktopApplication::GetTextShaper()
-{
-	return *TextShaper;
 }
 
 FString FDesktopApplication::GetClipboardText()

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "Application/SlateDesktop.h"
+#include "Fonts/TextShaper.h"
 #include "FrameLoop.h"
 
-class FQtTextShaper;
 class QSlateWidget;
 
 /** What becomes of an address that the program opens. */
@@ -46,7 +46,7 @@ public:
 	void SetActiveHost(QSlateWidget* Host) { ActiveHost = Host; }
 	void ForgetHost(const QSlateWidget* Host);
 
-	ITextShaper& GetTextShaper() override;
+	ITextShaper& GetTextShaper() override { return *TextShaper; }
 	FString GetClipboardText() override;
 	void SetClipboardText(const FString& Text) override;
 	void LaunchURL(const FString& Url) override;
@@ -57,7 +57,7 @@ public:
 private:
 	EBrowserMode BrowserMode;
 	FFrameLoop FrameLoop;
-	TUniquePtr<FQtTextShaper> TextShaper;
+	TUniquePtr<ITextShaper> TextShaper;
 	TArray<FString> OpenedAddresses;
 	QSlateWidget* ActiveHost = nullptr;
 };

@@ -10,6 +10,7 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QRawFont>
+#include <QSet>
 #include <QtEndian>
 
 struct FFaceSource
@@ -46,8 +47,15 @@ static const FFaceSource EmojiSource = {
 static const QStringList FallbackFamilies = {"Noto Sans", "Noto Sans Math", "Noto Sans Symbols", "Noto Sans Symbols2", "Noto Sans Arabic",
 	"Noto Sans Hebrew", "Noto Sans Thai", "Noto Sans Devanagari", "Noto Sans CJK SC", "DejaVu Sans", "Noto Color Emoji"};
 
+// Once in a process, to which its fonts belong.
 static void LoadFile(const FFaceSource& Source)
 {
+	static QSet<const char*> Loaded;
+	if (Loaded.contains(Source.File))
+	{
+		return;
+	}
+	Loaded.insert(Source.File);
 	const QString Path = QStringLiteral("/usr/share/fonts/truetype/") + QLatin1String(Source.File);
 	const bool bLoaded = QFile::exists(Path) && QFontDatabase::addApplicationFont(Path) >= 0;
 	if (!bLoaded && !QFontDatabase::families().contains(QLatin1String(Source.Family)))

@@ -2,6 +2,7 @@
 
 #include "Fonts/QtTextShaper.h"
 
+#include "Fonts/DesktopTextShaper.h"
 #include "Fonts/EmojiSegments.h"
 #include "QtConversion.h"
 
@@ -135,4 +136,9 @@ FFontMetrics FQtTextShaper::GetMetrics(const FSlateFontInfo& Font, float Scale)
 	Metrics.UnderlineOffset = Measures.UnderlineOffset * PixelSize;
 	Metrics.UnderlineThickness = Measures.UnderlineThickness * PixelSize;
 	return Metrics;
+}
+
+TUniquePtr<ITextShaper> MakeDesktopTextShaper()
+{
+	return MakeUnique<FQtTextShaper>();
 }
