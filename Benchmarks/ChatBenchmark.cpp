@@ -1,0 +1,58 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Chat/ChatItemWidgets/SMarkdownTextbox.h"
+#include "Chat/SChatItem.h"
+#include "MarkdownParser.h"
+#include "OffscreenChat.h"
+#include "SampleText.h"
+
+#include <benchmark/benchmark.h>
+
+namespace
+{
+void ReportFrames(benchmark::State& State, TArray<FFrameCost>& Frames)
+{
+	Frames.Sort([](const FFrameCost& Lhs, const FFrameCost& Rhs) { return Lhs.GetTotal() < Rhs.GetTotal(); });
+	State.counters["p50_ms"] = Frames[Frames.Num() / 2].GetTotal();
+	State.counters["p95_ms"] = Frames[Frames.Num() * 95 / 100].GetTotal();
+	State.counters["max_ms"] = Frames.Last().GetTotal();
+	State.counters["max_content"] = Frames.Last().Content;
+	State.counters["max_layout"] = Frames.Last().Layout;
+	State.counters["max_paint"] = Frames.Last().Paint;
+}
+
+// From markup to the picture, in a new view each time: the runs, the shaping of what the cache does not hold, the wrapping, the paint.
+void LayOutMarkup(benchmark::State& State)
+{
+	UMarkdownParser* Parser = NewObject<UMarkdownParser>();
+	Parser->SetContent(MakeSampleMarkdown(static_cast<int32>(State.range(0))));
+	Parser->Parse();
+	const FString Markup = Parser->RenderToHTML();
+	for (auto _ : State)
+	{
+		FOffscreenChat Chat;
+		Chat.RunFrame([&] { Chat.AddTextbox()->SetMarkdownText(Markup); });
+	}
+	State.SetBytesProcessed(State.iterations() * Markup.Len());
+}
+BENCHMARK(LayOutMarkup)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+
+// An answer of range(0) characters that arrives in pieces of range(1), one a frame. A frame counts from the arrival to the picture.
+void StreamAnswer(benchmark::State& State)
+{
+	const FString Markdown = MakeSampleMarkdown(static_cast<int32>(State.range(0)));
+	const auto PieceLength = static_cast<int32>(State.range(1));
+	FOffscreenChat Chat;
+	TArray<FFrameCost> Frames;
+	for (auto _ : State)
+	{
+		const TSharedRef<SChatItem> Answer = Chat.AddAnswer();
+		for (int32 Position = 0; Position < Markdown.Len(); Position += PieceLength)
+		{
+			Frames.Add(Chat.RunFrame([&] { Answer->AddMessageContent(Markdown.Mid(Position, PieceLength)); }));
+		}
+	}
+	ReportFrames(State, Frames);
+}
+BENCHMARK(StreamAnswer)->Args({20'000, 20})->Args({1'000'000, 5'000})->Iterations(1)->Unit(benchmark::kMillisecond);
+} // namespace

@@ -1,0 +1,94 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "OffscreenChat.h"
+
+#include "Chat/ChatItemWidgets/SMarkdownTextbox.h"
+#include "Chat/SChatItem.h"
+#include "DesktopApplication.h"
+#include "Framework/Application/SlateApplication.h"
+#include "QSlateWidget.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/Layout/SScrollBox.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/SWindow.h"
+
+#include <ctime>
+
+namespace
+{
+constexpr int Width = 1000;
+constexpr int Height = 800;
+constexpr float ColumnWidth = 700.0f;
+constexpr float FrameSeconds = 0.016f;
+
+double GetProcessorMilliseconds()
+{
+	timespec Time = {};
+	::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &Time);
+	return static_cast<double>(Time.tv_sec) * 1e3 + static_cast<double>(Time.tv_nsec) * 1e-6;
+}
+
+template <typename WorkType>
+double Measure(WorkType Work)
+{
+	const double Start = GetProcessorMilliseconds();
+	Work();
+	return GetProcessorMilliseconds() - Start;
+}
+} // namespace
+
+FOffscreenChat::FOffscreenChat()
+{
+	// clang-format off
+	Window = SNew(SWindow)
+	[
+		SNew(SBox)
+		.HAlign(HAlign_Center)
+		[
+			SNew(SBox)
+			.WidthOverride(ColumnWidth)
+			[
+				SAssignNew(ScrollBox, SScrollBox)
+				+ SScrollBox::Slot()
+				[
+					SAssignNew(Messages, SVerticalBox)
+				]
+			]
+		]
+	];
+	// clang-format on
+	Host = MakeUnique<QSlateWidget>(FDesktopApplication::Get(), Window.ToSharedRef());
+	Host->resize(Width, Height);
+	Host->show();
+	RunFrame([] {});
+}
+
+FOffscreenChat::~FOffscreenChat() = default;
+
+TSharedRef<SChatItem> FOffscreenChat::AddAnswer()
+{
+	const TSharedRef<SChatItem> Item = SNew(SChatItem).Role(EChatRole::Assistant);
+	Messages->AddSlot().AutoHeight()[Item];
+	return Item;
+}
+
+TSharedRef<SMarkdownTextbox> FOffscreenChat::AddTextbox()
+{
+	const TSharedRef<SMarkdownTextbox> Textbox = SNew(SMarkdownTextbox);
+	Messages->AddSlot().AutoHeight()[Textbox];
+	return Textbox;
+}
+
+FFrameCost FOffscreenChat::RunFrame(TFunction<void()> ChangeContent)
+{
+	FFrameCost Cost;
+	Cost.Content = Measure(
+		[&]
+		{
+			ChangeContent();
+			ScrollBox->ScrollToEnd();
+		});
+	Cost.Layout = Measure([] { FSlateApplication::Get().Tick(FrameSeconds); });
+	Cost.Paint = Measure([] { FDesktopApplication::Get().GetFrameLoop().OnShowFrame.Broadcast(); });
+	return Cost;
+}
