@@ -50,7 +50,7 @@ struct FBound
 			});
 	}
 };
-}
+} // namespace
 
 TEST(BoundAttributes, AreReadOnceAFrameBeforeLayout)
 {
@@ -131,7 +131,7 @@ public:
 
 	TSharedPtr<SProbe> Probe;
 };
-}
+} // namespace
 
 TEST(BoundAttributes, AWidgetThatHasGoneLeavesItsLastValue)
 {

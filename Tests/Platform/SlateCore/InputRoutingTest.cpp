@@ -30,7 +30,7 @@ protected:
 	const FVector2D OnUpper = FVector2D(5.0, 5.0);
 	const FVector2D OnLower = FVector2D(50.0, 50.0);
 };
-}
+} // namespace
 
 TEST_F(InputRouting, TheUppermostUnderTheMouseIsAsked)
 {
@@ -174,7 +174,7 @@ private:
 		return FReply::Handled();
 	}
 };
-}
+} // namespace
 
 TEST(Bubbling, WhatAWidgetLeavesGoesToWhatItStandsIn)
 {
@@ -229,8 +229,7 @@ TEST(RenderTransforms, MoveWhatIsHit)
 
 TEST(RenderTransforms, TurnAboutTheirPivot)
 {
-	const TSharedRef<SProbe> Probe =
-		SNew(SProbe).RenderTransform(FSlateRenderTransform(2.0f)).RenderTransformPivot(FVector2D(0.5, 0.5));
+	const TSharedRef<SProbe> Probe = SNew(SProbe).RenderTransform(FSlateRenderTransform(2.0f)).RenderTransformPivot(FVector2D(0.5, 0.5));
 	FUserDriver User(Probe, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
 	const FGeometry& Geometry = Probe->GetCachedGeometry();
 	EXPECT_EQ(Geometry.LocalToAbsolute(FVector2D(50.0, 50.0)), FVector2D(50.0, 50.0));

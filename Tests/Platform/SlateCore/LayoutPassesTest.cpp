@@ -61,7 +61,7 @@ protected:
 	TSharedPtr<SVerticalBox> Right;
 	TOptional<FUserDriver> User;
 };
-}
+} // namespace
 
 TEST_F(LayoutPasses, TheFirstFrameVisitsEverythingOnce)
 {
@@ -228,7 +228,7 @@ class SRestlessProbe : public SWrappingProbe
 protected:
 	void OnArranged(const FGeometry&) override { Invalidate(EInvalidateWidgetReason::Layout); }
 };
-}
+} // namespace
 
 TEST(WrappingLayout, LayoutThatNeverSettlesIsCutOffAndDrawn)
 {

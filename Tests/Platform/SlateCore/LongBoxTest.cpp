@@ -68,7 +68,7 @@ protected:
 	TSharedRef<SViewport> View = SNew(SViewport)[Box];
 	FUserDriver User{View, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even};
 };
-}
+} // namespace
 
 TEST_F(LongBox, KnowsTheHeightOfEveryChildSeenOrNot)
 {

@@ -9,11 +9,11 @@ namespace
 class SNullWidgetContent final : public SLeafWidget
 {
 public:
-	SNullWidgetContent()
-	{
-		bKnowsNoParent = true;
-		SetVisibility(EVisibility::HitTestInvisible);
-	}
+	SLATE_BEGIN_ARGS(SNullWidgetContent) { _Visibility = EVisibility::HitTestInvisible; }
+	SLATE_END_ARGS()
+
+	SNullWidgetContent() { bKnowsNoParent = true; }
+	void Construct(const FArguments&) {}
 
 protected:
 	virtual FVector2D ComputeDesiredSize(float) const override { return FVector2D(0.0, 0.0); }
@@ -25,4 +25,4 @@ protected:
 };
 } // namespace
 
-TSharedRef<SWidget> SNullWidget::NullWidget = MakeShared<SNullWidgetContent>();
+TSharedRef<SWidget> SNullWidget::NullWidget = MakeSlateDecl<SNullWidgetContent>(TEXT("SNullWidget")) <<= SNullWidgetContent::FArguments();

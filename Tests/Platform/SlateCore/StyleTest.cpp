@@ -1,0 +1,145 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Brushes/SlateBorderBrush.h"
+#include "Brushes/SlateBoxBrush.h"
+#include "Brushes/SlateColorBrush.h"
+#include "Brushes/SlateImageBrush.h"
+#include "Brushes/SlateNoResource.h"
+#include "Brushes/SlateRoundedBoxBrush.h"
+#include "Styling/SlateStyle.h"
+#include "Styling/SlateStyleRegistry.h"
+#include "Styling/SlateTypes.h"
+#include "Styling/WidgetStyle.h"
+#include "Support/Printers.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+const FLinearColor Orange(1.0f, 0.5f, 0.0f);
+
+class Style : public testing::Test
+{
+protected:
+	FSlateStyleSet Set{FName(TEXT("TestStyle"))};
+};
+} // namespace
+
+TEST_F(Style, AMissingNameYieldsTheDefaultOfItsKind)
+{
+	EXPECT_EQ(Set.GetColor("None"), FLinearColor::White);
+	EXPECT_EQ(Set.GetColor("None", nullptr, Orange), Orange);
+	EXPECT_EQ(Set.GetSlateColor("None", nullptr, FSlateColor::UseForeground()), FSlateColor::UseForeground());
+	EXPECT_EQ(Set.GetSlateColor("None"), FStyleDefaults::DefaultSlateColor);
+	EXPECT_EQ(Set.GetFloat("None", nullptr, 3.0f), 3.0f);
+	EXPECT_EQ(Set.GetVector("None"), FVector2D(0.0, 0.0));
+	EXPECT_EQ(Set.GetMargin("None"), FMargin());
+	EXPECT_EQ(Set.GetBrush("None")->DrawAs, ESlateBrushDrawType::NoDrawType);
+	EXPECT_EQ(Set.GetOptionalBrush("None", nullptr, nullptr), nullptr);
+	EXPECT_EQ(&Set.GetWidgetStyle<FButtonStyle>("None"), &FButtonStyle::GetDefault());
+	EXPECT_FALSE(Set.HasWidgetStyle<FButtonStyle>("None"));
+	EXPECT_EQ(FButtonStyle::GetDefault().Normal.DrawAs, ESlateBrushDrawType::NoDrawType);
+}
+
+TEST_F(Style, NamesCompareIgnoringCaseAndTakeASpecifier)
+{
+	Set.Set("Button.Color", Orange);
+	Set.Set("Button.Color.Hovered", FLinearColor::Red);
+	EXPECT_EQ(Set.GetColor("button.COLOR"), Orange);
+	EXPECT_EQ(Set.GetColor("Button.Color", ".Hovered"), FLinearColor::Red);
+}
+
+TEST_F(Style, EachKindOfColorIsReadAsEither)
+{
+	Set.Set("Linear", Orange);
+	Set.Set("Slate", FSlateColor(Orange));
+	Set.Set("Inherited", FSlateColor::UseForeground());
+	EXPECT_EQ(Set.GetSlateColor("Linear"), FSlateColor(Orange));
+	EXPECT_EQ(Set.GetColor("Slate"), Orange);
+	EXPECT_EQ(Set.GetColor("Inherited", nullptr, FLinearColor::Red), FLinearColor::Red) << "it is no color by itself";
+	Set.Set("Slate", FSlateColor::UseForeground());
+	EXPECT_EQ(Set.GetColor("Slate", nullptr, FLinearColor::Red), FLinearColor::Red);
+	Set.Set("Copy", Set.GetColor("Linear"));
+	EXPECT_EQ(Set.GetColor("Copy"), Orange) << "a value read from the set itself";
+}
+
+TEST_F(Style, AWidgetStyleOfAnotherTypeCountsAsMissing)
+{
+	Set.Set("Text", FTextBlockStyle().SetFont(FSlateFontInfo("Bold", 12.0f)));
+	EXPECT_EQ(Set.GetWidgetStyle<FTextBlockStyle>("Text").Font.Size, 12.0f);
+	EXPECT_FALSE(Set.HasWidgetStyle<FButtonStyle>("Text"));
+	EXPECT_EQ(&Set.GetWidgetStyle<FButtonStyle>("Text"), &FButtonStyle::GetDefault());
+}
+
+TEST_F(Style, WhatWasHandedOutOutlivesBeingReplaced)
+{
+	Set.Set("Brush", new FSlateColorBrush(Orange));
+	Set.Set("Text", FTextBlockStyle());
+	const FSlateBrush* Brush = Set.GetBrush("Brush");
+	const FTextBlockStyle& Text = Set.GetWidgetStyle<FTextBlockStyle>("Text");
+	Set.Set("Brush", new FSlateColorBrush(FLinearColor::Red));
+	Set.Set("Text", FTextBlockStyle().SetFont(FSlateFontInfo("Bold", 99.0f)));
+	EXPECT_EQ(Brush->TintColor, FSlateColor(Orange));
+	EXPECT_NE(Text.Font.Size, 99.0f);
+	EXPECT_EQ(Set.GetBrush("Brush")->TintColor, FSlateColor(FLinearColor::Red));
+}
+
+TEST_F(Style, PathsStartAtTheContentRoot)
+{
+	EXPECT_EQ(Set.RootToContentDir(TEXT("Old/Line"), TEXT(".png")), TEXT("Old/Line.png"));
+	Set.SetContentRoot(TEXT("Content/Slate"));
+	EXPECT_EQ(Set.RootToContentDir(TEXT("Old/Line"), TEXT(".png")), TEXT("Content/Slate/Old/Line.png"));
+}
+
+TEST_F(Style, TheRegistryBearsRepetitionAndNamesBrushes)
+{
+	Set.Set("Icon.Send", new FSlateColorBrush(Orange));
+	const FSlateBrush* Brush = Set.GetBrush("Icon.Send");
+	EXPECT_EQ(FSlateStyleRegistry::FindBrushName(Brush), FName()) << "not registered";
+	FSlateStyleRegistry::RegisterSlateStyle(Set);
+	FSlateStyleRegistry::RegisterSlateStyle(Set);
+	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("teststyle"), &Set);
+	EXPECT_EQ(FSlateStyleRegistry::FindBrushName(Brush), FName("Icon.Send"));
+	{
+		const FSlateStyleSet Other("TestStyle");
+		FSlateStyleRegistry::RegisterSlateStyle(Other);
+		FSlateStyleRegistry::UnRegisterSlateStyle(Other);
+	}
+	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("TestStyle"), &Set) << "another set of that name changes nothing";
+	FSlateStyleRegistry::UnRegisterSlateStyle(Set);
+	FSlateStyleRegistry::UnRegisterSlateStyle(Set);
+	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("TestStyle"), nullptr);
+	EXPECT_EQ(FSlateStyleRegistry::FindBrushName(Brush), FName());
+}
+
+TEST(Brushes, SayWhatTheyAre)
+{
+	EXPECT_EQ(FSlateColorBrush(Orange).TintColor, FSlateColor(Orange));
+	const FSlateRoundedBoxBrush Rounded(Orange, 4.0f);
+	EXPECT_EQ(Rounded.DrawAs, ESlateBrushDrawType::RoundedBox);
+	EXPECT_EQ(Rounded.OutlineSettings.CornerRadii, (FVector4{4.0, 4.0, 4.0, 4.0}));
+	EXPECT_EQ(Rounded.OutlineSettings.Color, FSlateColor(FLinearColor::Transparent));
+	EXPECT_EQ(Rounded.OutlineSettings.Width, 0.0f);
+	const FSlateImageBrush Image(TEXT("a.png"), FVector2D(16.0, 8.0));
+	EXPECT_EQ(Image.GetResourceName(), FName("a.png"));
+	EXPECT_EQ(Image.ImageType, ESlateBrushImageType::FullColor);
+	EXPECT_EQ(FSlateVectorImageBrush(TEXT("a.svg"), FVector2D(16.0, 8.0)).ImageType, ESlateBrushImageType::Vector);
+	EXPECT_EQ(FSlateBoxBrush(TEXT("a.png"), FMargin(0.375f)).DrawAs, ESlateBrushDrawType::Box);
+	EXPECT_EQ(FSlateBorderBrush(TEXT("a.png"), FMargin(0.0f, 0.0f, 0.0f, 0.1875f)).Margin.Bottom, 0.1875f);
+	EXPECT_EQ(FSlateNoResource().GetImageSize(), FVector2D(0.0, 0.0));
+	EXPECT_FALSE(Image == FSlateImageBrush(TEXT("b.png"), FVector2D(16.0, 8.0)));
+}
+
+TEST(SlateColor, IsTakenFromItsSurroundingsOrGiven)
+{
+	FWidgetStyle Around;
+	Around.SetForegroundColor(Orange);
+	EXPECT_EQ(FSlateColor(FLinearColor::Red).GetColor(Around), FLinearColor::Red);
+	EXPECT_EQ(FSlateColor::UseForeground().GetColor(Around), Orange);
+	EXPECT_EQ(FSlateColor::UseStyle().GetColor(Around), Orange);
+	EXPECT_LT(FSlateColor::UseSubduedForeground().GetColor(Around).A, Orange.A);
+	Around.SetForegroundColor(FSlateColor::UseForeground());
+	EXPECT_EQ(Around.GetForegroundColor(), Orange) << "inherited further";
+	Around.BlendColorAndOpacityTint(FLinearColor(1.0f, 1.0f, 1.0f, 0.5f)).BlendColorAndOpacityTint(FLinearColor(1.0f, 1.0f, 1.0f, 0.5f));
+	EXPECT_EQ(Around.GetColorAndOpacityTint().A, 0.25f);
+}
