@@ -49,7 +49,8 @@ void SChatPanel::Construct(const FArguments& InArgs)
 // clang-format off
 TSharedRef<SWidget> SChatPanel::ConstructInterface()
 {
-	// The notification comes before the children that push to it.
+	// Before the children that push to it: the slots of one expression may be built in any order.
+	SAssignNew(Notification, SNotification);
 	return SNew(SBorder)
 		.BorderImage(FVorelAIStyle::Get().GetBrush("VorelAI.Background.Dark"))
 		.Padding(FMargin(0.0f, 0.0f, 0.0f, 0.0f))
@@ -63,7 +64,7 @@ TSharedRef<SWidget> SChatPanel::ConstructInterface()
 			+ SVerticalBox::Slot()
 			.AutoHeight()
 			[
-				SAssignNew(Notification, SNotification)
+				Notification.ToSharedRef()
 			]
 			+ SVerticalBox::Slot()
 			.FillHeight(1.0f)
