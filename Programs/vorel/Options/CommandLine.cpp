@@ -1,0 +1,132 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Options/CommandLine.h"
+
+namespace
+{
+using FSetOption = bool (*)(FCommandLine& Line, const FString& Value);
+
+struct FOption
+{
+	const TCHAR* Name;
+	// Null for an option that stands alone.
+	const TCHAR* ValueName;
+	const TCHAR* Help;
+	// False where the value can't be used.
+	FSetOption Set;
+	// What is wrong then: "--size needs ...".
+	const TCHAR* Needs = nullptr;
+};
+
+bool SetText(FString& Target, const FString& Value)
+{
+	Target = Value;
+	return !Value.IsEmpty();
+}
+
+bool SetSize(FCommandLine& Line, const FString& Value)
+{
+	const TOptional<FContentSize> Size = ReadNumber::Size(Value);
+	Line.Size = Size.Get(FContentSize());
+	return Size.IsSet();
+}
+
+bool SetScale(FCommandLine& Line, const FString& Value)
+{
+	constexpr double Least = 0.25;
+	constexpr double Most = 8.0;
+	Line.Scale = ReadNumber::Decimal(Value);
+	return Line.Scale && *Line.Scale >= Least && *Line.Scale <= Most;
+}
+
+bool SetAssistantUrl(FCommandLine& Line, const FString& Value)
+{
+	const bool bWeb = Value.StartsWith(TEXT("http://")) || Value.StartsWith(TEXT("https://"));
+	return bWeb && SetText(Line.AssistantUrl, Value);
+}
+
+// clang-format off
+const FOption Options[] = {
+	{TEXT("--offscreen"), nullptr, TEXT("Use no display."),
+		[](FCommandLine& Line, const FString&) { return Line.bOffscreen = true; }},
+	{TEXT("--size"), TEXT("WxH"), TEXT("Size of the tab's content in units (1000x800)."), &SetSize,
+		TEXT("a width and a height from 1 to 8192, like 1000x800")},
+	{TEXT("--scale"), TEXT("F"), TEXT("Device pixels per unit (what the desktop says, 1 offscreen)."), &SetScale,
+		TEXT("a number from 0.25 to 8")},
+	{TEXT("--data-dir"), TEXT("DIR"), TEXT("Folder for settings and data (the user's own data folder)."),
+		[](FCommandLine& Line, const FString& Value) { return SetText(Line.DataDir, Value); }, TEXT("a folder")},
+	{TEXT("--assistant"), TEXT("URL"), TEXT("Base address of a server for streaming chat completions (the built-in guide)."), &SetAssistantUrl,
+		TEXT("an address that begins with http:// or https://")},
+	{TEXT("--model"), TEXT("NAME"), TEXT("Model to ask for there (the first one that the server names)."),
+		[](FCommandLine& Line, const FString& Value) { return SetText(Line.Model, Value); }, TEXT("a name")},
+	{TEXT("--play"), TEXT("FILE"), TEXT("Do what a play file says, and end."),
+		[](FCommandLine& Line, const FString& Value) { return SetText(Line.PlayFile, Value); }, TEXT("a file")},
+	{TEXT("--help"), nullptr, TEXT("Print this text, and end."),
+		[](FCommandLine& Line, const FString&) { return Line.bHelp = true; }},
+	{TEXT("--version"), nullptr, TEXT("Print the version, and end."),
+		[](FCommandLine& Line, const FString&) { return Line.bVersion = true; }},
+};
+// clang-format on
+
+const FOption* FindOption(const FString& Name)
+{
+	for (const FOption& Option : Options)
+	{
+		if (Name.Equals(Option.Name))
+		{
+			return &Option;
+		}
+	}
+	return nullptr;
+}
+
+// Reads the option at Index, and moves Index to its last argument. Returns what is wrong with it, or nothing.
+FString ReadOption(const TArray<FString>& Arguments, int32& Index, FCommandLine& Line)
+{
+	FString Name = Arguments[Index];
+	FString Value;
+	const bool bHasValue = Name.StartsWith(TEXT("--")) && Name.Split(TEXT("="), &Name, &Value);
+	const FOption* const Option = FindOption(Name);
+	if (!Option)
+	{
+		return FString::Printf(TEXT("there is no option %s, see --help"), *Name);
+	}
+	if (!Option->ValueName && bHasValue)
+	{
+		return FString::Printf(TEXT("%s takes no value"), *Name);
+	}
+	if (Option->ValueName && !bHasValue)
+	{
+		Value = Arguments.IsValidIndex(Index + 1) ? Arguments[++Index] : FString();
+	}
+	return Option->Set(Line, Value) ? FString() : FString::Printf(TEXT("%s needs %s"), *Name, Option->Needs);
+}
+} // namespace
+
+TOptional<FCommandLine> FCommandLine::Parse(const TArray<FString>& Arguments, FString& OutError)
+{
+	FCommandLine Line;
+	for (int32 Index = 0; Index < Arguments.Num(); ++Index)
+	{
+		OutError = ReadOption(Arguments, Index, Line);
+		if (!OutError.IsEmpty())
+		{
+			return NullOpt;
+		}
+	}
+	return Line;
+}
+
+FString FCommandLine::GetHelp()
+{
+	FString Help = TEXT("Usage: vorel [options]\n\nOpens the editor window with the assistant's tab in its Tools menus.\n\n");
+	for (const FOption& Option : Options)
+	{
+		const FString Form = FString(Option.Name) + (Option.ValueName ? FString(TEXT(" ")) + Option.ValueName : FString());
+		Help += FString::Printf(TEXT("  %s%s%s\n"), *Form, *FString::ChrN(20 - Form.Len(), TEXT(' ')), Option.Help);
+	}
+	return Help +
+		TEXT("\nWithout --assistant and without such an entry in the settings, the built-in guide answers. A server's key is taken from the\n"
+			 "environment variable VOREL_ASSISTANT_KEY.\n"
+			 "Exit status: 0, or 1 where a step of a play file failed, or 2 where an option or a file can't be read.\n");
+}

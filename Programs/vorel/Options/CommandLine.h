@@ -1,0 +1,27 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Options/ReadNumber.h"
+
+// What the program was asked for on its command line.
+struct FCommandLine
+{
+	bool bHelp = false;
+	bool bVersion = false;
+	bool bOffscreen = false;
+	FContentSize Size;
+	// Device pixels per unit; unset: what the desktop says.
+	TOptional<double> Scale;
+	// Each empty where it was not given.
+	FString DataDir;
+	FString AssistantUrl;
+	FString Model;
+	FString PlayFile;
+
+	// Unset, with one sentence for the user, where there is something wrong with an option. An option's value follows it, or stands behind
+	// its equals sign; of an option given twice the last counts.
+	static TOptional<FCommandLine> Parse(const TArray<FString>& Arguments, FString& OutError);
+
+	static FString GetHelp();
+};
