@@ -1,0 +1,122 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Application/VorelProgram.h"
+
+#include "Application/GarbageTimer.h"
+#include "Application/NoticeLog.h"
+#include "Application/VorelStage.h"
+#include "DataFolder.h"
+#include "DesktopApplication.h"
+#include "Editor.h"
+#include "Frame/EditorFrame.h"
+#include "Frame/FrameStyle.h"
+#include "Interfaces/IPluginManager.h"
+#include "Modules/ModuleManager.h"
+#include "Options/CommandLine.h"
+#include "Play/PlayRunner.h"
+#include "ToolMenus.h"
+#include "UObject/UObjectGlobals.h"
+#include "VorelClientOptions.h"
+#include "VorelUserSettings.h"
+#include "Widgets/Text/SMultiLineEditableText.h"
+
+#include <QApplication>
+#include <QUrl>
+#include "QtConversion.h"
+#include <cstdio>
+
+namespace
+{
+// Everything below the window, in the order of its needs; goes in the reverse order.
+class FPlatformScope
+{
+public:
+	FPlatformScope(EBrowserMode BrowserMode)
+		: Desktop(FDesktopApplication::Create(BrowserMode))
+	{
+		UEditorEngine::Startup();
+		UToolMenus::Startup();
+	}
+
+	~FPlatformScope()
+	{
+		FModuleManager::Get().UnloadModulesAtShutdown();
+		UToolMenus::Shutdown();
+		UEditorEngine::Shutdown();
+		FDesktopApplication::Shutdown();
+		CollectGarbage();
+	}
+
+	FPlatformScope(const FPlatformScope&) = delete;
+	FPlatformScope& operator=(const FPlatformScope&) = delete;
+
+	FDesktopApplication& GetDesktop() { return *Desktop; }
+
+private:
+	TSharedRef<FDesktopApplication> Desktop;
+};
+
+FString GetAssistantName(const FCommandLine& Line)
+{
+	const FString& FromSettings = UVorelUserSettings::Get()->GetValues().AssistantUrl;
+	const FString& Address = Line.AssistantUrl.IsEmpty() ? FromSettings : Line.AssistantUrl;
+	return Address.IsEmpty() ? FString(TEXT("Built-in guide")) : ToFString(QUrl(ToQString(Address)).host());
+}
+
+int RunScript(QApplication& Application, IPlayStage& Stage, const FPlayScript& Script)
+{
+	FString Problem = TEXT("the window was closed before the end");
+	FPlayRunner Runner(Stage, Script,
+		[&Problem](const FString& Ended)
+		{
+			Problem = Ended;
+			QApplication::quit();
+		});
+	SMultiLineEditableText::SetCaretBlinking(false);
+	Runner.Start();
+	Application.exec();
+	if (!Problem.IsEmpty())
+	{
+		std::fprintf(stderr, "%s\n", TCHAR_TO_UTF8(Problem));
+	}
+	return Problem.IsEmpty() ? 0 : 1;
+}
+} // namespace
+
+int RunVorel(QApplication& Application, const FCommandLine& Line, const FPlayScript* Script)
+{
+	FString FirstNotice;
+	FDataFolder::Set(Line.DataDir);
+	if (!FDataFolder::Create(FirstNotice) && !Line.DataDir.IsEmpty())
+	{
+		std::fprintf(stderr, "vorel: %s\n", TCHAR_TO_UTF8(FirstNotice));
+		return 2;
+	}
+	FVorelClientOptions::Set({Line.AssistantUrl, Line.Model});
+
+	FPlatformScope Platform(Script ? EBrowserMode::Record : EBrowserMode::Open);
+	FEditorFrame* Frame = nullptr;
+	FNoticeLog NoticeLog(
+		[&](const FString& Notice)
+		{
+			FirstNotice = Notice;
+			if (Frame)
+			{
+				Frame->ShowNotice(Notice);
+			}
+		});
+	FrameStyle::Apply(Application);
+	IPluginManager::Get().LoadModulesForEnabledPlugins();
+
+	FEditorFrame Window(Platform.GetDesktop(), Line.Size);
+	Frame = &Window;
+	Window.ShowNotice(FirstNotice);
+	Window.SetAssistantName(GetAssistantName(Line));
+	Window.show();
+	Window.ResizeTabContent(Line.Size);
+	NoticeLog.EndStartup();
+	const FGarbageTimer GarbageTimer(Platform.GetDesktop().GetFrameLoop());
+
+	FVorelStage Stage(Platform.GetDesktop(), Window);
+	return Script ? RunScript(Application, Stage, *Script) : Application.exec();
+}
