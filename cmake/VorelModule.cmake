@@ -37,10 +37,11 @@ function(vorel_module name)
 endfunction()
 
 # vorel_link_modules(target module...)
-# Links registered modules whole, each once.
+# Links registered modules whole, each once, also where one of them needs another.
 function(vorel_link_modules target)
 	foreach(module IN LISTS ARGN)
-		target_link_libraries(${target} PRIVATE "$<LINK_LIBRARY:WHOLE_ARCHIVE,${module}>")
+		target_link_libraries(${target} PRIVATE ${module})
+		set_property(TARGET ${target} PROPERTY LINK_LIBRARY_OVERRIDE_${module} WHOLE_ARCHIVE)
 	endforeach()
 endfunction()
 

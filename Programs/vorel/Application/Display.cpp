@@ -5,7 +5,7 @@
 #include "Options/CommandLine.h"
 
 #include <QByteArray>
-#include <QtLogging>
+#include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
 

@@ -4,9 +4,9 @@
 
 #include "Play/KeyStroke.h"
 
+#include <QEvent>
 #include <QPointF>
 
-class QEvent;
 class QSlateWidget;
 
 // Mouse and keyboard of one tab's content. Positions are in units from its top left corner.
