@@ -7,6 +7,7 @@
 #include "Styling/AppStyle.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
 

@@ -1,0 +1,93 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Options/CommandLine.h"
+#include "Support/Printers.h"
+
+namespace
+{
+struct FBadLine
+{
+	TArray<FString> Arguments;
+	const TCHAR* Error;
+};
+
+FCommandLine Parse(const TArray<FString>& Arguments)
+{
+	FString Error;
+	const TOptional<FCommandLine> Line = FCommandLine::Parse(Arguments, Error);
+	EXPECT_TRUE(Line.IsSet()) << Error;
+	return Line.Get(FCommandLine());
+}
+} // namespace
+
+TEST(CommandLine, WithoutOptionsHoldsTheDefaults)
+{
+	const FCommandLine Line = Parse({});
+	EXPECT_FALSE(Line.bOffscreen || Line.bHelp || Line.bVersion);
+	EXPECT_EQ(Line.Size, (FContentSize{1000, 800}));
+	EXPECT_FALSE(Line.Scale.IsSet());
+	EXPECT_TRUE(Line.PlayFile.IsEmpty() && Line.DataDir.IsEmpty() && Line.AssistantUrl.IsEmpty() && Line.Model.IsEmpty());
+}
+
+TEST(CommandLine, TakesValuesBehindABlankOrAnEqualsSign)
+{
+	const FCommandLine Line = Parse({TEXT("--offscreen"), TEXT("--size"), TEXT("640x480"), TEXT("--scale=1.5"), TEXT("--data-dir"), TEXT("a=b"),
+		TEXT("--assistant=https://host/v1?a=b"), TEXT("--model"), TEXT("--odd"), TEXT("--play=x.play")});
+	EXPECT_TRUE(Line.bOffscreen);
+	EXPECT_EQ(Line.Size, (FContentSize{640, 480}));
+	EXPECT_EQ(*Line.Scale, 1.5);
+	EXPECT_TEXT(Line.DataDir, TEXT("a=b"));
+	EXPECT_TEXT(Line.AssistantUrl, TEXT("https://host/v1?a=b"));
+	EXPECT_TEXT(Line.Model, TEXT("--odd"));
+	EXPECT_TEXT(Line.PlayFile, TEXT("x.play"));
+}
+
+TEST(CommandLine, TheLastOfTwoCounts)
+{
+	EXPECT_TEXT(Parse({TEXT("--model=a"), TEXT("--model=b")}).Model, TEXT("b"));
+}
+
+TEST(CommandLine, SaysWhatIsWrong)
+{
+	const TCHAR* const Size = TEXT("--size needs a width and a height from 1 to 8192, like 1000x800");
+	const TCHAR* const Scale = TEXT("--scale needs a number from 0.25 to 8");
+	const TCHAR* const Url = TEXT("--assistant needs an address that begins with http:// or https://");
+	const FBadLine Lines[] = {
+		{{TEXT("--ofscreen")}, TEXT("there is no option --ofscreen, see --help")},
+		{{TEXT("--Help")}, TEXT("there is no option --Help, see --help")},
+		{{TEXT("file.play")}, TEXT("there is no option file.play, see --help")},
+		{{TEXT("")}, TEXT("there is no option , see --help")},
+		{{TEXT("--offscreen=yes")}, TEXT("--offscreen takes no value")},
+		{{TEXT("--help"), TEXT("--size")}, Size},
+		{{TEXT("--size=1000")}, Size},
+		{{TEXT("--size=0x800")}, Size},
+		{{TEXT("--size=1000x8193")}, Size},
+		{{TEXT("--size=1000x 800")}, Size},
+		{{TEXT("--size=99999999999x1")}, Size},
+		{{TEXT("--scale=0")}, Scale},
+		{{TEXT("--scale=1,5")}, Scale},
+		{{TEXT("--scale=nan")}, Scale},
+		{{TEXT("--scale=9")}, Scale},
+		{{TEXT("--assistant=ftp://host")}, Url},
+		{{TEXT("--assistant")}, Url},
+		{{TEXT("--model=")}, TEXT("--model needs a name")},
+		{{TEXT("--data-dir=")}, TEXT("--data-dir needs a folder")},
+		{{TEXT("--play")}, TEXT("--play needs a file")},
+	};
+	for (const FBadLine& Line : Lines)
+	{
+		FString Error;
+		EXPECT_FALSE(FCommandLine::Parse(Line.Arguments, Error).IsSet());
+		EXPECT_TEXT(Error, Line.Error);
+	}
+}
+
+TEST(CommandLine, HelpNamesEveryOption)
+{
+	const FString Help = FCommandLine::GetHelp();
+	for (const TCHAR* const Option : {TEXT("--offscreen"), TEXT("--size WxH"), TEXT("--scale F"), TEXT("--data-dir DIR"), TEXT("--assistant URL"),
+			 TEXT("--model NAME"), TEXT("--play FILE"), TEXT("--help"), TEXT("--version")})
+	{
+		EXPECT_TRUE(Help.Contains(FString(TEXT("\n  ")) + Option + TEXT(" "))) << FString(Option);
+	}
+}

@@ -1,0 +1,126 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "PlayScene.h"
+
+#include "DesktopApplication.h"
+#include "Misc/FileHelper.h"
+#include "Play/PlayRunner.h"
+#include "Widgets/Input/SButton.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/Layout/SScrollBox.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/SWindow.h"
+#include "Widgets/Text/SMultiLineEditableText.h"
+#include "Widgets/Text/STextBlock.h"
+
+#include <QApplication>
+
+static QApplication& GetQtApplication()
+{
+	static int ArgumentCount = 1;
+	static char Name[] = "test";
+	static char* Arguments[] = {Name, nullptr};
+	static QApplication Application(ArgumentCount, Arguments);
+	return Application;
+}
+
+static FOnClicked Count(int32& Counter)
+{
+	return FOnClicked::CreateLambda(
+		[&Counter]
+		{
+			++Counter;
+			return FReply::Handled();
+		});
+}
+
+FPlayScene::FPlayScene()
+{
+	GetQtApplication();
+	FDesktopApplication& Desktop = *FDesktopApplication::Create(EBrowserMode::Record);
+	SMultiLineEditableText::SetCaretBlinking(false);
+	Host = std::make_unique<QSlateWidget>(Desktop, SNew(SWindow)[MakeContent()]);
+	Host->resize(300, 200);
+	Host->show();
+}
+
+FPlayScene::~FPlayScene()
+{
+	Host.reset();
+	Title.Reset();
+	Rows.Reset();
+	FDesktopApplication::Shutdown();
+}
+
+TSharedRef<SWidget> FPlayScene::MakeContent()
+{
+	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox)
+		+ SVerticalBox::Slot().AutoHeight()[SAssignNew(Title, STextBlock).Text(INVTEXT("Title"))]
+		+ SVerticalBox::Slot().AutoHeight()
+		[
+			SNew(SButton).OnClicked(Count(NumPressedToo))[SNew(STextBlock).Text(INVTEXT("Press me too"))]
+		]
+		+ SVerticalBox::Slot().AutoHeight()
+		[
+			SNew(SButton).OnClicked(Count(NumPressed))[SNew(STextBlock).Text(INVTEXT("Press me"))]
+		]
+		+ SVerticalBox::Slot().AutoHeight()
+		[
+			SNew(SButton).Tag(TEXT("Tagged")).OnClicked(Count(NumTagged))[SNew(SBox).HeightOverride(10.0f)]
+		]
+		+ SVerticalBox::Slot().AutoHeight()[SNew(SMultiLineEditableText).HintText(INVTEXT("Write here"))]
+		+ SVerticalBox::Slot().AutoHeight()[SNew(STextBlock).Text(INVTEXT("Note")).Visibility(EVisibility::Collapsed)]
+		+ SVerticalBox::Slot().FillHeight(1.0f)[SAssignNew(Rows, SScrollBox)];
+	for (int32 Row = 0; Row < 100; ++Row)
+	{
+		Rows->AddSlot()[SNew(STextBlock).Text(FText::FromString(FString::Printf(TEXT("Row %d"), Row)))];
+	}
+	return Box;
+}
+
+FString FPlayScene::Play(const FString& Text)
+{
+	FString Problem;
+	TOptional<FPlayScript> Script = FPlayScript::Parse(TEXT("a.play"), Text, Problem);
+	if (!Script)
+	{
+		return Problem;
+	}
+	bool bEnded = false;
+	FPlayRunner Runner(*this, MoveTemp(*Script),
+		[&](const FString& Ended)
+		{
+			Problem = Ended;
+			bEnded = true;
+		});
+	Runner.Start();
+	while (!bEnded)
+	{
+		QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+	}
+	return Problem;
+}
+
+FString FPlayScene::ReadFile(const TCHAR* Name) const
+{
+	FString Text;
+	EXPECT_TRUE(FFileHelper::LoadFileToString(Text, *GetFile(Name))) << FString(Name);
+	return Text;
+}
+
+bool FPlayScene::InvokeMenuEntry(const FString& Label, FString& OutProblem)
+{
+	Invoked = Label;
+	OutProblem = TEXT("no such entry");
+	return Label.Equals(TEXT("Known"));
+}
+
+bool FPlayScene::IsPainted() const
+{
+	return FDesktopApplication::Get().IsIdle();
+}
+
+int64 FPlayScene::GetNumFrames() const
+{
+	return FDesktopApplication::Get().GetFrameLoop().GetStatistics().NumFrames;
+}

@@ -1,0 +1,155 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "PlayScene.h"
+#include "Widgets/Layout/SScrollBox.h"
+#include "Widgets/Text/STextBlock.h"
+
+#include <QImage>
+
+#include "QtConversion.h"
+
+namespace
+{
+// The sentence alone, without what was on screen.
+FString GetFirstLine(const FString& Problem)
+{
+	FString First = Problem;
+	Problem.Split(TEXT("\n"), &First, nullptr);
+	return First;
+}
+
+#define EXPECT_PLAYS(Scene, Text) EXPECT_TEXT((Scene).Play(TEXT(Text)), TEXT(""))
+#define EXPECT_FAILS(Scene, Text, Problem) EXPECT_TEXT(GetFirstLine((Scene).Play(TEXT(Text))), TEXT(Problem))
+} // namespace
+
+TEST(PlaySteps, ClicksAtTheEqualTextBeforeOneThatContainsIt)
+{
+	FPlayScene Scene;
+	EXPECT_PLAYS(Scene, "click \"Press me\"");
+	EXPECT_EQ(Scene.NumPressed, 1);
+	EXPECT_PLAYS(Scene, "click \"Press m\"\nclick \"Press m\" 2");
+	EXPECT_EQ(Scene.NumPressed, 2);
+	EXPECT_EQ(Scene.NumPressedToo, 1);
+}
+
+TEST(PlaySteps, FindsAWidgetByItsTag)
+{
+	FPlayScene Scene;
+	EXPECT_PLAYS(Scene, "click \"Tagged\"");
+	EXPECT_EQ(Scene.NumTagged, 1);
+}
+
+TEST(PlaySteps, AClickNeedsItsMatchOnScreen)
+{
+	FPlayScene Scene;
+	EXPECT_FAILS(Scene, "sleep 0\nclick \"Nowhere\"", "a.play:2: \"Nowhere\": no widget shows it");
+	EXPECT_FAILS(Scene, "click \"title\"", "a.play:1: \"title\": no widget shows it");
+	EXPECT_FAILS(Scene, "click \"Note\"", "a.play:1: \"Note\": no widget shows it");
+	EXPECT_FAILS(Scene, "click \"Press me\" 3", "a.play:1: \"Press me\": only 2 of them are shown");
+	EXPECT_FAILS(Scene, "click \"Row 99\"", "a.play:1: \"Row 99\": its middle is out of view");
+	EXPECT_FAILS(Scene, "click \"Row\" 100", "a.play:1: \"Row\": its middle is out of view");
+}
+
+TEST(PlaySteps, AFailureTellsWhatWasOnScreen)
+{
+	FPlayScene Scene;
+	const FString Problem = Scene.Play(TEXT("expect text \"Nowhere\""));
+	EXPECT_TRUE(Problem.StartsWith(TEXT("a.play:1: no widget shows \"Nowhere\"\n  on screen was:\n    \"Title\"\n    \"Press me too\"\n")))
+		<< Problem;
+	EXPECT_FALSE(Problem.Contains(TEXT("Note"))) << Problem;
+	Scene.bTabOpen = false;
+	EXPECT_TEXT(Scene.Play(TEXT("click \"Title\"")), TEXT("a.play:1: there is nothing to act on\n  no tab is open"));
+}
+
+TEST(PlaySteps, ExpectationsLookBehindScrollingAndNotIntoCollapsedWidgets)
+{
+	FPlayScene Scene;
+	EXPECT_PLAYS(Scene, "expect text \"Row 99\"\nexpect no text \"Note\"\nexpect text \"ess me t\"\nexpect no text \"Row 100\"");
+	EXPECT_FAILS(Scene, "expect no text \"Title\"", "a.play:1: a widget shows \"Title\"");
+	EXPECT_FAILS(Scene, "wait no text \"Title\" 0", "a.play:1: a widget shows \"Title\" after 0 seconds");
+	EXPECT_FAILS(Scene, "wait text \"Soon\" 0.01", "a.play:1: no widget shows \"Soon\" after 0.01 seconds");
+}
+
+TEST(PlaySteps, TheWheelScrollsWhatItIsOver)
+{
+	FPlayScene Scene;
+	EXPECT_PLAYS(Scene, "wheel \"Row 0\" -3");
+	const float Down = Scene.Rows->GetScrollOffset();
+	EXPECT_GT(Down, 0.0f);
+	EXPECT_FAILS(Scene, "click \"Row 0\"", "a.play:1: \"Row 0\": its middle is out of view");
+	EXPECT_PLAYS(Scene, "wheel \"Row\" 1");
+	EXPECT_NEAR(Scene.Rows->GetScrollOffset(), Down * 2.0f / 3.0f, 0.5f);
+}
+
+TEST(PlaySteps, TypesIntoTheBoxThatAHintNames)
+{
+	FPlayScene Scene;
+	EXPECT_PLAYS(Scene,
+		"expect text \"Write here\"\nfocus \"Write here\"\ntype \"a \\\"b\\\"\\nc\\t\U0001F600\"\n"
+		"expect text \"a \\\"b\\\"\\nc\\t\U0001F600\"\nexpect no text \"Write here\"");
+	EXPECT_PLAYS(Scene, "press Ctrl+A\npress Backspace\nexpect text \"Write here\"");
+	EXPECT_PLAYS(Scene, "type \"a\"\npress Enter\ntype \"b\"\npress Up\npress Home\ntype \"0\"\nexpect text \"0a\\nb\"");
+	EXPECT_FAILS(Scene, "focus \"Title\"", "a.play:1: \"Title\": no widget shows it");
+}
+
+TEST(PlaySteps, TypingNeedsTheFocus)
+{
+	FPlayScene Scene;
+	EXPECT_FAILS(Scene, "type \"a\"", "a.play:1: no widget has the keyboard focus");
+}
+
+TEST(PlaySteps, OpensWhatAMenuOffers)
+{
+	FPlayScene Scene;
+	EXPECT_PLAYS(Scene, "open \"Known\"");
+	EXPECT_TEXT(Scene.Invoked, TEXT("Known"));
+	EXPECT_FAILS(Scene, "open \"Unknown\"", "a.play:1: no such entry");
+}
+
+TEST(PlaySteps, SigningInIsNothingWhereTheUserIsSignedIn)
+{
+	FPlayScene Scene;
+	EXPECT_PLAYS(Scene, "login \"somebody\"");
+	Scene.bSignedIn = false;
+	EXPECT_FAILS(Scene, "login \"somebody\"", "a.play:1: \"somebody\" can't sign in: there is no login panel");
+}
+
+TEST(PlaySteps, IdleIsNoRequestAndNothingToPaint)
+{
+	FPlayScene Scene;
+	EXPECT_PLAYS(Scene, "wait idle");
+	Scene.bRequestUnderWay = true;
+	EXPECT_FAILS(Scene, "wait idle 0.01", "a.play:1: a request is still under way after 0.01 seconds");
+}
+
+TEST(PlaySteps, SavesWhatIsShown)
+{
+	FPlayScene Scene;
+	Scene.Title->SetText(INVTEXT("\"New\""));
+	const FString Picture = Scene.GetFile(TEXT("new/a.png"));
+	const FString Text = FString::Printf(TEXT("resize 320x240\nscreenshot \"%s\"\nscreenshot window \"%s\"\ntree \"%s\"\nsent to browser \"%s\""),
+		*Picture, *Scene.GetFile(TEXT("b.png")), *Scene.GetFile(TEXT("a.txt")), *Scene.GetFile(TEXT("sent.txt")));
+	EXPECT_TEXT(Scene.Play(Text), TEXT(""));
+	const QImage Saved(ToQString(Picture));
+	EXPECT_EQ(Saved.size(), QSize(320, 240));
+	EXPECT_EQ(Saved.convertToFormat(QImage::Format_RGB32), QImage(ToQString(Scene.GetFile(TEXT("b.png")))).convertToFormat(QImage::Format_RGB32));
+	EXPECT_TRUE(Scene.ReadFile(TEXT("a.txt")).Contains(TEXT("STextBlock 0,0 320x"))) << Scene.ReadFile(TEXT("a.txt"));
+	EXPECT_TRUE(Scene.ReadFile(TEXT("a.txt")).Contains(TEXT("\"\\\"New\\\"\"")));
+	EXPECT_TEXT(Scene.ReadFile(TEXT("sent.txt")), TEXT("https://host/a\nhttps://host/b\n"));
+}
+
+TEST(PlaySteps, SavesTheClipboard)
+{
+	FPlayScene Scene;
+	const FString Text =
+		FString::Printf(TEXT("focus \"Write here\"\ntype \"caf\u00e9\\n1\"\npress Ctrl+A\npress Ctrl+C\nclipboard \"%s\""), *Scene.GetFile(TEXT("c")));
+	EXPECT_TEXT(Scene.Play(Text), TEXT(""));
+	EXPECT_TEXT(Scene.ReadFile(TEXT("c")), TEXT("caf\u00e9\n1"));
+}
+
+TEST(PlaySteps, AFileThatCantBeWrittenIsAFailure)
+{
+	FPlayScene Scene;
+	EXPECT_FAILS(Scene, "screenshot \"/proc/none/a.png\"", "a.play:1: can't write /proc/none/a.png: No such file or directory");
+	EXPECT_FAILS(Scene, "tree \"/proc/none/a.txt\"", "a.play:1: can't write /proc/none/a.txt");
+}
