@@ -96,6 +96,11 @@ void SMultiLineEditableText::ApplyHint() const
 	}
 }
 
+bool SMultiLineEditableText::IsTextReadOnly() const
+{
+	return Controller->IsReadOnly();
+}
+
 FText SMultiLineEditableText::GetText() const
 {
 	return Controller->IsReadOnly() ? TextAttribute.Get() : FText::FromString(Controller->GetText().GetText());

@@ -61,6 +61,7 @@ public:
 	void SetText(const TAttribute<FText>& InText);
 	/** What was edited; of a read-only text the source, with its markup. */
 	FText GetText() const;
+	bool IsTextReadOnly() const;
 
 	/** Of all carets, for pictures that must not depend on the time. */
 	static void SetCaretBlinking(bool bEnabled);
