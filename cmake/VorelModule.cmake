@@ -37,11 +37,11 @@ function(vorel_module name)
 endfunction()
 
 # vorel_link_modules(target module...)
-# Links registered modules whole, each once, also where one of them needs another.
+# Links registered modules whole, each once: their objects go in directly, so that nothing of the archives is asked for any more.
 function(vorel_link_modules target)
 	foreach(module IN LISTS ARGN)
 		target_link_libraries(${target} PRIVATE ${module})
-		set_property(TARGET ${target} PROPERTY LINK_LIBRARY_OVERRIDE_${module} WHOLE_ARCHIVE)
+		target_sources(${target} PRIVATE $<TARGET_OBJECTS:${module}>)
 	endforeach()
 endfunction()
 

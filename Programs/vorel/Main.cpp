@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Application/Display.h"
+#include "Application/DisplayChoice.h"
 #include "Application/VorelProgram.h"
 #include "Options/CommandLine.h"
 #include "Play/PlayScript.h"
@@ -19,12 +19,12 @@ static int RefuseToStart(const FString& Reason)
 
 static int OpenWindow(const FCommandLine& Line, const FPlayScript* Script, int ArgumentCount, char** Arguments)
 {
-	Display::Choose(Line);
+	DisplayChoice::Choose(Line);
 	// The options are ours, and none of them Qt's.
 	int OnlyName = FMath::Min(ArgumentCount, 1);
 	TUniquePtr<QApplication> Application;
 	{
-		const Display::FOpeningScope Opening;
+		const DisplayChoice::FOpeningScope Opening;
 		Application = MakeUnique<QApplication>(OnlyName, Arguments);
 	}
 	return RunVorel(*Application, Line, Script);
@@ -54,7 +54,7 @@ int main(int ArgumentCount, char** Arguments)
 	{
 		return RefuseToStart(Error);
 	}
-	if (!Line->bOffscreen && !Display::IsNamed())
+	if (!Line->bOffscreen && !DisplayChoice::IsNamed())
 	{
 		return RefuseToStart(TEXT("vorel: there is no display; without one use --offscreen"));
 	}

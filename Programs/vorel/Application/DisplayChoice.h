@@ -5,7 +5,7 @@
 struct FCommandLine;
 
 // Everything that has to be settled before Qt opens a display.
-namespace Display
+namespace DisplayChoice
 {
 // Whether the surroundings name a display.
 bool IsNamed();
@@ -21,4 +21,4 @@ public:
 	FOpeningScope(const FOpeningScope&) = delete;
 	FOpeningScope& operator=(const FOpeningScope&) = delete;
 };
-} // namespace Display
+} // namespace DisplayChoice

@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Application/Display.h"
+#include "Application/DisplayChoice.h"
 
 #include "Options/CommandLine.h"
 
@@ -9,12 +9,12 @@
 #include <cstdio>
 #include <cstdlib>
 
-bool Display::IsNamed()
+bool DisplayChoice::IsNamed()
 {
 	return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-void Display::Choose(const FCommandLine& Line)
+void DisplayChoice::Choose(const FCommandLine& Line)
 {
 	if (Line.bOffscreen)
 	{
@@ -42,12 +42,12 @@ static void HandleMessage(QtMsgType Type, const QMessageLogContext& Context, con
 	}
 }
 
-Display::FOpeningScope::FOpeningScope()
+DisplayChoice::FOpeningScope::FOpeningScope()
 {
 	PreviousHandler = qInstallMessageHandler(&HandleMessage);
 }
 
-Display::FOpeningScope::~FOpeningScope()
+DisplayChoice::FOpeningScope::~FOpeningScope()
 {
 	qInstallMessageHandler(PreviousHandler);
 }
