@@ -7,22 +7,23 @@
 #include "Application/VorelStage.h"
 #include "DataFolder.h"
 #include "DesktopApplication.h"
-#include "Editor.h"
 #include "Frame/EditorFrame.h"
 #include "Frame/FrameStyle.h"
+#include "Framework/Docking/TabManager.h"
 #include "Interfaces/IPluginManager.h"
 #include "Modules/ModuleManager.h"
 #include "Options/CommandLine.h"
 #include "Play/PlayRunner.h"
+#include "QtConversion.h"
 #include "ToolMenus.h"
 #include "UObject/UObjectGlobals.h"
 #include "VorelClientOptions.h"
 #include "VorelUserSettings.h"
+#include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Text/SMultiLineEditableText.h"
 
 #include <QApplication>
 #include <QUrl>
-#include "QtConversion.h"
 #include <cstdio>
 
 namespace
@@ -34,15 +35,17 @@ public:
 	FPlatformScope(EBrowserMode BrowserMode)
 		: Desktop(FDesktopApplication::Create(BrowserMode))
 	{
-		UEditorEngine::Startup();
 		UToolMenus::Startup();
 	}
 
 	~FPlatformScope()
 	{
+		while (!FGlobalTabmanager::Get()->GetOpenTabs().IsEmpty())
+		{
+			FGlobalTabmanager::Get()->GetOpenTabs().Last()->RequestCloseTab();
+		}
 		FModuleManager::Get().UnloadModulesAtShutdown();
 		UToolMenus::Shutdown();
-		UEditorEngine::Shutdown();
 		FDesktopApplication::Shutdown();
 		CollectGarbage();
 	}

@@ -31,17 +31,21 @@ void FToolsMenu::Rebuild()
 {
 	clear();
 	const UToolMenu* const Menu = UToolMenus::Get()->FindMenu(Path);
-	for (const FToolMenuSection& Section : Menu ? Menu->Sections : TArray<FToolMenuSection>())
+	if (!Menu)
+	{
+		return;
+	}
+	for (const FToolMenuSection& Section : Menu->Sections)
 	{
 		addSection(ToQString(Section.Name.ToString()));
 		for (const FToolMenuEntry& Entry : Section.Entries)
 		{
-			AddEntry(Section.Name, Entry);
+			AddEntry(Entry);
 		}
 	}
 }
 
-void FToolsMenu::AddEntry(const FName& Section, const FToolMenuEntry& Entry)
+void FToolsMenu::AddEntry(const FToolMenuEntry& Entry)
 {
 	QAction* const Action = addAction(ToQString(Entry.GetLabel().ToString()));
 	Action->setToolTip(ToQString(Entry.GetToolTip().ToString()));
@@ -50,29 +54,7 @@ void FToolsMenu::AddEntry(const FName& Section, const FToolMenuEntry& Entry)
 	{
 		Action->setIcon(QIcon(ToQString(Icon->GetResourceName().ToString())));
 	}
-	connect(Action, &QAction::triggered, this, [this, Section, Name = Entry.Name] { Execute(Section, Name); });
-}
-
-// The entry is looked up anew: what was known when the menu was drawn may be gone.
-void FToolsMenu::Execute(const FName& Section, const FName& Entry)
-{
-	if (const FToolMenuEntry* const Found = FindInModel(Section, Entry))
-	{
-		Found->Execute();
-	}
-}
-
-const FToolMenuEntry* FToolsMenu::FindInModel(const FName& Section, const FName& Entry) const
-{
-	const UToolMenu* const Menu = UToolMenus::Get()->FindMenu(Path);
-	for (const FToolMenuSection& Candidate : Menu ? Menu->Sections : TArray<FToolMenuSection>())
-	{
-		if (Candidate.Name == Section)
-		{
-			return Candidate.FindEntry(Entry);
-		}
-	}
-	return nullptr;
+	connect(Action, &QAction::triggered, this, [Entry] { Entry.Execute(); });
 }
 
 QAction* FToolsMenu::FindEntry(const QString& Label) const

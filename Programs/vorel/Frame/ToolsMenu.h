@@ -21,9 +21,7 @@ public:
 private:
 	void RebuildSoon();
 	void Rebuild();
-	void AddEntry(const FName& Section, const FToolMenuEntry& Entry);
-	void Execute(const FName& Section, const FName& Entry);
-	const FToolMenuEntry* FindInModel(const FName& Section, const FName& Entry) const;
+	void AddEntry(const FToolMenuEntry& Entry);
 
 	FName Path;
 	FDelegateHandle MenusChangedHandle;
