@@ -13,7 +13,7 @@ public:
 	explicit FNoticeLog(TFunction<void(const FString& Notice)> InOnNotice);
 	~FNoticeLog() override;
 
-	// From now on the plug-in speaks for itself.
+	// From now on the plug-in's messages are its own business.
 	void EndStartup() { bStartup = false; }
 
 	void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;

@@ -59,6 +59,21 @@ private:
 	TSharedRef<FDesktopApplication> Desktop;
 };
 
+// In the order of the descriptor. The user interface, which comes last, tells its users itself what they should know.
+void LoadModules(FNoticeLog& NoticeLog)
+{
+	const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin(TEXT("VorelAI"));
+	checkf(Plugin.IsValid(), TEXT("VorelAI.uplugin was not found in a folder above the program"));
+	for (const FModuleDescriptor& Module : Plugin->GetDescriptor().Modules)
+	{
+		if (Module.Name == FName(TEXT("VorelChatUI")))
+		{
+			NoticeLog.EndStartup();
+		}
+		FModuleManager::Get().LoadModuleChecked(Module.Name);
+	}
+}
+
 FString GetAssistantName(const FCommandLine& Line)
 {
 	const FString& FromSettings = UVorelUserSettings::Get()->GetValues().AssistantUrl;
@@ -109,7 +124,7 @@ int RunVorel(QApplication& Application, const FCommandLine& Line, const FPlayScr
 			}
 		});
 	FrameStyle::Apply(Application);
-	IPluginManager::Get().LoadModulesForEnabledPlugins();
+	LoadModules(NoticeLog);
 
 	FEditorFrame Window(Platform.GetDesktop(), Line.Size);
 	Frame = &Window;
@@ -117,7 +132,6 @@ int RunVorel(QApplication& Application, const FCommandLine& Line, const FPlayScr
 	Window.SetAssistantName(GetAssistantName(Line));
 	Window.show();
 	Window.ResizeTabContent(Line.Size);
-	NoticeLog.EndStartup();
 	const FGarbageTimer GarbageTimer(Platform.GetDesktop().GetFrameLoop());
 
 	FVorelStage Stage(Platform.GetDesktop(), Window);

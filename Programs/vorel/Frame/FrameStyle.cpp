@@ -61,7 +61,7 @@ QTabBar { background: @Black@; qproperty-drawBase: 0; }
 QTabBar::tab { background: @Black@; color: @Foreground@; padding: 7px 10px 7px 12px; border-top: 2px solid transparent; }
 QTabBar::tab:selected { background: @Header@; color: @White@; border-top: 2px solid @Primary@; }
 QTabBar::tab:hover:!selected { background: @Secondary@; }
-QTabBar::close-button { image: url("@Icons@/X.svg"); width: 12px; height: 12px; }
+QTabBar::close-button { image: url("@Icons@/X.svg"); width: 10px; height: 10px; margin: 2px; }
 QTabBar::close-button:hover { background: @Hover@; border-radius: 3px; }
 QStatusBar { border-top: 1px solid @Black@; }
 QStatusBar::item { border: none; }

@@ -25,6 +25,7 @@ FTabWell::FTabWell(FDesktopApplication& InDesktop, const FContentSize& InContent
 	Bar->setTabsClosable(true);
 	Bar->setExpanding(false);
 	Bar->setFocusPolicy(Qt::NoFocus);
+	KeepBarHeight();
 	Stack->addWidget(MakeEmptyState());
 
 	auto* const Layout = new QVBoxLayout(this);
@@ -49,6 +50,15 @@ FTabWell::~FTabWell()
 	Tabs.OnTabClosed.Remove(ClosedHandle);
 }
 
+// The content must not change its size when the first tab comes and the last one goes.
+void FTabWell::KeepBarHeight()
+{
+	Bar->ensurePolished();
+	Bar->addTab(QStringLiteral("Tab"));
+	Bar->setFixedHeight(Bar->sizeHint().height());
+	Bar->removeTab(0);
+}
+
 QWidget* FTabWell::MakeEmptyState() const
 {
 	auto* const Label = new QLabel(tr("<p style='font-size: 17px'>No tab is open</p>"
@@ -62,7 +72,7 @@ QWidget* FTabWell::MakeEmptyState() const
 
 QSize FTabWell::sizeHint() const
 {
-	return QSize(FirstContentSize.Width, FirstContentSize.Height + Bar->sizeHint().height());
+	return QSize(FirstContentSize.Width, FirstContentSize.Height + Bar->height());
 }
 
 QSlateWidget* FTabWell::GetContent() const

@@ -42,6 +42,7 @@ private:
 	void HandleCloseRequested(int Index);
 	int32 FindPage(const TSharedRef<SDockTab>& Tab) const;
 	QWidget* MakeEmptyState() const;
+	void KeepBarHeight();
 
 	FDesktopApplication& Desktop;
 	FContentSize FirstContentSize;

@@ -24,7 +24,8 @@ FToolsMenu::~FToolsMenu()
 // The change may come from an entry of this menu, which must not go while it is invoked.
 void FToolsMenu::RebuildSoon()
 {
-	QMetaObject::invokeMethod(this, [this] { Rebuild(); }, Qt::QueuedConnection);
+	QMetaObject::invokeMethod(
+		this, [this] { Rebuild(); }, Qt::QueuedConnection);
 }
 
 void FToolsMenu::Rebuild()

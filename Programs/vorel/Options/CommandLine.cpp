@@ -125,8 +125,8 @@ FString FCommandLine::GetHelp()
 		const FString Form = FString(Option.Name) + (Option.ValueName ? FString(TEXT(" ")) + Option.ValueName : FString());
 		Help += FString::Printf(TEXT("  %s%s%s\n"), *Form, *FString::ChrN(20 - Form.Len(), TEXT(' ')), Option.Help);
 	}
-	return Help +
-		TEXT("\nWithout --assistant and without such an entry in the settings, the built-in guide answers. A server's key is taken from the\n"
-			 "environment variable VOREL_ASSISTANT_KEY.\n"
-			 "Exit status: 0, or 1 where a step of a play file failed, or 2 where an option or a file can't be read.\n");
+	return Help + TEXT("\nWithout --assistant and without such an entry in the settings, the built-in guide answers. A server's key is "
+					   "taken from the\n"
+					   "environment variable VOREL_ASSISTANT_KEY.\n"
+					   "Exit status: 0, or 1 where a step of a play file failed, or 2 where an option or a file can't be read.\n");
 }

@@ -36,6 +36,9 @@ TOptional<FContentSize> ReadNumber::Size(FStringView Text)
 	}
 	const TOptional<int32> Width = Integer(Text.Left(Cross));
 	const TOptional<int32> Height = Integer(Text.RightChop(Cross + 1));
-	const auto IsSide = [](const TOptional<int32>& Side) { return Side && *Side >= 1 && *Side <= LongestSide; };
+	const auto IsSide = [](const TOptional<int32>& Side)
+	{
+		return Side && *Side >= 1 && *Side <= LongestSide;
+	};
 	return IsSide(Width) && IsSide(Height) ? TOptional<FContentSize>({*Width, *Height}) : NullOpt;
 }

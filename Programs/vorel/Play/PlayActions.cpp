@@ -66,7 +66,11 @@ FPlayResult ActAt(IPlayStage& Stage, const FTarget& Target, const FHandAction& A
 
 FTarget MakeTextTarget(const FString& Text, const TOptional<int32>& Count)
 {
-	return {Text, Count, [Text](const SWidget& Widget) { return FWidgetSearch::MatchText(Widget, Text); }};
+	return {Text, Count,
+		[Text](const SWidget& Widget)
+		{
+			return FWidgetSearch::MatchText(Widget, Text);
+		}};
 }
 
 ETextMatch MatchEditable(const SWidget& Widget, const FString& Text)
@@ -76,13 +80,15 @@ ETextMatch MatchEditable(const SWidget& Widget, const FString& Text)
 	{
 		return ETextMatch::None;
 	}
-	return Editable->GetHint().Contains(Text, ESearchCase::CaseSensitive) ? ETextMatch::Contained
-																		   : FWidgetSearch::MatchText(Widget, Text);
+	return Editable->GetHint().Contains(Text, ESearchCase::CaseSensitive) ? ETextMatch::Contained : FWidgetSearch::MatchText(Widget, Text);
 }
 
 FPlayStep ActAtStep(const FTarget& Target, const FHandAction& Act)
 {
-	return [Target, Act](IPlayStage& Stage, double) { return ActAt(Stage, Target, Act); };
+	return [Target, Act](IPlayStage& Stage, double)
+	{
+		return ActAt(Stage, Target, Act);
+	};
 }
 
 // A step for the keyboard, which the tab must have.
@@ -115,14 +121,18 @@ FPlayStep PlayActions::Login(const FString& Name)
 	return [Name](IPlayStage& Stage, double)
 	{
 		return Stage.IsSignedIn()
-			? FPlayResult::Done()
-			: FailHere(Stage, FString::Printf(TEXT("%s can't sign in: there is no login panel"), *FWidgetTreeDump::Quote(Name)));
+				   ? FPlayResult::Done()
+				   : FailHere(Stage, FString::Printf(TEXT("%s can't sign in: there is no login panel"), *FWidgetTreeDump::Quote(Name)));
 	};
 }
 
 FPlayStep PlayActions::Focus(const FString& HintOrText)
 {
-	const FTarget Editable{HintOrText, NullOpt, [HintOrText](const SWidget& Widget) { return MatchEditable(Widget, HintOrText); }};
+	const FTarget Editable{HintOrText, NullOpt,
+		[HintOrText](const SWidget& Widget)
+		{
+			return MatchEditable(Widget, HintOrText);
+		}};
 	return ActAtStep(Editable, [](FUserHand& Hand, const QPointF& Point) { Hand.Click(Point); });
 }
 
@@ -178,5 +188,8 @@ FPlayStep PlayActions::Resize(const FContentSize& Size)
 
 FPlayStep PlayActions::Sleep(double Seconds)
 {
-	return [Seconds](IPlayStage&, double Passed) { return Passed < Seconds ? FPlayResult::NotYet() : FPlayResult::Done(); };
+	return [Seconds](IPlayStage&, double Passed)
+	{
+		return Passed < Seconds ? FPlayResult::NotYet() : FPlayResult::Done();
+	};
 }

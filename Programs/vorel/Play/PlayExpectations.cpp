@@ -23,7 +23,9 @@ static FPlayResult FailText(IPlayStage& Stage, const FString& Text, bool bShown,
 FPlayStep PlayExpectations::ExpectText(const FString& Text, bool bShown)
 {
 	return [Text, bShown](IPlayStage& Stage, double)
-	{ return IsShown(Stage, Text) == bShown ? FPlayResult::Done() : FailText(Stage, Text, bShown, FString()); };
+	{
+		return IsShown(Stage, Text) == bShown ? FPlayResult::Done() : FailText(Stage, Text, bShown, FString());
+	};
 }
 
 FPlayStep PlayExpectations::WaitText(const FString& Text, bool bShown, double Patience)
@@ -53,7 +55,7 @@ FPlayStep PlayExpectations::WaitIdle(double Patience)
 		}
 		const TCHAR* const What = bRequest ? TEXT("a request is still under way") : TEXT("something still moves");
 		return Seconds < Patience + LeastQuiet
-			? FPlayResult::NotYet()
-			: FPlayResult::Fail(FString::Printf(TEXT("%s after %g seconds%s"), What, Patience, *ReportScreen(Stage)));
+				   ? FPlayResult::NotYet()
+				   : FPlayResult::Fail(FString::Printf(TEXT("%s after %g seconds%s"), What, Patience, *ReportScreen(Stage)));
 	};
 }

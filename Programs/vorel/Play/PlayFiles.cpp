@@ -49,7 +49,10 @@ FPlayStep PlayFiles::Screenshot(const FString& File)
 
 FPlayStep PlayFiles::ScreenshotWindow(const FString& File)
 {
-	return [File](IPlayStage& Stage, double) { return SavePicture(File, Stage.GetWindow().grab().toImage()); };
+	return [File](IPlayStage& Stage, double)
+	{
+		return SavePicture(File, Stage.GetWindow().grab().toImage());
+	};
 }
 
 FPlayStep PlayFiles::Tree(const FString& File)
@@ -59,7 +62,10 @@ FPlayStep PlayFiles::Tree(const FString& File)
 
 FPlayStep PlayFiles::Clipboard(const FString& File)
 {
-	return [File](IPlayStage&, double) { return SaveText(File, FSlateApplication::Get().GetDesktop().GetClipboardText()); };
+	return [File](IPlayStage&, double)
+	{
+		return SaveText(File, FSlateApplication::Get().GetDesktop().GetClipboardText());
+	};
 }
 
 FPlayStep PlayFiles::SentToBrowser(const FString& File)

@@ -46,8 +46,7 @@ FWidgetMatch MakeMatch(const TSharedRef<SWidget>& Widget, ETextMatch Match, cons
 }
 
 // Adds the matches in this widget, else itself. Returns whether there was one.
-bool AddMatches(
-	const TSharedRef<SWidget>& Widget, const TOptional<FPlace>& Place, FWidgetTest Test, TArray<FWidgetMatch>& OutMatches)
+bool AddMatches(const TSharedRef<SWidget>& Widget, const TOptional<FPlace>& Place, FWidgetTest Test, TArray<FWidgetMatch>& OutMatches)
 {
 	if (!Widget->GetVisibility().IsVisible())
 	{

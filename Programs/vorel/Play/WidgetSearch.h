@@ -28,8 +28,8 @@ struct FWidgetMatch
 	TOptional<FVector2D> Middle;
 };
 
-// Looks for widgets as a reader does: what is collapsed or hidden does not exist, what is scrolled out of view does. All positions are those
-// of the last frame.
+// Looks for widgets as a reader does: what is collapsed or hidden does not exist, what is scrolled out of view does. All positions are
+// those of the last frame.
 class FWidgetSearch
 {
 public:

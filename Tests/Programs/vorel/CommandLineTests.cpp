@@ -31,8 +31,8 @@ TEST(CommandLine, WithoutOptionsHoldsTheDefaults)
 
 TEST(CommandLine, TakesValuesBehindABlankOrAnEqualsSign)
 {
-	const FCommandLine Line = Parse({TEXT("--offscreen"), TEXT("--size"), TEXT("640x480"), TEXT("--scale=1.5"), TEXT("--data-dir"), TEXT("a=b"),
-		TEXT("--assistant=https://host/v1?a=b"), TEXT("--model"), TEXT("--odd"), TEXT("--play=x.play")});
+	const FCommandLine Line = Parse({TEXT("--offscreen"), TEXT("--size"), TEXT("640x480"), TEXT("--scale=1.5"), TEXT("--data-dir"),
+		TEXT("a=b"), TEXT("--assistant=https://host/v1?a=b"), TEXT("--model"), TEXT("--odd"), TEXT("--play=x.play")});
 	EXPECT_TRUE(Line.bOffscreen);
 	EXPECT_EQ(Line.Size, (FContentSize{640, 480}));
 	EXPECT_EQ(*Line.Scale, 1.5);
@@ -85,8 +85,8 @@ TEST(CommandLine, SaysWhatIsWrong)
 TEST(CommandLine, HelpNamesEveryOption)
 {
 	const FString Help = FCommandLine::GetHelp();
-	for (const TCHAR* const Option : {TEXT("--offscreen"), TEXT("--size WxH"), TEXT("--scale F"), TEXT("--data-dir DIR"), TEXT("--assistant URL"),
-			 TEXT("--model NAME"), TEXT("--play FILE"), TEXT("--help"), TEXT("--version")})
+	for (const TCHAR* const Option : {TEXT("--offscreen"), TEXT("--size WxH"), TEXT("--scale F"), TEXT("--data-dir DIR"),
+			 TEXT("--assistant URL"), TEXT("--model NAME"), TEXT("--play FILE"), TEXT("--help"), TEXT("--version")})
 	{
 		EXPECT_TRUE(Help.Contains(FString(TEXT("\n  ")) + Option + TEXT(" "))) << FString(Option);
 	}

@@ -54,23 +54,14 @@ FPlayScene::~FPlayScene()
 
 TSharedRef<SWidget> FPlayScene::MakeContent()
 {
-	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox)
-		+ SVerticalBox::Slot().AutoHeight()[SAssignNew(Title, STextBlock).Text(INVTEXT("Title"))]
-		+ SVerticalBox::Slot().AutoHeight()
-		[
-			SNew(SButton).OnClicked(Count(NumPressedToo))[SNew(STextBlock).Text(INVTEXT("Press me too"))]
-		]
-		+ SVerticalBox::Slot().AutoHeight()
-		[
-			SNew(SButton).OnClicked(Count(NumPressed))[SNew(STextBlock).Text(INVTEXT("Press me"))]
-		]
-		+ SVerticalBox::Slot().AutoHeight()
-		[
-			SNew(SButton).Tag(TEXT("Tagged")).OnClicked(Count(NumTagged))[SNew(SBox).HeightOverride(10.0f)]
-		]
-		+ SVerticalBox::Slot().AutoHeight()[SNew(SMultiLineEditableText).HintText(INVTEXT("Write here"))]
-		+ SVerticalBox::Slot().AutoHeight()[SNew(STextBlock).Text(INVTEXT("Note")).Visibility(EVisibility::Collapsed)]
-		+ SVerticalBox::Slot().FillHeight(1.0f)[SAssignNew(Rows, SScrollBox)];
+	const TSharedRef<SVerticalBox> Box =
+		SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[SAssignNew(Title, STextBlock).Text(INVTEXT("Title"))] +
+		SVerticalBox::Slot().AutoHeight()[SNew(SButton).OnClicked(Count(NumPressedToo))[SNew(STextBlock).Text(INVTEXT("Press me too"))]] +
+		SVerticalBox::Slot().AutoHeight()[SNew(SButton).OnClicked(Count(NumPressed))[SNew(STextBlock).Text(INVTEXT("Press me"))]] +
+		SVerticalBox::Slot().AutoHeight()[SNew(SButton).Tag(TEXT("Tagged")).OnClicked(Count(NumTagged))[SNew(SBox).HeightOverride(10.0f)]] +
+		SVerticalBox::Slot().AutoHeight()[SNew(SMultiLineEditableText).HintText(INVTEXT("Write here"))] +
+		SVerticalBox::Slot().AutoHeight()[SNew(STextBlock).Text(INVTEXT("Note")).Visibility(EVisibility::Collapsed)] +
+		SVerticalBox::Slot().FillHeight(1.0f)[SAssignNew(Rows, SScrollBox)];
 	for (int32 Row = 0; Row < 100; ++Row)
 	{
 		Rows->AddSlot()[SNew(STextBlock).Text(FText::FromString(FString::Printf(TEXT("Row %d"), Row)))];

@@ -12,8 +12,9 @@
 class SScrollBox;
 class STextBlock;
 
-// A window with a few widgets, for play files to act on: the title "Title", the buttons "Press me" and "Press me too", which count, a button
-// without text that is tagged "Tagged", an input box with the hint "Write here", a note that is collapsed, and a list of "Row 0" to "Row 99".
+// A window with a few widgets, for play files to act on: the title "Title", the buttons "Press me" and "Press me too", which count, a
+// button without text that is tagged "Tagged", an input box with the hint "Write here", a note that is collapsed, and a list of "Row 0" to
+// "Row 99".
 class FPlayScene : public IPlayStage
 {
 public:

@@ -60,8 +60,7 @@ TEST(PlayScript, ReadsEveryCommand)
 TEST(PlayScript, NumbersLinesAsAnEditorDoes)
 {
 	FString Error;
-	const TOptional<FPlayScript> Script =
-		FPlayScript::Parse(TEXT("a.play"), TEXT("# a comment\r\n\r\nsleep 0\r\n   \n#\nsleep 1"), Error);
+	const TOptional<FPlayScript> Script = FPlayScript::Parse(TEXT("a.play"), TEXT("# a comment\r\n\r\nsleep 0\r\n   \n#\nsleep 1"), Error);
 	ASSERT_TRUE(Script.IsSet()) << Error;
 	ASSERT_EQ(Script->Lines.Num(), 2);
 	EXPECT_EQ(Script->Lines[0].Number, 3);

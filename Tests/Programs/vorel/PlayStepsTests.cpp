@@ -84,9 +84,8 @@ TEST(PlaySteps, TheWheelScrollsWhatItIsOver)
 TEST(PlaySteps, TypesIntoTheBoxThatAHintNames)
 {
 	FPlayScene Scene;
-	EXPECT_PLAYS(Scene,
-		"expect text \"Write here\"\nfocus \"Write here\"\ntype \"a \\\"b\\\"\\nc\\t\U0001F600\"\n"
-		"expect text \"a \\\"b\\\"\\nc\\t\U0001F600\"\nexpect no text \"Write here\"");
+	EXPECT_PLAYS(Scene, "expect text \"Write here\"\nfocus \"Write here\"\ntype \"a \\\"b\\\"\\nc\\t\U0001F600\"\n"
+						"expect text \"a \\\"b\\\"\\nc\\t\U0001F600\"\nexpect no text \"Write here\"");
 	EXPECT_PLAYS(Scene, "press Ctrl+A\npress Backspace\nexpect text \"Write here\"");
 	EXPECT_PLAYS(Scene, "type \"a\"\npress Enter\ntype \"b\"\npress Up\npress Home\ntype \"0\"\nexpect text \"0a\\nb\"");
 	EXPECT_FAILS(Scene, "focus \"Title\"", "a.play:1: \"Title\": no widget shows it");
@@ -127,12 +126,14 @@ TEST(PlaySteps, SavesWhatIsShown)
 	FPlayScene Scene;
 	Scene.Title->SetText(INVTEXT("\"New\""));
 	const FString Picture = Scene.GetFile(TEXT("new/a.png"));
-	const FString Text = FString::Printf(TEXT("resize 320x240\nscreenshot \"%s\"\nscreenshot window \"%s\"\ntree \"%s\"\nsent to browser \"%s\""),
-		*Picture, *Scene.GetFile(TEXT("b.png")), *Scene.GetFile(TEXT("a.txt")), *Scene.GetFile(TEXT("sent.txt")));
+	const FString Text =
+		FString::Printf(TEXT("resize 320x240\nscreenshot \"%s\"\nscreenshot window \"%s\"\ntree \"%s\"\nsent to browser \"%s\""), *Picture,
+			*Scene.GetFile(TEXT("b.png")), *Scene.GetFile(TEXT("a.txt")), *Scene.GetFile(TEXT("sent.txt")));
 	EXPECT_TEXT(Scene.Play(Text), TEXT(""));
 	const QImage Saved(ToQString(Picture));
 	EXPECT_EQ(Saved.size(), QSize(320, 240));
-	EXPECT_EQ(Saved.convertToFormat(QImage::Format_RGB32), QImage(ToQString(Scene.GetFile(TEXT("b.png")))).convertToFormat(QImage::Format_RGB32));
+	EXPECT_EQ(
+		Saved.convertToFormat(QImage::Format_RGB32), QImage(ToQString(Scene.GetFile(TEXT("b.png")))).convertToFormat(QImage::Format_RGB32));
 	EXPECT_TRUE(Scene.ReadFile(TEXT("a.txt")).Contains(TEXT("STextBlock 0,0 320x"))) << Scene.ReadFile(TEXT("a.txt"));
 	EXPECT_TRUE(Scene.ReadFile(TEXT("a.txt")).Contains(TEXT("\"\\\"New\\\"\"")));
 	EXPECT_TEXT(Scene.ReadFile(TEXT("sent.txt")), TEXT("https://host/a\nhttps://host/b\n"));
@@ -141,8 +142,8 @@ TEST(PlaySteps, SavesWhatIsShown)
 TEST(PlaySteps, SavesTheClipboard)
 {
 	FPlayScene Scene;
-	const FString Text =
-		FString::Printf(TEXT("focus \"Write here\"\ntype \"caf\u00e9\\n1\"\npress Ctrl+A\npress Ctrl+C\nclipboard \"%s\""), *Scene.GetFile(TEXT("c")));
+	const FString Text = FString::Printf(
+		TEXT("focus \"Write here\"\ntype \"caf\u00e9\\n1\"\npress Ctrl+A\npress Ctrl+C\nclipboard \"%s\""), *Scene.GetFile(TEXT("c")));
 	EXPECT_TEXT(Scene.Play(Text), TEXT(""));
 	EXPECT_TEXT(Scene.ReadFile(TEXT("c")), TEXT("caf\u00e9\n1"));
 }

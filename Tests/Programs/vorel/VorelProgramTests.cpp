@@ -116,26 +116,26 @@ TEST_F(VorelProgram, AFailedStepEndsIt)
 {
 	const FOutcome Outcome = Play("open \"Nothing\"\nclipboard \"c.txt\"\n");
 	EXPECT_EQ(Outcome.ExitStatus, 1);
-	EXPECT_TRUE(Outcome.Errors.Contains(TEXT("a.play:1: no Tools menu has an entry Nothing that can be invoked; there are: Vorel AI, Vorel AI\n")))
+	EXPECT_TRUE(
+		Outcome.Errors.Contains(TEXT("a.play:1: no Tools menu has an entry Nothing that can be invoked; there are: Vorel AI, Vorel AI\n")))
 		<< Outcome.Errors;
 	EXPECT_FALSE(Exists("c.txt"));
 }
 
 TEST_F(VorelProgram, HoldsAConversationTwiceWithTheSamePictures)
 {
-	const char* const Conversation =
-		"open \"Vorel AI\"\n"
-		"wait idle\n"
-		"screenshot \"empty.png\"\n"
-		"focus \"Type your message here...\"\n"
-		"type \"How do I log a message?\"\n"
-		"press Enter\n"
-		"expect text \"How do I log a message?\"\n"
-		"wait text \"UE_LOG\" 60\n"
-		"wait idle 60\n"
-		"screenshot \"answer.png\"\n"
-		"screenshot window \"window.png\"\n"
-		"tree \"tree.txt\"\n";
+	const char* const Conversation = "open \"Vorel AI\"\n"
+									 "wait idle\n"
+									 "screenshot \"empty.png\"\n"
+									 "focus \"Type your message here...\"\n"
+									 "type \"How do I log a message?\"\n"
+									 "press Enter\n"
+									 "expect text \"How do I log a message?\"\n"
+									 "wait text \"UE_LOG\" 60\n"
+									 "wait idle 60\n"
+									 "screenshot \"answer.png\"\n"
+									 "screenshot window \"window.png\"\n"
+									 "tree \"tree.txt\"\n";
 	QByteArray First[4];
 	const char* const Files[] = {"empty.png", "answer.png", "window.png", "tree.txt"};
 	for (int Round = 0; Round < 2; ++Round)
