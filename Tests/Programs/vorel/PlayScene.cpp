@@ -15,14 +15,21 @@
 
 #include <QApplication>
 
-static QApplication& GetQtApplication()
+// Qt's application must go before the program's statics do.
+class FQtEnvironment : public testing::Environment
 {
-	static int ArgumentCount = 1;
-	static char Name[] = "test";
-	static char* Arguments[] = {Name, nullptr};
-	static QApplication Application(ArgumentCount, Arguments);
-	return Application;
-}
+public:
+	void SetUp() override { Application = std::make_unique<QApplication>(ArgumentCount, Arguments); }
+	void TearDown() override { Application.reset(); }
+
+private:
+	int ArgumentCount = 1;
+	char Name[5] = "test";
+	char* Arguments[2] = {Name, nullptr};
+	std::unique_ptr<QApplication> Application;
+};
+
+static testing::Environment* const QtEnvironment = testing::AddGlobalTestEnvironment(new FQtEnvironment);
 
 static FOnClicked Count(int32& Counter)
 {
@@ -36,7 +43,6 @@ static FOnClicked Count(int32& Counter)
 
 FPlayScene::FPlayScene()
 {
-	GetQtApplication();
 	FDesktopApplication& Desktop = *FDesktopApplication::Create(EBrowserMode::Record);
 	SMultiLineEditableText::SetCaretBlinking(false);
 	Host = std::make_unique<QSlateWidget>(Desktop, SNew(SWindow)[MakeContent()]);
@@ -52,22 +58,54 @@ FPlayScene::~FPlayScene()
 	FDesktopApplication::Shutdown();
 }
 
-TSharedRef<SWidget> FPlayScene::MakeContent()
+static TSharedRef<SWidget> MakeRows()
 {
-	const TSharedRef<SVerticalBox> Box =
-		SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[SAssignNew(Title, STextBlock).Text(INVTEXT("Title"))] +
-		SVerticalBox::Slot().AutoHeight()[SNew(SButton).OnClicked(Count(NumPressedToo))[SNew(STextBlock).Text(INVTEXT("Press me too"))]] +
-		SVerticalBox::Slot().AutoHeight()[SNew(SButton).OnClicked(Count(NumPressed))[SNew(STextBlock).Text(INVTEXT("Press me"))]] +
-		SVerticalBox::Slot().AutoHeight()[SNew(SButton).Tag(TEXT("Tagged")).OnClicked(Count(NumTagged))[SNew(SBox).HeightOverride(10.0f)]] +
-		SVerticalBox::Slot().AutoHeight()[SNew(SMultiLineEditableText).HintText(INVTEXT("Write here"))] +
-		SVerticalBox::Slot().AutoHeight()[SNew(STextBlock).Text(INVTEXT("Note")).Visibility(EVisibility::Collapsed)] +
-		SVerticalBox::Slot().FillHeight(1.0f)[SAssignNew(Rows, SScrollBox)];
+	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox);
 	for (int32 Row = 0; Row < 100; ++Row)
 	{
-		Rows->AddSlot()[SNew(STextBlock).Text(FText::FromString(FString::Printf(TEXT("Row %d"), Row)))];
+		Box->AddSlot().AutoHeight()[SNew(STextBlock).Text(FText::FromString(FString::Printf(TEXT("Row %d"), Row)))];
 	}
 	return Box;
 }
+
+// clang-format off
+TSharedRef<SWidget> FPlayScene::MakeContent()
+{
+	return SNew(SVerticalBox)
+		+ SVerticalBox::Slot().AutoHeight()
+		[
+			SAssignNew(Title, STextBlock).Text(INVTEXT("Title"))
+		]
+		+ SVerticalBox::Slot().AutoHeight()
+		[
+			SNew(SButton).OnClicked(Count(NumPressedToo))[SNew(STextBlock).Text(INVTEXT("Press me too"))]
+		]
+		+ SVerticalBox::Slot().AutoHeight()
+		[
+			SNew(SButton).OnClicked(Count(NumPressed))[SNew(STextBlock).Text(INVTEXT("Press me"))]
+		]
+		+ SVerticalBox::Slot().AutoHeight()
+		[
+			SNew(SButton).Tag(TEXT("Tagged")).OnClicked(Count(NumTagged))[SNew(SBox).HeightOverride(10.0f)]
+		]
+		+ SVerticalBox::Slot().AutoHeight()
+		[
+			SNew(SMultiLineEditableText).HintText(INVTEXT("Write here"))
+		]
+		+ SVerticalBox::Slot().AutoHeight()
+		[
+			SNew(STextBlock).Text(INVTEXT("Note")).Visibility(EVisibility::Collapsed)
+		]
+		+ SVerticalBox::Slot().FillHeight(1.0f)
+		[
+			SAssignNew(Rows, SScrollBox)
+			+ SScrollBox::Slot()
+			[
+				MakeRows()
+			]
+		];
+}
+// clang-format on
 
 FString FPlayScene::Play(const FString& Text)
 {

@@ -151,6 +151,7 @@ TEST(PlaySteps, SavesTheClipboard)
 TEST(PlaySteps, AFileThatCantBeWrittenIsAFailure)
 {
 	FPlayScene Scene;
-	EXPECT_FAILS(Scene, "screenshot \"/proc/none/a.png\"", "a.play:1: can't write /proc/none/a.png: No such file or directory");
+	EXPECT_FAILS(Scene, "screenshot \"/proc/none/a.png\"",
+		"a.play:1: can't write /proc/none/a.png: Cannot open device for writing: No such file or directory");
 	EXPECT_FAILS(Scene, "tree \"/proc/none/a.txt\"", "a.play:1: can't write /proc/none/a.txt");
 }

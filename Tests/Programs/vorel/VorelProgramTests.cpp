@@ -4,9 +4,8 @@
 #include "Support/Printers.h"
 #include "Support/TempFolder.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 
 namespace
@@ -36,7 +35,9 @@ protected:
 		}
 		Process.setProcessEnvironment(Environment);
 		Process.setWorkingDirectory(ToQString(Folder.GetPath()));
-		Process.start(QDir(QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget()).filePath(QStringLiteral("../vorel")), Arguments);
+		Process.start(
+			QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget().replace(QLatin1String("Tests.Programs"), QLatin1String("vorel")),
+			Arguments);
 		EXPECT_TRUE(Process.waitForFinished(PatienceInMilliseconds));
 		return {Process.exitStatus() == QProcess::NormalExit ? Process.exitCode() : -1,
 			ToFString(QString::fromUtf8(Process.readAllStandardOutput())), ToFString(QString::fromUtf8(Process.readAllStandardError()))};
@@ -101,7 +102,7 @@ TEST_F(VorelProgram, RefusesWhatItCantRead)
 	ExpectRefused(Run({QStringLiteral("--offscreen"), QStringLiteral("--size=1")}),
 		TEXT("vorel: --size needs a width and a height from 1 to 8192, like 1000x800"));
 	ExpectRefused(Run({QStringLiteral("--offscreen"), QStringLiteral("--play"), QStringLiteral("no.play")}),
-		TEXT("vorel: no.play: No such file or directory"));
+		TEXT("no.play: No such file or directory"));
 	ExpectRefused(Run({QStringLiteral("--offscreen"), QStringLiteral("--data-dir"), QStringLiteral("/proc/none/data")}),
 		TEXT("vorel: The folder for data /proc/none/data can't be made: No such file or directory."));
 }
