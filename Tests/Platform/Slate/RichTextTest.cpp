@@ -44,6 +44,32 @@ public:
 	TArray<FString> Contents;
 };
 
+/** Supports nothing, and counts how often it is asked. */
+class FAskedDecorator final : public ITextDecorator
+{
+public:
+	explicit FAskedDecorator(int32& InCount)
+		: Count(InCount)
+	{
+	}
+
+	virtual bool Supports(const FTextRunParseResults&, const FString&) const override
+	{
+		++Count;
+		return false;
+	}
+
+	virtual TSharedRef<ISlateRun> Create(const TSharedRef<FTextLayout>&, const FTextRunParseResults&, const FString&,
+		const TSharedRef<FString>&, const ISlateStyle*) override
+	{
+		checkf(false, TEXT("Only what is supported is made"));
+		return FSlateTextRun::Create(FRunInfo(), MakeShared<FString>(), FTextBlockStyle(), FTextRange(0, 0));
+	}
+
+private:
+	int32& Count;
+};
+
 /** A text run that counts how often it is measured. */
 class FCountingRun final : public FSlateTextRun
 {
@@ -153,7 +179,7 @@ TEST_F(FRichText, WidgetsStandAmongTheWordsOnTheBaseline)
 	// 15 of the 20 pixels of a letter are above the baseline.
 	EXPECT_EQ(Boxes[0]->GetCachedGeometry().GetAbsolutePosition(), FVector2D(20.0, 0.0));
 	EXPECT_EQ(Boxes[1]->GetCachedGeometry().GetAbsolutePosition(), FVector2D(0.0, 35.0));
-	EXPECT_EQ(Text->GetDesiredSize(), FVector2D(70.0, 35.0 + 30.0));
+	EXPECT_EQ(Text->GetDesiredSize(), FVector2D(120.0, 35.0 + 30.0));
 	EXPECT_EQ(Text->GetChildren()->Num(), 2);
 }
 
@@ -213,6 +239,40 @@ TEST_F(FRichText, OnlyLinesThatChangedAreMeasured)
 	Window->SetClientArea(FVector2D(60.0, 400.0), 1.0f);
 	EXPECT_EQ(Screen(), FString(TEXT("one\ntwo\nthree \nmore\nfour")));
 	EXPECT_EQ(Count, 3 + 3);
+}
+
+TEST_F(FRichText, ATextThatHasGrownIsReadFromWhereItGrew)
+{
+	int32 NumAsked = 0;
+	ShowMarkup(TEXT("<Colored>one</>\n<Large>two</>\n<Colored>three</>"), {MakeShared<FAskedDecorator>(NumAsked)});
+	EXPECT_EQ(NumAsked, 3);
+	Text->SetText(INVTEXT("<Colored>one</>\n<Large>two</>\n<Colored>three</> more\nfour"));
+	EXPECT_EQ(NumAsked, 3 + 2 + 1);
+	EXPECT_EQ(Text->GetShownText(), FString(TEXT("one\ntwo\nthree more\nfour")));
+}
+
+TEST_F(FRichText, AnyChangeShowsWhatAFreshViewShows)
+{
+	const TSharedRef<SWidget> Owner = MakeBox(1.0f, 1.0f);
+	const TSharedRef<FSlateTextLayout> Kept = FSlateTextLayout::Create(*Owner, Style);
+	const TSharedRef<FRichTextLayoutMarshaller> Marshaller = FRichTextLayoutMarshaller::Create({}, &StyleSet);
+	const FString Pieces[] = {FString(TEXT("a")), FString(TEXT(" b")), FString(TEXT("\n")), FString(TEXT("\r\n")), FString(TEXT("<Large>")),
+		FString(TEXT("</>")), FString(TEXT("&lt;")), FString(TEXT("<Colored>c</>"))};
+	uint32 Random = 1;
+	FString Markup;
+	for (int32 Step = 0; Step < 2000; ++Step)
+	{
+		Random = Random * 1664525u + 1013904223u;
+		// Mostly it grows; sometimes some of it is lost.
+		Markup = (Random >> 8) % 10 == 0 ? Markup.Left((Random >> 12) % (Markup.Len() + 1)) : Markup + Pieces[(Random >> 16) % 8];
+		Kept->ClearLines();
+		Marshaller->SetText(Markup, *Kept);
+		Kept->UpdateIfNeeded();
+		const TSharedRef<FSlateTextLayout> Fresh = FSlateTextLayout::Create(*Owner, Style);
+		FRichTextLayoutMarshaller::Create({}, &StyleSet)->SetText(Markup, *Fresh);
+		Fresh->UpdateIfNeeded();
+		ASSERT_EQ(Kept->ToDebugString(), Fresh->ToDebugString()) << Markup;
+	}
 }
 
 TEST_F(FRichText, OnlyVisibleLinesArePainted)

@@ -2,7 +2,7 @@
 #include "TextDriver.h"
 
 #include "Widgets/SBoxPanel.h"
-#include "Widgets/SOverlay.h"
+#include "Widgets/Layout/SBox.h"
 #include "Widgets/Text/STextBlock.h"
 
 struct FWrapCase
@@ -92,7 +92,7 @@ TEST_F(FTextLayoutRules, AnEmptyTextIsOneLineHigh)
 TEST_F(FTextLayoutRules, MarginsAreKeptFreeAtAnyScale)
 {
 	ShowText(Arguments().Text(INVTEXT("one two")).IsReadOnly(true).AutoWrapText(true).Margin(FMargin(4.0f)), 48.0f, 400.0f, 2.0f);
-	EXPECT_EQ(Text->GetDesiredSize(), FVector2D(38.0, 2 * Row + 8.0));
+	EXPECT_EQ(Text->GetDesiredSize(), FVector2D(78.0, 2 * Row + 8.0));
 	EXPECT_EQ(ReadScreen().GetRowLeft(1), 8.0f);
 	EXPECT_EQ(ReadScreen().GetRowRight(1), 68.0f);
 }
@@ -156,7 +156,7 @@ TEST_F(FLabels, WrapsWithinTheFrameInWhichItLearnsItsWidth)
 	const TSharedRef<STextBlock> Below = SNew(STextBlock).TextStyle(&Style).Text(INVTEXT("below"));
 	Show(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Label] + SVerticalBox::Slot().AutoHeight()[Below], 79.0f);
 	EXPECT_EQ(FTextScreen(*Window->GetDisplayList(), FLinearColor::Red, Row).ToString(), FString(TEXT("one two \nthree\nbelow")));
-	EXPECT_EQ(Label->GetDesiredSize(), FVector2D(70.0, 2 * Row));
+	EXPECT_EQ(Label->GetDesiredSize(), FVector2D(130.0, 2 * Row));
 
 	Window->SetClientArea(FVector2D(130.0, 400.0), 1.0f);
 	Frame();
@@ -196,4 +196,16 @@ TEST_F(FLabels, AnotherColorIsPaintedWithoutLayout)
 	EXPECT_GT(Application().GetFrameStats().NumPainted, 0);
 	Frame();
 	EXPECT_EQ(Application().GetFrameStats().NumPainted, 0);
+}
+
+TEST_F(FLabels, ALongerTextIsNotSqueezedIntoTheRoomOfAShorterOne)
+{
+	const TSharedRef<STextBlock> Label = SNew(STextBlock).TextStyle(&Style).Text(INVTEXT("one")).AutoWrapText(true).WrapTextAt(100.0f);
+	Show(SNew(SBox).HAlign(HAlign_Center)[Label], 400.0f);
+	EXPECT_EQ(ReadScreen().GetRowLeft(0), 185.0f);
+	Label->SetText(INVTEXT("one two three four"));
+	EXPECT_EQ(Screen(), FString(TEXT("one two \nthree four")));
+	EXPECT_EQ(ReadScreen().GetRowLeft(0), 150.0f);
+	Label->SetText(INVTEXT("one"));
+	EXPECT_EQ(ReadScreen().GetRowLeft(0), 185.0f);
 }

@@ -89,7 +89,9 @@ private:
 
 	int32 CutLongStretch(int32 Begin) const
 	{
-		const int32 Cut = TextBoundaries::PreviousGrapheme(Text, Begin + FTextUnit::MaxUnitLength + 1);
+		// Only this far, since a heap of marks would be searched from its beginning at each cut.
+		const FStringView Window = Text.Mid(Begin, FTextUnit::MaxUnitLength + 1);
+		const int32 Cut = Begin + TextBoundaries::PreviousGrapheme(Window, Window.Len());
 		if (Cut > Begin)
 		{
 			return Cut;
@@ -139,6 +141,18 @@ FMeasuredText::FRunHeight MeasureHeight(const IRun& Run, float Scale)
 	return {Run.GetMaxHeight(Scale) + BaseLine, -BaseLine};
 }
 } // namespace
+
+float FMeasuredText::GetWidth() const
+{
+	float X = 0.0f;
+	float VisibleEnd = 0.0f;
+	for (const FTextUnit& Unit : Units)
+	{
+		VisibleEnd = Unit.VisibleWidth > 0.0f ? X + Unit.VisibleWidth : VisibleEnd;
+		X += Unit.Width;
+	}
+	return VisibleEnd;
+}
 
 FRunTextContext MakeRunContext(ETextShapingMethod ShapingMethod, uint8 Level)
 {

@@ -41,6 +41,9 @@ struct FMeasuredText
 	/** One for each run. */
 	TArray<FRunHeight> RunHeights;
 	uint8 ParagraphLevel = 0;
+
+	/** Of all units on one line, without the blanks at its end. */
+	float GetWidth() const;
 };
 
 /** Measures a line. `Runs` follow each other over the whole of `Text`. */

@@ -4,10 +4,12 @@
 #include "Framework/Text/ITextDecorator.h"
 #include "Framework/Text/RichTextMarkupProcessing.h"
 #include "Framework/Text/SlateTextRun.h"
-#include "Framework/Text/TextLayout.h"
 #include "Styling/ISlateStyle.h"
 #include "Styling/SlateTypes.h"
+#include "TextLines.h"
 #include "TextStylePool.h"
+
+#include <algorithm>
 
 TSharedRef<FRichTextLayoutMarshaller> FRichTextLayoutMarshaller::Create(
 	TArray<TSharedRef<ITextDecorator>> Decorators, const ISlateStyle* DecoratorStyleSet)
@@ -23,26 +25,65 @@ FRichTextLayoutMarshaller::FRichTextLayoutMarshaller(
 {
 }
 
+void FRichTextLayoutMarshaller::MakeDirty()
+{
+	FBaseTextLayoutMarshaller::MakeDirty();
+	LastLayout.Reset();
+}
+
 void FRichTextLayoutMarshaller::SetText(const FString& SourceString, FTextLayout& TargetTextLayout)
+{
+	const int32 UnchangedLength = FindUnchangedLength(SourceString, TargetTextLayout);
+	const int32 NumKnown = UnchangedLength > 0 ? Lines.Num() : 0;
+	int32 NumLines = 0;
+	FTextRange Line;
+	for (int32 Begin = 0; Begin != INDEX_NONE; ++NumLines)
+	{
+		Begin = TextLines::FindLine(SourceString, Begin, Line);
+		const bool bUnchanged = NumLines < NumKnown && Begin != INDEX_NONE && Begin <= UnchangedLength;
+		if (!bUnchanged || LineIsDecorated[NumLines])
+		{
+			ReadLine(FStringView(SourceString).Mid(Line.BeginIndex, Line.Len()), NumLines, TargetTextLayout);
+		}
+	}
+	Lines.RemoveAt(NumLines, Lines.Num() - NumLines);
+	LineIsDecorated.SetNum(NumLines);
+	LastSource = SourceString;
+	LastLayout = TargetTextLayout.AsShared();
+	TargetTextLayout.AddLines(Lines);
+}
+
+int32 FRichTextLayoutMarshaller::FindUnchangedLength(const FString& SourceString, const FTextLayout& Layout) const
+{
+	if (!LastLayout.HasSameObject(&Layout))
+	{
+		return 0;
+	}
+	const auto Difference = std::mismatch(SourceString.begin(), SourceString.end(), LastSource.begin(), LastSource.end());
+	return static_cast<int32>(Difference.first - SourceString.begin());
+}
+
+void FRichTextLayoutMarshaller::ReadLine(FStringView Source, int32 LineIndex, FTextLayout& Layout)
 {
 	FString Text;
 	TArray<FTextLineParseResults> Results;
-	Parser->Process(Results, SourceString, Text);
-
-	TArray<FTextLayout::FNewLineData> NewLines;
-	NewLines.Reserve(Results.Num());
-	for (const FTextLineParseResults& Line : Results)
+	Parser->Process(Results, FString(Source), Text);
+	const TSharedRef<FString> ModelText = MakeShared<FString>();
+	TArray<TSharedRef<IRun>> Runs;
+	bool bDecorated = false;
+	for (const FTextRunParseResults& Run : Results[0].Runs)
 	{
-		const TSharedRef<FString> ModelText = MakeShared<FString>();
-		TArray<TSharedRef<IRun>> Runs;
-		Runs.Reserve(Line.Runs.Num());
-		for (const FTextRunParseResults& Run : Line.Runs)
-		{
-			Runs.Add(CreateRun(Run, Text, ModelText, TargetTextLayout));
-		}
-		NewLines.Add({ModelText, MoveTemp(Runs)});
+		Runs.Add(CreateRun(Run, Text, ModelText, Layout, bDecorated));
 	}
-	TargetTextLayout.AddLines(NewLines);
+	const FTextLayout::FNewLineData Line{ModelText, MoveTemp(Runs)};
+	if (LineIndex < Lines.Num())
+	{
+		Lines[LineIndex] = Line;
+		LineIsDecorated[LineIndex] = bDecorated;
+		return;
+	}
+	Lines.Add(Line);
+	LineIsDecorated.Add(bDecorated);
 }
 
 void FRichTextLayoutMarshaller::GetText(FString& TargetString, const FTextLayout& SourceTextLayout)
@@ -51,12 +92,13 @@ void FRichTextLayoutMarshaller::GetText(FString& TargetString, const FTextLayout
 }
 
 TSharedRef<IRun> FRichTextLayoutMarshaller::CreateRun(
-	const FTextRunParseResults& Result, const FString& Text, const TSharedRef<FString>& ModelText, FTextLayout& Layout)
+	const FTextRunParseResults& Result, const FString& Text, const TSharedRef<FString>& ModelText, FTextLayout& Layout, bool& bOutDecorated)
 {
 	for (const TSharedRef<ITextDecorator>& Decorator : Decorators)
 	{
 		if (Decorator->Supports(Result, Text))
 		{
+			bOutDecorated = true;
 			return Decorator->Create(Layout.AsShared(), Result, Text, ModelText, DecoratorStyleSet);
 		}
 	}

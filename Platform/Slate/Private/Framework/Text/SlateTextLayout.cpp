@@ -34,7 +34,13 @@ void FSlateTextLayout::OnLinesChanged()
 	TArray<FInlineWidget> Found;
 	for (int32 Index = 0; Index < GetLines().Num(); ++Index)
 	{
-		for (const TSharedRef<IRun>& Run : GetLines()[Index]->Runs)
+		FTextLine& Line = *GetLines()[Index];
+		if (!Line.bHasWidgets.Get(true))
+		{
+			continue;
+		}
+		const int32 NumBefore = Found.Num();
+		for (const TSharedRef<IRun>& Run : Line.Runs)
 		{
 			const TSharedRef<ISlateRun> SlateRun = StaticCastSharedRef<ISlateRun>(Run);
 			if (SlateRun->GetWidget())
@@ -42,6 +48,7 @@ void FSlateTextLayout::OnLinesChanged()
 				Found.Add({SlateRun, Index, SlateRun->GetWidget()->GetDesiredSize()});
 			}
 		}
+		Line.bHasWidgets = Found.Num() > NumBefore;
 	}
 	if (Found.IsEmpty() && InlineWidgets.IsEmpty())
 	{

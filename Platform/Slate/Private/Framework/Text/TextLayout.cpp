@@ -41,18 +41,20 @@ void FTextLayout::ReplaceLines(int32 FirstLine, int32 Count, const TArray<FNewLi
 	OnLinesChanged();
 }
 
-TSharedRef<FTextLine> FTextLayout::MakeLine(const FNewLineData& Data, int32 Index)
+TSharedRef<FTextLine> FTextLayout::MakeLine(const FNewLineData& Data, int32 Index) const
 {
+	const bool bHasOld = OldLines.IsValidIndex(Index);
+	if (bHasOld && OldLines[Index]->Text == Data.Text)
+	{
+		return OldLines[Index];
+	}
 	TArray<TSharedRef<IRun>> Runs = Data.Runs;
 	if (Runs.IsEmpty())
 	{
 		Runs.Add(CreateDefaultTextRun(Data.Text, FTextRange(0, Data.Text->Len())));
 	}
-	if (OldLines.IsValidIndex(Index) && OldLines[Index]->HasSameContent(*Data.Text, Runs))
-	{
-		return OldLines[Index];
-	}
-	return MakeShared<FTextLine>(Data.Text, MoveTemp(Runs));
+	return bHasOld && OldLines[Index]->HasSameContent(*Data.Text, Runs) ? OldLines[Index]
+																		: MakeShared<FTextLine>(Data.Text, MoveTemp(Runs));
 }
 
 const FString& FTextLayout::GetLineText(int32 LineIndex) const
@@ -155,6 +157,7 @@ void FTextLayout::UpdateIfNeeded()
 	bNeedsUpdate = false;
 	OldLines.Reset();
 	TextWidth = 0.0f;
+	UnwrappedWidth = 0.0f;
 	TextHeight = 0.0;
 	for (int32 Index = 0; Index < Lines.Num(); ++Index)
 	{
@@ -164,6 +167,7 @@ void FTextLayout::UpdateIfNeeded()
 		Line->Top = TextHeight;
 		TextHeight += Line->GetHeight();
 		TextWidth = FMath::Max(TextWidth, Line->Width);
+		UnwrappedWidth = FMath::Max(UnwrappedWidth, Line->UnwrappedWidth);
 	}
 }
 
@@ -174,6 +178,7 @@ void FTextLayout::UpdateLine(FTextLine& Line) const
 	if (!bWasMeasured)
 	{
 		Line.Measured = MeasureText(*Line.Text, Line.Runs, Scale, ShapingMethod);
+		Line.UnwrappedWidth = Line.Measured.GetWidth();
 		Line.bIsMeasured = true;
 	}
 	if (!bWasMeasured || Line.WrappedAt != Width)
@@ -207,8 +212,19 @@ FVector2D FTextLayout::GetTextOrigin() const
 FVector2D FTextLayout::GetSize() const
 {
 	check(!bNeedsUpdate);
+	return FVector2D(ToUnits(TextWidth), TextHeight / Scale + Margin.Top + Margin.Bottom);
+}
+
+float FTextLayout::GetUnwrappedWidth() const
+{
+	check(!bNeedsUpdate);
+	return ToUnits(UnwrappedWidth);
+}
+
+float FTextLayout::ToUnits(float Width) const
+{
 	// Whole pixels: wrapping at the very width that was asked for must not break a line because of a rounded fraction.
-	return FVector2D(FMath::CeilToFloat(TextWidth), TextHeight) / Scale + FVector2D(Margin.Left + Margin.Right, Margin.Top + Margin.Bottom);
+	return FMath::CeilToFloat(Width) / Scale + Margin.Left + Margin.Right;
 }
 
 float FTextLayout::GetLineLeft(const FTextLine& Line, const FWrappedLine& Wrapped) const

@@ -22,11 +22,14 @@ struct FTextLine
 	float WrappedAt = 0.0f;
 	bool bIsMeasured = false;
 
+	/** Whether some run is a widget; unset until asked for. */
+	TOptional<bool> bHasWidgets;
 	/** Its place in the layout. */
 	int32 Index = 0;
 	/** In device pixels; the top is from the layout's first line. */
 	double Top = 0.0;
 	float Width = 0.0f;
+	float UnwrappedWidth = 0.0f;
 
 	int32 GetHeight() const { return WrappedLines.Last().GetBottom(); }
 	bool HasSameContent(const FString& OtherText, const TArray<TSharedRef<IRun>>& OtherRuns) const;

@@ -57,8 +57,7 @@ void SMultiLineEditableText::Construct(const FArguments& InArgs)
 		InArgs._Marshaller ? InArgs._Marshaller.ToSharedRef() : TSharedRef<ITextLayoutMarshaller>(FPlainTextLayoutMarshaller::Create());
 	Controller = MakeUnique<FEditableTextController>(*this, TextLayout.ToSharedRef(), Marshaller, MakeOptions(InArgs));
 	Mouse = MakeUnique<FEditableTextMouse>(*Controller);
-	WrapTextAt = InArgs._WrapTextAt;
-	bAutoWrapText = InArgs._AutoWrapText;
+	Wrapping = MakeUnique<FTextWrapping>(FTextWrapping{InArgs._WrapTextAt, InArgs._AutoWrapText});
 	HintAttribute.Assign(*this, InArgs._HintText);
 	SetText(InArgs._Text);
 	SetClipping(EWidgetClipping::ClipToBounds);
@@ -135,43 +134,36 @@ FVector2D SMultiLineEditableText::ComputeDesiredSize(float LayoutScaleMultiplier
 		ApplyText();
 	}
 	TextLayout->UpdateWidgetSizes();
-	FVector2D Size = LayOut(*TextLayout, LayoutScaleMultiplier);
+	FVector2D Size = Wrapping->LayOut(*TextLayout, LayoutScaleMultiplier);
 	if (IsHintShown())
 	{
 		ApplyHint();
-		const FVector2D HintSize = LayOut(*HintLayout, LayoutScaleMultiplier);
+		const FVector2D HintSize = Wrapping->LayOut(*HintLayout, LayoutScaleMultiplier);
 		Size = FVector2D(FMath::Max(Size.X, HintSize.X), FMath::Max(Size.Y, HintSize.Y));
 	}
-	// Behind the last letter there must be room for the caret.
-	return Controller->IsReadOnly() ? Size : Size + FVector2D(FEditableTextController::CaretWidth, 0.0);
+	return Size + FVector2D(GetCaretRoom(), 0.0);
 }
 
-FVector2D SMultiLineEditableText::LayOut(FSlateTextLayout& Layout, float Scale) const
+float SMultiLineEditableText::GetCaretRoom() const
 {
-	const float CaretRoom = Controller->IsReadOnly() || AllottedWidth <= 0.0f ? 0.0f : FEditableTextController::CaretWidth;
-	Layout.SetScale(Scale);
-	Layout.SetWrappingWidth(FindWrappingWidth(WrapTextAt, AllottedWidth - CaretRoom));
-	Layout.UpdateIfNeeded();
-	return Layout.GetSize();
+	return Controller->IsReadOnly() ? 0.0f : FEditableTextController::CaretWidth;
 }
 
 void SMultiLineEditableText::OnArranged(const FGeometry& AllottedGeometry)
 {
-	const float Width = static_cast<float>(AllottedGeometry.GetLocalSize().X);
+	const float Width = static_cast<float>(AllottedGeometry.GetLocalSize().X) - GetCaretRoom();
 	const float Scale = AllottedGeometry.GetScale();
 	TextLayout->SetViewWidth(Width);
 	HintLayout->SetViewWidth(Width);
-	if (bAutoWrapText && AllottedWidth != Width)
+	if (Wrapping->bAutoWrapText && Wrapping->AllottedWidth != Width)
 	{
-		AllottedWidth = Width;
+		Wrapping->AllottedWidth = Width;
 		if (ComputeDesiredSize(Scale) != GetDesiredSize())
 		{
 			Invalidate(EInvalidateWidgetReason::Layout);
 		}
 	}
-	const double CaretRoom = Controller->IsReadOnly() ? 0.0 : FEditableTextController::CaretWidth;
-	Controller->SetSizes(
-		AllottedGeometry.GetAbsoluteSize(), (TextLayout->GetSize() + FVector2D(bAutoWrapText ? 0.0 : CaretRoom, 0.0)) * Scale);
+	Controller->SetSizes(AllottedGeometry.GetAbsoluteSize(), (TextLayout->GetSize() + FVector2D(GetCaretRoom(), 0.0)) * Scale);
 }
 
 FGeometry SMultiLineEditableText::GetTextGeometry(const FGeometry& AllottedGeometry) const

@@ -24,8 +24,7 @@ void STextBlock::Construct(const FArguments& InArgs)
 	Style.ColorAndOpacity = FSlateColor::UseForeground();
 	TextLayout = FSlateTextLayout::Create(*this, Style);
 	TextLayout->SetJustification(InArgs._Justification);
-	WrapTextAt = InArgs._WrapTextAt;
-	bAutoWrapText = InArgs._AutoWrapText;
+	Wrapping = MakeUnique<FTextWrapping>(FTextWrapping{InArgs._WrapTextAt, InArgs._AutoWrapText});
 	TextAttribute.Assign(*this, InArgs._Text);
 }
 
@@ -38,19 +37,16 @@ FVector2D STextBlock::ComputeDesiredSize(float LayoutScaleMultiplier) const
 		TextLayout->ClearLines();
 		TextLayout->AddLines(TextLines::MakePlainLines(Text.ToString()));
 	}
-	TextLayout->SetScale(LayoutScaleMultiplier);
-	TextLayout->SetWrappingWidth(FindWrappingWidth(WrapTextAt, AllottedWidth));
-	TextLayout->UpdateIfNeeded();
-	return TextLayout->GetSize();
+	return Wrapping->LayOut(*TextLayout, LayoutScaleMultiplier);
 }
 
 void STextBlock::OnArranged(const FGeometry& AllottedGeometry)
 {
 	const float Width = static_cast<float>(AllottedGeometry.GetLocalSize().X);
 	TextLayout->SetViewWidth(Width);
-	if (bAutoWrapText && AllottedWidth != Width)
+	if (Wrapping->bAutoWrapText && Wrapping->AllottedWidth != Width)
 	{
-		AllottedWidth = Width;
+		Wrapping->AllottedWidth = Width;
 		if (ComputeDesiredSize(AllottedGeometry.GetScale()) != GetDesiredSize())
 		{
 			Invalidate(EInvalidateWidgetReason::Layout);

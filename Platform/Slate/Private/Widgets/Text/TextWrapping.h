@@ -1,12 +1,25 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 #pragma once
 
-/** The width to wrap at, of a fixed and an allotted one of which each counts if it is more than zero; zero if none does. In units. */
-inline float FindWrappingWidth(float WrapTextAt, float AllottedWidth)
+#include "Math/Vector2D.h"
+
+class FTextLayout;
+
+/** How a widget's text is wrapped, in units: at a fixed width, at the width that the widget is given, or at the lesser of both. */
+struct FTextWrapping
 {
-	if (WrapTextAt <= 0.0f || AllottedWidth <= 0.0f)
-	{
-		return WrapTextAt > 0.0f ? WrapTextAt : AllottedWidth;
-	}
-	return WrapTextAt < AllottedWidth ? WrapTextAt : AllottedWidth;
-}
+	/** Zero for none. */
+	float WrapTextAt = 0.0f;
+	bool bAutoWrapText = false;
+	/** Zero until the widget is arranged. */
+	float AllottedWidth = 0.0f;
+
+	/**
+	 * Wraps and returns the size to wish for. The width is that of the text before it was squeezed into the allotted one: a wish that
+	 * followed the allotted width could never grow again. The height is that of the text as it is wrapped.
+	 */
+	FVector2D LayOut(FTextLayout& Layout, float Scale) const;
+
+private:
+	float FindWidth() const;
+};

@@ -50,6 +50,7 @@ class FTextLayout : public TSharedFromThis<FTextLayout>
 public:
 	struct FNewLineData
 	{
+		/** Belongs to its line alone: the very same string again means the same line. */
 		TSharedRef<FString> Text;
 		/** They follow each other over the whole text; none at all means one run in the default style. */
 		TArray<TSharedRef<IRun>> Runs;
@@ -87,6 +88,8 @@ public:
 	void UpdateIfNeeded();
 	/** In units; the text must be up to date for this and all that follows. */
 	FVector2D GetSize() const;
+	/** As wide as the text would be if no line were wrapped. */
+	float GetUnwrappedWidth() const;
 
 	/** The nearest place for a caret, and the character under a point. */
 	FTextCaret GetCaretAt(const FVector2D& Position) const;
@@ -122,9 +125,10 @@ protected:
 	virtual void OnLinesChanged() = 0;
 
 private:
-	TSharedRef<FTextLine> MakeLine(const FNewLineData& Data, int32 Index);
+	TSharedRef<FTextLine> MakeLine(const FNewLineData& Data, int32 Index) const;
 	void InvalidateMeasurements();
 	void UpdateLine(FTextLine& Line) const;
+	float ToUnits(float Width) const;
 	/** Without the margin; infinite where lines are not wrapped. */
 	float GetWrappingWidthInPixels() const;
 	/** The width in which lines are justified, in device pixels and without the margin. */
@@ -150,6 +154,7 @@ private:
 	ETextShapingMethod ShapingMethod = ETextShapingMethod::Auto;
 	/** Of all wrapped lines, in device pixels and without the margin. */
 	float TextWidth = 0.0f;
+	float UnwrappedWidth = 0.0f;
 	double TextHeight = 0.0;
 	bool bNeedsUpdate = true;
 };

@@ -11,6 +11,7 @@ class FEditableTextController;
 class FEditableTextMouse;
 class FSlateTextLayout;
 class ITextLayoutMarshaller;
+struct FTextWrapping;
 
 enum class ETextOverflowPolicy : uint8
 {
@@ -96,7 +97,8 @@ private:
 	void ApplyText() const;
 	void ApplyHint() const;
 	bool IsHintShown() const;
-	FVector2D LayOut(FSlateTextLayout& Layout, float Scale) const;
+	/** Behind the last letter of a line there must be room for the caret. In units. */
+	float GetCaretRoom() const;
 	/** Scrolled: its origin is the text's top left corner. */
 	FGeometry GetTextGeometry(const FGeometry& AllottedGeometry) const;
 	void ReportInputArea(const FGeometry& TextGeometry) const;
@@ -105,6 +107,7 @@ private:
 	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> HintAttribute;
 	TSharedPtr<FSlateTextLayout> TextLayout;
 	TSharedPtr<FSlateTextLayout> HintLayout;
+	TUniquePtr<FTextWrapping> Wrapping;
 	TUniquePtr<FEditableTextController> Controller;
 	TUniquePtr<FEditableTextMouse> Mouse;
 	FSlateColor TextColor;
@@ -113,7 +116,4 @@ private:
 	mutable TOptional<FText> LaidOutHint;
 	/** Where input methods were last told that the caret is; absolute. */
 	mutable TOptional<FSlateRect> InputArea;
-	float WrapTextAt = 0.0f;
-	float AllottedWidth = 0.0f;
-	bool bAutoWrapText = false;
 };

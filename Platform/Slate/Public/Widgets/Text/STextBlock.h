@@ -6,6 +6,7 @@
 #include "Widgets/SLeafWidget.h"
 
 class FSlateTextLayout;
+struct FTextWrapping;
 
 /** A label. */
 class STextBlock : public SLeafWidget
@@ -44,9 +45,7 @@ private:
 	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> TextAttribute;
 	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ColorAttribute;
 	TSharedPtr<FSlateTextLayout> TextLayout;
+	TUniquePtr<FTextWrapping> Wrapping;
 	/** What the layout's lines were made of. */
 	mutable TOptional<FText> LaidOutText;
-	float WrapTextAt = 0.0f;
-	float AllottedWidth = 0.0f;
-	bool bAutoWrapText = false;
 };
