@@ -2,7 +2,6 @@
 
 #include "DesktopApplication.h"
 
-#include "Accessibility/AccessibleHost.h"
 #include "DesktopLog.h"
 #include "Editor.h"
 #include "Fonts/DesktopTextShaper.h"
@@ -53,7 +52,6 @@ FDesktopApplication::FDesktopApplication(EBrowserMode InBrowserMode)
 	, TextShaper(MakeDesktopTextShaper())
 {
 	qInstallMessageHandler(LogQtMessage);
-	QAccessible::installFactory(&FAccessibleHost::Make);
 	FPlatformHooks::Get().LaunchURL = [this](const FString& Address, FString& OutError)
 	{
 		return OpenAddress(Address, OutError);
@@ -68,7 +66,6 @@ FDesktopApplication::~FDesktopApplication()
 {
 	FPlatformHooks::Get() = FPlatformHooks();
 	qInstallMessageHandler(nullptr);
-	QAccessible::removeFactory(&FAccessibleHost::Make);
 }
 
 void FDesktopApplication::ForgetHost(const QSlateWidget* Host)

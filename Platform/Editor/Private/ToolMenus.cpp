@@ -50,6 +50,11 @@ UToolMenus* UToolMenus::Get()
 	return GetSystem().Menus;
 }
 
+bool UToolMenus::IsToolMenuUIEnabled()
+{
+	return Get() != nullptr;
+}
+
 void UToolMenus::RegisterStartupCallback(const FSimpleMulticastDelegate::FDelegate& InDelegate)
 {
 	if (GetSystem().bUp)

@@ -65,3 +65,8 @@ void CollectGarbage(EObjectFlags KeepFlags)
 	const TGuardValue<bool> Guard(bIsCollecting, true);
 	FGarbageCollector(KeepFlags).Run();
 }
+
+bool IsGarbageCollecting()
+{
+	return bIsCollecting;
+}

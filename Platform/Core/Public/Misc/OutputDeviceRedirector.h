@@ -19,8 +19,7 @@ public:
 	void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;
 
 private:
-	// A check that fails inside a device is logged too.
-	std::recursive_mutex Mutex;
+	std::mutex Mutex;
 	TArray<FOutputDevice*> Devices;
 };
 

@@ -168,6 +168,8 @@ void SMultiLineEditableText::OnArranged(const FGeometry& AllottedGeometry)
 
 FGeometry SMultiLineEditableText::GetTextGeometry(const FGeometry& AllottedGeometry) const
 {
+	// The tree may be asked where its widgets stand at any time, also between a change and the next frame.
+	TextLayout->UpdateIfNeeded();
 	const FVector2D Offset = Controller->GetScroller().GetOffset() / AllottedGeometry.GetScale();
 	return AllottedGeometry.MakeChild(TextLayout->GetSize(), FSlateLayoutTransform(-Offset));
 }
