@@ -4,10 +4,7 @@
 
 #include "Fonts/TextShaper.h"
 
-/**
- * A font for exact numbers: of 10 points each UTF-16 unit is 8 units wide, and a line is 16 units high. Its letters
- * have no look: pictures show them as blanks.
- */
+/** A font for exact numbers: of 10 points each UTF-16 unit is 8 units wide, and a line is 16 units high. */
 class FEvenTextShaper final : public ITextShaper
 {
 public:

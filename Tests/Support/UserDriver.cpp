@@ -94,8 +94,9 @@ FPointerEvent FUserDriver::MakePointer(const FVector2D& Place, const FKey& Butto
 	return FPointerEvent(LastPlace, From, PressedButtons, Button, WheelDelta);
 }
 
-TOptional<FVector2D> FUserDriver::LocateMiddle(const FString& Text) const
+TOptional<FVector2D> FUserDriver::LocateMiddle(const FString& Text)
 {
+	Frame();
 	const TSharedPtr<SWidget> Widget = Find(Text);
 	if (!Widget.IsValid())
 	{

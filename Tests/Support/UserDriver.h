@@ -93,8 +93,8 @@ public:
 
 private:
 	void RunFrame(float Seconds);
-	/** Where the middle of what shows a text is; fails the test where there is none. */
-	TOptional<FVector2D> LocateMiddle(const FString& Text) const;
+	/** Where the middle of what shows a text is once nothing is left to do; fails the test where there is none. */
+	TOptional<FVector2D> LocateMiddle(const FString& Text);
 	FPointerEvent MakePointer(const FVector2D& Place, const FKey& Button, float WheelDelta = 0.0f);
 
 	TSharedRef<FDriverSession> Session;
