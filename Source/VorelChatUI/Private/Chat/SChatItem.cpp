@@ -16,6 +16,14 @@
 
 #define LOCTEXT_NAMESPACE "VorelChatUI"
 
+namespace
+{
+
+// Below the plug-in's folder: a text of many constructs, for looking at how they are drawn.
+const TCHAR* const MarkdownDemoFile = TEXT("Source/VorelService/Content/Guide/Delegates.md");
+
+} // namespace
+
 SChatItem::~SChatItem()
 {
 	ReleaseMarkdownParser();
@@ -144,8 +152,7 @@ FText SChatItem::ParseAndRenderMarkdown(const FString& Markdown)
 
 FString SChatItem::GetMarkdownDemoText()
 {
-	const FString Path = FPaths::Combine(
-		IPluginManager::Get().FindPlugin(TEXT("VorelAI"))->GetBaseDir(), TEXT("Tests/Source/VorelMarkdown/markdown-test-input.md"));
+	const FString Path = FPaths::Combine(IPluginManager::Get().FindPlugin(TEXT("VorelAI"))->GetBaseDir(), MarkdownDemoFile);
 	FString Text;
 	if (FFileHelper::LoadFileToString(Text, *Path))
 	{

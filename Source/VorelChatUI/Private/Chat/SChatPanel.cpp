@@ -49,8 +49,10 @@ void SChatPanel::Construct(const FArguments& InArgs)
 // clang-format off
 TSharedRef<SWidget> SChatPanel::ConstructInterface()
 {
-	// Before the children that push to it: the slots of one expression may be built in any order.
+	// One after the other, since the slots of one expression may be built in any order: the chat area's children take the notification.
+	const TSharedRef<SWidget> TopBarWidget = ConstructTopBar();
 	SAssignNew(Notification, SNotification);
+	const TSharedRef<SWidget> ChatArea = ConstructChatArea();
 	return SNew(SBorder)
 		.BorderImage(FVorelAIStyle::Get().GetBrush("VorelAI.Background.Dark"))
 		.Padding(FMargin(0.0f, 0.0f, 0.0f, 0.0f))
@@ -59,7 +61,7 @@ TSharedRef<SWidget> SChatPanel::ConstructInterface()
 			+ SVerticalBox::Slot()
 			.AutoHeight()
 			[
-				ConstructTopBar()
+				TopBarWidget
 			]
 			+ SVerticalBox::Slot()
 			.AutoHeight()
@@ -69,7 +71,7 @@ TSharedRef<SWidget> SChatPanel::ConstructInterface()
 			+ SVerticalBox::Slot()
 			.FillHeight(1.0f)
 			[
-				ConstructChatArea()
+				ChatArea
 			]
 		];
 }
@@ -83,6 +85,9 @@ TSharedRef<SWidget> SChatPanel::ConstructTopBar()
 // clang-format off
 TSharedRef<SWidget> SChatPanel::ConstructChatArea()
 {
+	const TSharedRef<SWidget> ChatViewWidget = ConstructChatView();
+	const TSharedRef<SWidget> InputAreaWidget = ConstructInputArea();
+	const TSharedRef<SWidget> BottomBarWidget = ConstructBottomBar();
 	return SNew(SOverlay)
 		+ SOverlay::Slot()
 		.HAlign(HAlign_Center)
@@ -99,19 +104,19 @@ TSharedRef<SWidget> SChatPanel::ConstructChatArea()
 				.FillHeight(1.0f)
 				.Padding(10.0f, 0.0f, 10.0f, 0.0f)
 				[
-					ConstructChatView()
+					ChatViewWidget
 				]
 				+ SVerticalBox::Slot()
 				.AutoHeight()
 				.Padding(10.0f, 0.0f, 10.0f, 0.0f)
 				[
-					ConstructInputArea()
+					InputAreaWidget
 				]
 				+ SVerticalBox::Slot()
 				.AutoHeight()
 				.Padding(10.0f, 0.0f, 10.0f, 0.0f)
 				[
-					ConstructBottomBar()
+					BottomBarWidget
 				]
 			]
 		];

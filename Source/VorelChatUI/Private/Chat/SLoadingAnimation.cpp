@@ -22,23 +22,27 @@ void SLoadingAnimation::Initialize()
 // clang-format off
 TSharedRef<SWidget> SLoadingAnimation::ConstructInterface()
 {
+	// The wave runs through the dots in the order of building, which one expression would leave open.
+	const TSharedRef<SWidget> Left = ConstructAnimatedIcon();
+	const TSharedRef<SWidget> Middle = ConstructAnimatedIcon();
+	const TSharedRef<SWidget> Right = ConstructAnimatedIcon();
 	return SNew(SHorizontalBox)
 		+ SHorizontalBox::Slot()
 		.AutoWidth()
 		.Padding(0.0f, 0.0f, 3.0f, 0.0f)
 		[
-			ConstructAnimatedIcon()
+			Left
 		]
 		+ SHorizontalBox::Slot()
 		.AutoWidth()
 		.Padding(0.0f, 0.0f, 3.0f, 0.0f)
 		[
-			ConstructAnimatedIcon()
+			Middle
 		]
 		+ SHorizontalBox::Slot()
 		.AutoWidth()
 		[
-			ConstructAnimatedIcon()
+			Right
 		];
 }
 
