@@ -68,6 +68,16 @@ FDesktopApplication::~FDesktopApplication()
 	qInstallMessageHandler(nullptr);
 }
 
+void FDesktopApplication::SetActiveHost(QSlateWidget* Host)
+{
+	if (ActiveHost != Host)
+	{
+		ActiveHost = Host;
+		// The focus may have been set before any input came.
+		ActiveHost->SetTextInputArea(TextInputArea);
+	}
+}
+
 void FDesktopApplication::ForgetHost(const QSlateWidget* Host)
 {
 	ActiveHost = ActiveHost == Host ? nullptr : ActiveHost;
@@ -117,8 +127,9 @@ void FDesktopApplication::SetCursor(EMouseCursor::Type Cursor)
 
 void FDesktopApplication::SetTextInputArea(bool bEnabled, const FSlateRect& CaretRect)
 {
+	TextInputArea = bEnabled ? TOptional<FSlateRect>(CaretRect) : TOptional<FSlateRect>();
 	if (ActiveHost)
 	{
-		ActiveHost->SetTextInputArea(bEnabled, CaretRect);
+		ActiveHost->SetTextInputArea(TextInputArea);
 	}
 }

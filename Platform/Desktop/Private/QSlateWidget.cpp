@@ -5,6 +5,8 @@
 #include "Application/InputTranslation.h"
 #include "DesktopApplication.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Rendering/ColorConversion.h"
+#include "Styling/AppStyle.h"
 #include "Widgets/SWindow.h"
 
 #include <QGuiApplication>
@@ -54,8 +56,13 @@ void QSlateWidget::UpdateClientArea()
 	{
 		return;
 	}
-	QImage Resized(Pixels, QImage::Format_ARGB32_Premultiplied);
-	Resized.fill(Qt::black);
+	// What was shown stays until the next frame.
+	QImage Resized = Picture.copy(QRect(QPoint(0, 0), Pixels));
+	if (Resized.isNull())
+	{
+		Resized = QImage(Pixels, QImage::Format_ARGB32_Premultiplied);
+		Resized.fill(Qt::transparent);
+	}
 	Picture = Resized;
 	Picture.setDevicePixelRatio(Scale);
 	Window->SetClientArea(FVector2D(Pixels.width(), Pixels.height()), static_cast<float>(Scale));
@@ -93,6 +100,10 @@ void QSlateWidget::paintEvent(QPaintEvent* Event)
 	UpdateClientArea();
 	QPainter OnWidget(this);
 	OnWidget.setClipRegion(Event->region());
+	if (bRepaintAll)
+	{
+		OnWidget.fillRect(rect(), ToScreenColor(FAppStyle::Get().GetColor(TEXT("Colors.Background"))));
+	}
 	OnWidget.drawImage(QPointF(0.0, 0.0), Picture);
 }
 
@@ -224,10 +235,10 @@ QVariant QSlateWidget::inputMethodQuery(Qt::InputMethodQuery Query) const
 	}
 }
 
-void QSlateWidget::SetTextInputArea(bool bEnabled, const FSlateRect& InCaretRect)
+void QSlateWidget::SetTextInputArea(const TOptional<FSlateRect>& Area)
 {
-	CaretRect = InCaretRect;
-	setAttribute(Qt::WA_InputMethodEnabled, bEnabled);
+	CaretRect = Area.Get(FSlateRect());
+	setAttribute(Qt::WA_InputMethodEnabled, Area.IsSet());
 	if (hasFocus())
 	{
 		QGuiApplication::inputMethod()->update(Qt::ImEnabled | Qt::ImCursorRectangle);

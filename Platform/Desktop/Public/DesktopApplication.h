@@ -43,7 +43,7 @@ public:
 	bool OpenAddress(const FString& Address, FString& OutError);
 
 	/** The host in which input happens now gets the cursor's shape and composes text. */
-	void SetActiveHost(QSlateWidget* Host) { ActiveHost = Host; }
+	void SetActiveHost(QSlateWidget* Host);
 	void ForgetHost(const QSlateWidget* Host);
 
 	ITextShaper& GetTextShaper() override { return *TextShaper; }
@@ -60,4 +60,6 @@ private:
 	TUniquePtr<ITextShaper> TextShaper;
 	TArray<FString> OpenedAddresses;
 	QSlateWidget* ActiveHost = nullptr;
+	/** Unset while no text can be composed. */
+	TOptional<FSlateRect> TextInputArea;
 };

@@ -29,7 +29,8 @@ public:
 	const QImage& GetPicture() const { return Picture; }
 
 	void ShowCursor(EMouseCursor::Type Cursor);
-	void SetTextInputArea(bool bEnabled, const FSlateRect& CaretRect);
+	/** Where the caret is, in device pixels; unset while no text can be composed. */
+	void SetTextInputArea(const TOptional<FSlateRect>& Area);
 
 	QVariant inputMethodQuery(Qt::InputMethodQuery Query) const override;
 

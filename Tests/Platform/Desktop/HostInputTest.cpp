@@ -135,6 +135,17 @@ TEST_F(HostInput, InputMethodsComposeAtTheCaret)
 	EXPECT_EQ(Probe->Composition.ReplaceLength, 2);
 }
 
+TEST_F(HostInput, ATextAreaSetBeforeAnyInputIsNotLost)
+{
+	FDesktopApplication::Get().SetTextInputArea(false, FSlateRect());
+	FDesktopApplication::Get().ForgetHost(&Host.Widget);
+	FDesktopApplication::Get().SetTextInputArea(true, FSlateRect(10.0f, 10.0f, 11.0f, 30.0f));
+	EXPECT_FALSE(Host.Widget.inputMethodQuery(Qt::ImEnabled).toBool());
+	Host.Mouse(QEvent::MouseMove, QPointF(20.0, 20.0), Qt::NoButton, Qt::NoButton);
+	EXPECT_TRUE(Host.Widget.inputMethodQuery(Qt::ImEnabled).toBool());
+	FDesktopApplication::Get().SetTextInputArea(false, FSlateRect());
+}
+
 TEST_F(HostInput, TheFocusComesBackWithTheWindow)
 {
 	FSlateApplication::Get().SetKeyboardFocus(Probe);
@@ -163,6 +174,7 @@ TEST_F(HostInput, TheCursorHasTheShapeOfWhatIsUnderIt)
 TEST_F(HostInput, TheWindowFollowsTheSize)
 {
 	Host.Widget.resize(240, 130);
+	EXPECT_EQ(Host.Widget.GetPicture().pixelColor(99, 49), QColor(Qt::white)) << "shown until the next frame";
 	RunFrames();
 	EXPECT_EQ(Host.Window->GetClientSizeInPixels(), FVector2D(240.0, 130.0));
 	EXPECT_EQ(Host.Widget.GetPicture().size(), QSize(240, 130));

@@ -6,6 +6,7 @@
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <algorithm>
 
 FModifierKeysState InputTranslation::ToModifiers(Qt::KeyboardModifiers Modifiers)
 {

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QLocale>
 #include <QRawFont>
 #include <QSet>
 #include <QtEndian>
@@ -43,9 +44,27 @@ static const FFaceSource FaceSources[] = {
 static const FFaceSource EmojiSource = {
 	"Emoji", "Noto Color Emoji", QFont::Normal, false, "noto/NotoColorEmoji.ttf", "fonts-noto-color-emoji"};
 
+// The same characters look different from language to language.
+static QString GetHanFamily()
+{
+	const QLocale Locale = QLocale::system();
+	switch (Locale.language())
+	{
+	case QLocale::Japanese:
+		return QStringLiteral("Noto Sans CJK JP");
+	case QLocale::Korean:
+		return QStringLiteral("Noto Sans CJK KR");
+	default:
+		return Locale.script() == QLocale::TraditionalHanScript ? QStringLiteral("Noto Sans CJK TC") : QStringLiteral("Noto Sans CJK SC");
+	}
+}
+
 // Asked in this order for what a face lacks: symbols before CJK, whose own arrows and marks are a full em wide.
-static const QStringList FallbackFamilies = {"Noto Sans", "Noto Sans Math", "Noto Sans Symbols", "Noto Sans Symbols2", "Noto Sans Arabic",
-	"Noto Sans Hebrew", "Noto Sans Thai", "Noto Sans Devanagari", "Noto Sans CJK SC", "DejaVu Sans", "Noto Color Emoji"};
+static QStringList GetFallbackFamilies()
+{
+	return {"Noto Sans", "Noto Sans Math", "Noto Sans Symbols", "Noto Sans Symbols2", "Noto Sans Arabic", "Noto Sans Hebrew",
+		"Noto Sans Thai", "Noto Sans Devanagari", GetHanFamily(), "DejaVu Sans", "Noto Color Emoji"};
+}
 
 // Once in a process, to which its fonts belong.
 static void LoadFile(const FFaceSource& Source)
@@ -69,7 +88,7 @@ static TSharedPtr<FFontFace> LoadFace(const FFaceSource& Source)
 {
 	LoadFile(Source);
 	QFont Font;
-	Font.setFamilies(QStringList(QLatin1String(Source.Family)) + FallbackFamilies);
+	Font.setFamilies(QStringList(QLatin1String(Source.Family)) + GetFallbackFamilies());
 	Font.setPixelSize(FFontFace::ShapingPixelSize);
 	Font.setWeight(Source.Weight);
 	Font.setItalic(Source.bItalic);

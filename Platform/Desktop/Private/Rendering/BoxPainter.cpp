@@ -8,6 +8,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <array>
 
 static QPainterPath MakeRoundedPath(const QRectF& Rect, const FSlateBrushOutlineSettings& Outline, double Scale, double Inset)
 {
