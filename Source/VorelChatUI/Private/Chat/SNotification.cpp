@@ -234,7 +234,7 @@ void SNotification::PushSuccess(FString InTitle, FString InMessage, FString URL,
 	PushWithURL(TEXT("Success"), TEXT("VorelAI.Icon.Success"), InTitle, InMessage, URL, URLText);
 }
 
-void SNotification::Push(FString ColorWord, FString IconName, FString InTitle, FString InMessage)
+void SNotification::Push(const FString& ColorWord, const FString& IconName, const FString& InTitle, const FString& InMessage)
 {
 	if (URLButton)
 	{
@@ -243,7 +243,8 @@ void SNotification::Push(FString ColorWord, FString IconName, FString InTitle, F
 	ShowContent(ColorWord, IconName, InTitle, InMessage);
 }
 
-void SNotification::PushWithURL(FString ColorWord, FString IconName, FString InTitle, FString InMessage, FString URL, FString URLText)
+void SNotification::PushWithURL(const FString& ColorWord, const FString& IconName, const FString& InTitle, const FString& InMessage,
+	const FString& URL, const FString& URLText)
 {
 	if (URLButton)
 	{
@@ -254,7 +255,7 @@ void SNotification::PushWithURL(FString ColorWord, FString IconName, FString InT
 	ShowContent(ColorWord, IconName, InTitle, InMessage);
 }
 
-void SNotification::ShowContent(FString ColorWord, FString IconName, FString InTitle, FString InMessage)
+void SNotification::ShowContent(const FString& ColorWord, const FString& IconName, const FString& InTitle, const FString& InMessage)
 {
 	SetColor(ColorWord);
 	SetIcon(IconName);

@@ -54,9 +54,10 @@ private:
 	TSharedRef<SWidget> ConstructNotificationTitle();
 	TSharedRef<SWidget> ConstructURLButton();
 
-	void Push(FString ColorWord, FString IconName, FString InTitle, FString InMessage);
-	void PushWithURL(FString ColorWord, FString IconName, FString InTitle, FString InMessage, FString URL, FString URLText);
-	void ShowContent(FString ColorWord, FString IconName, FString InTitle, FString InMessage);
+	void Push(const FString& ColorWord, const FString& IconName, const FString& InTitle, const FString& InMessage);
+	void PushWithURL(const FString& ColorWord, const FString& IconName, const FString& InTitle, const FString& InMessage,
+		const FString& URL, const FString& URLText);
+	void ShowContent(const FString& ColorWord, const FString& IconName, const FString& InTitle, const FString& InMessage);
 
 	void Hide();
 	void Show();
