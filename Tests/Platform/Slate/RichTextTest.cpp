@@ -1,6 +1,8 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #include "TextDriver.h"
 
+#include "Brushes/SlateColorBrush.h"
 #include "Framework/Text/ITextDecorator.h"
 #include "Framework/Text/RichTextLayoutMarshaller.h"
 #include "Framework/Text/SlateTextLayout.h"
@@ -136,6 +138,35 @@ protected:
 
 	static TSharedRef<SWidget> MakeBox(float Width, float Height) { return SNew(SBox).WidthOverride(Width).HeightOverride(Height); }
 
+	struct FBox
+	{
+		FSlateRect Rect;
+		FLinearColor Color;
+	};
+
+	TArray<FBox> FindBoxes()
+	{
+		TArray<FBox> Boxes;
+		CollectBoxes(*Window->GetDisplayList(), Boxes);
+		return Boxes;
+	}
+
+	static void CollectBoxes(const FSlateDrawChunk& Chunk, TArray<FBox>& OutBoxes)
+	{
+		for (const FSlateDrawChunk::FItem& Item : Chunk.GetItems())
+		{
+			if (const auto* Child = std::get_if<TSharedRef<const FSlateDrawChunk>>(&Item))
+			{
+				CollectBoxes(**Child, OutBoxes);
+			}
+			else if (std::holds_alternative<FSlateBoxPayload>(std::get<FSlateDrawElement>(Item).GetPayload()))
+			{
+				const FSlateDrawElement& Element = std::get<FSlateDrawElement>(Item);
+				OutBoxes.Add({Element.GetGeometry().GetRenderBoundingRect(), Element.GetTint()});
+			}
+		}
+	}
+
 	FSlateStyleSet StyleSet = FSlateStyleSet("RichTextTest");
 };
 
@@ -145,6 +176,25 @@ TEST_F(FRichText, RunsTakeTheStyleOfTheirNameAndShareABaseline)
 	EXPECT_EQ(Text->GetShownText(), FString(TEXT("small big default")));
 	// A line is as high as its highest run, and "big" is twice as wide as other words.
 	EXPECT_EQ(Text->GetDesiredSize(), FVector2D((6 + 2 * 3 + 8) * Letter, 2 * Row));
+}
+
+TEST_F(FRichText, LinesAreDrawnUnderAndThroughLetters)
+{
+	FTextBlockStyle Link = Style;
+	Link.SetUnderlineBrush(FSlateColorBrush(FLinearColor::Blue));
+	StyleSet.Set("Link", Link);
+	FTextBlockStyle Struck = Style;
+	Struck.SetColorAndOpacity(FLinearColor::Red);
+	Struck.SetStrikeBrush(FSlateColorBrush(FLinearColor::White));
+	StyleSet.Set("Struck", Struck);
+	ShowMarkup(TEXT("a <Link>bc</> <Struck>de</>"));
+	const TArray<FBox> Boxes = FindBoxes();
+	ASSERT_EQ(Boxes.Num(), 2);
+	// Just under the baseline at 15, and through the middle of small letters. A strike has the color of its letters.
+	EXPECT_EQ(Boxes[0].Rect, FSlateRect(20.0f, 16.0f, 40.0f, 17.0f));
+	EXPECT_EQ(Boxes[0].Color, FLinearColor::Blue);
+	EXPECT_EQ(Boxes[1].Rect, FSlateRect(50.0f, 10.0f, 70.0f, 11.0f));
+	EXPECT_EQ(Boxes[1].Color, FLinearColor::Red);
 }
 
 TEST_F(FRichText, WrapsAcrossRuns)

@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #include "TextDriver.h"
 
 #include "Containers/Ticker.h"
@@ -164,6 +165,22 @@ TEST_F(FTextInput, ACompositionReplacesTheSelectionAndCanBeGivenUp)
 	Application().ClearKeyboardFocus();
 	EXPECT_EQ(Commits, TArray<FString>({FString(TEXT("Focus:ab"))}));
 	EXPECT_EQ(Screen(), FString(TEXT("ab")));
+}
+
+TEST_F(FTextInput, GoingElsewhereGivesACompositionUp)
+{
+	ShowInput();
+	Type(TEXT("ab"));
+	Compose(TEXT("ni"));
+	Key(EKeys::A, Control());
+	EXPECT_EQ(Screen(), FString(TEXT("[ab]|")));
+	Key(EKeys::End);
+	Compose(TEXT("ni"));
+	Key(EKeys::Left);
+	EXPECT_EQ(Screen(), FString(TEXT("a|b")));
+	Compose(TEXT("ni"));
+	Click(0);
+	EXPECT_EQ(Screen(), FString(TEXT("|ab")));
 }
 
 TEST_F(FTextInput, AnInputMethodCanReplaceWhatStandsBeforeTheCaret)

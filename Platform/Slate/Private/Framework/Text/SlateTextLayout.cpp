@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #include "Framework/Text/SlateTextLayout.h"
 
 #include "Framework/Text/SlateTextRun.h"
@@ -17,11 +18,6 @@ FSlateTextLayout::FSlateTextLayout(SWidget& InOwner, const FTextBlockStyle& InDe
 	: Children(InOwner)
 	, DefaultTextStyle(TextStylePool::Share(InDefaultTextStyle))
 {
-}
-
-void FSlateTextLayout::SetDefaultTextStyle(const FTextBlockStyle& InDefaultTextStyle)
-{
-	DefaultTextStyle = TextStylePool::Share(InDefaultTextStyle);
 }
 
 TSharedRef<IRun> FSlateTextLayout::CreateDefaultTextRun(const TSharedRef<FString>& NewText, const FTextRange& NewRange) const
@@ -108,9 +104,8 @@ FRunPlacement FSlateTextLayout::MakePlacement(const FTextPiece& Piece, const FWr
 	Placement.Context = MakeRunContext(GetTextShapingMethod(), Piece.Level);
 	Placement.X = static_cast<float>(TopLeft.X) + Piece.X;
 	Placement.Width = Piece.Width;
-	Placement.LineTop = static_cast<float>(TopLeft.Y);
 	Placement.LineHeight = static_cast<float>(Wrapped.Height);
-	Placement.BaselineY = Placement.LineTop + Wrapped.Ascent;
+	Placement.BaselineY = static_cast<float>(TopLeft.Y) + Wrapped.Ascent;
 	return Placement;
 }
 

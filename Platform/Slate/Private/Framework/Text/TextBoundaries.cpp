@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #include "TextBoundaries.h"
 
 #include "Containers/StringView.h"
@@ -154,11 +155,6 @@ void TextBoundaries::ReorderVisually(const TArray<uint8>& Levels, TArray<int32>&
 	{
 		ubidi_reorderVisual(Levels.GetData(), Levels.Num(), OutOrder.GetData());
 	}
-}
-
-bool TextBoundaries::IsGraphemeBoundary(FStringView Text, int32 Offset)
-{
-	return Offset <= 0 || Offset >= Text.Len() || IsSimpleBoundary(Text, Offset) || ubrk_isBoundary(GraphemeIterator(Text), Offset);
 }
 
 int32 TextBoundaries::NextGrapheme(FStringView Text, int32 Offset)

@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #pragma once
 
 #include "Framework/Text/TextRange.h"
@@ -22,7 +23,6 @@ uint8 FindLevels(FStringView Text, TArray<FLevelRun>& OutRuns);
 /** The places of `Levels`, one for each piece of a line in the order of the text, from left to right. */
 void ReorderVisually(const TArray<uint8>& Levels, TArray<int32>& OutOrder);
 
-bool IsGraphemeBoundary(FStringView Text, int32 Offset);
 /** The next boundary after `Offset`, at most the text's length. */
 int32 NextGrapheme(FStringView Text, int32 Offset);
 /** The boundary before `Offset`, at least 0. */

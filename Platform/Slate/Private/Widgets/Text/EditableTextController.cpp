@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #include "EditableTextController.h"
 
 #include "Framework/Application/SlateApplication.h"
@@ -89,11 +90,7 @@ void FEditableTextController::OnFocusLost()
 {
 	Blinker.Stop();
 	PendingSurrogate = 0;
-	if (Text.IsComposing())
-	{
-		Text.CancelComposition();
-		Owner.Invalidate(EInvalidateWidgetReason::Layout);
-	}
+	CancelComposition();
 	if (Options.bClearSelectionOnFocusLoss)
 	{
 		Text.ClearSelection();
@@ -116,14 +113,25 @@ FTextLocation FEditableTextController::GetCharacterAt(const FVector2D& Position)
 
 void FEditableTextController::PlaceCaret(const FTextCaret& Caret, bool bExtendSelection)
 {
+	CancelComposition();
 	Text.PlaceCaret(Caret, bExtendSelection);
 	OnCaretMoved();
 }
 
 void FEditableTextController::Select(const FTextLocation& From, const FTextLocation& To)
 {
+	CancelComposition();
 	Text.Select(From, To);
 	OnCaretMoved();
+}
+
+void FEditableTextController::CancelComposition()
+{
+	if (Text.IsComposing())
+	{
+		Text.CancelComposition();
+		Owner.Invalidate(EInvalidateWidgetReason::Layout);
+	}
 }
 
 void FEditableTextController::SetSizes(const FVector2D& View, const FVector2D& Content)

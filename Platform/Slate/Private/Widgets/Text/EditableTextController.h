@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #pragma once
 
 #include "CaretBlinker.h"
@@ -77,6 +78,8 @@ private:
 	void Commit(ETextCommit::Type Type);
 	/** Runs an edit, unless the text is read-only, and tells what came of it. */
 	bool Edit(const TFunction<void()>& Change);
+	/** What is being composed is given up when the caret goes elsewhere. */
+	void CancelComposition();
 	void OnCaretMoved();
 	void OnScrolled();
 

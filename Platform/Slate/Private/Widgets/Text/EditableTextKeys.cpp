@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #include "EditableTextController.h"
 #include "Input/Events.h"
 #include "Widgets/SWidget.h"
@@ -112,6 +113,7 @@ bool FEditableTextController::HandleMoveKey(const FKeyEvent& Event)
 	{
 		return false;
 	}
+	CancelComposition();
 	const float PageHeight = static_cast<float>(Scroller.GetView().Y);
 	Text.Move(Event.IsControlDown() ? Key->WithControl : Key->Plain, Event.IsShiftDown(), PageHeight);
 	OnCaretMoved();
@@ -132,6 +134,7 @@ bool FEditableTextController::HandleCommandKey(const FKeyEvent& Event)
 	}
 	if (Key == EKeys::A)
 	{
+		CancelComposition();
 		Text.SelectAll();
 		Owner.Invalidate(EInvalidateWidgetReason::Paint);
 		return true;

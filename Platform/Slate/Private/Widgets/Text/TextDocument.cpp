@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #include "TextDocument.h"
 
 #include "Containers/StringView.h"

@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #include "TextScroller.h"
 
 namespace
@@ -33,10 +34,4 @@ bool FTextScroller::BringIntoView(const FSlateRect& Rect)
 {
 	const FVector2D Wish(FindOffset(Offset.X, View.X, Rect.Left, Rect.Right), FindOffset(Offset.Y, View.Y, Rect.Top, Rect.Bottom));
 	return ScrollBy(Wish - Offset);
-}
-
-FSlateRect FTextScroller::GetVisibleArea() const
-{
-	const FVector2D End = Offset + View;
-	return FSlateRect(static_cast<float>(Offset.X), static_cast<float>(Offset.Y), static_cast<float>(End.X), static_cast<float>(End.Y));
 }

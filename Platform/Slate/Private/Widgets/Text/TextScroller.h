@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #pragma once
 
 #include "Layout/SlateRect.h"
@@ -16,8 +17,6 @@ public:
 
 	const FVector2D& GetOffset() const { return Offset; }
 	const FVector2D& GetView() const { return View; }
-	/** In the text. */
-	FSlateRect GetVisibleArea() const;
 
 private:
 	FVector2D View;

@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #include "TextVisibility.h"
 
 FSlateRect FindVisibleArea(const FGeometry& TextGeometry, const FSlateRect& CullingRect)

@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #pragma once
 
 #include "Layout/Geometry.h"

@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #pragma once
 
 #include "Framework/Text/IRun.h"
@@ -18,7 +19,6 @@ struct FRunPlacement
 	FRunTextContext Context;
 	float X = 0.0f;
 	float Width = 0.0f;
-	float LineTop = 0.0f;
 	float LineHeight = 0.0f;
 	float BaselineY = 0.0f;
 };

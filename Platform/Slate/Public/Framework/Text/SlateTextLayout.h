@@ -1,4 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
 #pragma once
 
 #include "Framework/Text/ISlateRun.h"
@@ -16,8 +17,6 @@ public:
 	/** The owner outlives the layout. */
 	static TSharedRef<FSlateTextLayout> Create(SWidget& InOwner, const FTextBlockStyle& InDefaultTextStyle);
 
-	/** Of runs that are made from now on. */
-	void SetDefaultTextStyle(const FTextBlockStyle& InDefaultTextStyle);
 	const FTextBlockStyle& GetDefaultTextStyle() const { return *DefaultTextStyle; }
 
 	FChildren& GetChildren() { return Children; }
