@@ -64,7 +64,6 @@ void QSlateWidget::UpdateClientArea()
 		Resized.fill(Qt::transparent);
 	}
 	Picture = Resized;
-	Picture.setDevicePixelRatio(Scale);
 	Window->SetClientArea(FVector2D(Pixels.width(), Pixels.height()), static_cast<float>(Scale));
 	bRepaintAll = true;
 }
@@ -89,7 +88,7 @@ void QSlateWidget::ShowFrame()
 	for (const QRect& Part : Damage)
 	{
 		Painter.Paint(Picture, *Window->GetDisplayList(), FSlateRect(Part.left(), Part.top(), Part.right() + 1.0f, Part.bottom() + 1.0f));
-		const double Scale = Picture.devicePixelRatio();
+		const double Scale = Window->GetDPIScaleFactor();
 		update(QRectF(QPointF(Part.topLeft()) / Scale, QSizeF(Part.size()) / Scale).toAlignedRect());
 		Desktop.GetFrameLoop().NotePainted();
 	}
@@ -104,7 +103,8 @@ void QSlateWidget::paintEvent(QPaintEvent* Event)
 	{
 		OnWidget.fillRect(rect(), ToScreenColor(FAppStyle::Get().GetColor(TEXT("Colors.Background"))));
 	}
-	OnWidget.drawImage(QPointF(0.0, 0.0), Picture);
+	// The picture itself knows no scale, since it is painted in device pixels.
+	OnWidget.drawImage(QRectF(QPointF(0.0, 0.0), QSizeF(Picture.size()) / Window->GetDPIScaleFactor()), Picture);
 }
 
 void QSlateWidget::resizeEvent(QResizeEvent*)

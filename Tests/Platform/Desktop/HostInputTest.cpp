@@ -2,6 +2,8 @@
 
 #include "HostSupport.h"
 #include "Support/Printers.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/SBoxPanel.h"
 
 #include <QInputMethodEvent>
 #include <QProcess>
@@ -194,6 +196,14 @@ TEST_F(HostInput, DISABLED_AtOneAndAHalf)
 	EXPECT_EQ(Probe->PointerEvents[0].GetScreenSpacePosition(), FVector2D(15.0, 30.0));
 	FDesktopApplication::Get().SetTextInputArea(true, FSlateRect(15.0f, 15.0f, 18.0f, 45.0f));
 	EXPECT_EQ(Host.Widget.inputMethodQuery(Qt::ImCursorRectangle).toRectF(), QRectF(10.0, 10.0, 2.0, 20.0));
+
+	Host.Window->SetContent(SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth()[SNew(SBox).WidthOverride(50.0f)[Probe]]);
+	RunFrames();
+	for (const QImage& Picture : {Host.Widget.GetPicture(), Host.Widget.grab().toImage()})
+	{
+		EXPECT_EQ(Picture.pixelColor(74, 40), QColor(Qt::white));
+		EXPECT_NE(Picture.pixelColor(75, 40), QColor(Qt::white));
+	}
 }
 
 TEST(HostScale, PixelsAreThoseOfTheDevice)
