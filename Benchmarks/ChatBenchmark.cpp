@@ -37,10 +37,10 @@ void LayOutMarkup(benchmark::State& State)
 }
 BENCHMARK(LayOutMarkup)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 
-// An answer of range(0) characters that arrives in pieces of range(1), one a frame. A frame counts from the arrival to the picture.
-void StreamAnswer(benchmark::State& State)
+// An answer that arrives in pieces, one a frame. A frame counts from the arrival to the picture.
+void StreamAnswer(benchmark::State& State, FString (*MakeText)(int32 Length))
 {
-	const FString Markdown = MakeSampleMarkdown(static_cast<int32>(State.range(0)));
+	const FString Markdown = MakeText(static_cast<int32>(State.range(0)));
 	const auto PieceLength = static_cast<int32>(State.range(1));
 	FOffscreenChat Chat;
 	TArray<FFrameCost> Frames;
@@ -54,5 +54,14 @@ void StreamAnswer(benchmark::State& State)
 	}
 	ReportFrames(State, Frames);
 }
-BENCHMARK(StreamAnswer)->Args({20'000, 20})->Args({1'000'000, 5'000})->Iterations(1)->Unit(benchmark::kMillisecond);
+
+// The length of the whole, and of a piece.
+void SetStreamArguments(benchmark::internal::Benchmark* Benchmark)
+{
+	Benchmark->Args({20'000, 20})->Args({1'000'000, 10'000})->Iterations(1)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK_CAPTURE(StreamAnswer, Answer, MakeSampleMarkdown)->Apply(SetStreamArguments);
+BENCHMARK_CAPTURE(StreamAnswer, OneParagraph, MakeSampleParagraph)->Apply(SetStreamArguments);
+BENCHMARK_CAPTURE(StreamAnswer, OneCodeBlock, MakeSampleCodeBlock)->Apply(SetStreamArguments);
 } // namespace

@@ -25,3 +25,26 @@ FString MakeSampleMarkdown(int32 Length)
 	}
 	return Text;
 }
+
+FString MakeSampleParagraph(int32 Length)
+{
+	FString Text;
+	for (int32 Number = 1; Text.Len() < Length; ++Number)
+	{
+		Text.Appendf(
+			TEXT("Sentence %d of a paragraph says that *nothing* ends here, and that \u4f60\u597d, \u0645\u0631\u062d\u0628\u0627 and "
+				 "`code` may stand in it as well. "),
+			Number);
+	}
+	return Text;
+}
+
+FString MakeSampleCodeBlock(int32 Length)
+{
+	FString Text(TEXT("```cpp\n"));
+	for (int32 Number = 1; Text.Len() < Length; ++Number)
+	{
+		Text.Appendf(TEXT("void UCounter::Add%d(int32 Amount)\n{\n\tValue += Amount; // %d\n}\n\n"), Number, Number);
+	}
+	return Text;
+}

@@ -106,8 +106,8 @@ TEST_F(TabManagerTest, ATabWithoutLabelShowsTheDisplayNameOfItsSpawner)
 	EXPECT_EQ(GetManager().GetSpawners().Last()->GetMenuType(), ETabSpawnerMenuType::Hidden);
 	const TSharedPtr<SDockTab> Tab = GetManager().TryInvokeTab(FTabId("A"));
 	EXPECT_TEXT(Tab->GetTabLabel().ToString(), TEXT("Shown name"));
-	Tab->SetLabel(INVTEXT("Own"));
-	EXPECT_TEXT(Tab->GetTabLabel().ToString(), TEXT("Own"));
+	const TSharedRef<SDockTab> Labelled = SNew(SDockTab).Label(INVTEXT("Own"));
+	EXPECT_TEXT(Labelled->GetTabLabel().ToString(), TEXT("Own"));
 	EXPECT_TEXT(Register("B").GetDisplayName().ToString(), TEXT("B"));
 }
 

@@ -56,11 +56,9 @@ TEST_F(ToolMenusTest, RunsStartupCallbacksOnceItIsUp)
 {
 	RegisterCallback();
 	EXPECT_EQ(UToolMenus::Get(), nullptr);
-	EXPECT_FALSE(UToolMenus::IsToolMenuUIEnabled());
 	EXPECT_EQ(NumStartups, 0);
 	Start();
 	EXPECT_EQ(NumStartups, 1);
-	EXPECT_TRUE(UToolMenus::IsToolMenuUIEnabled());
 }
 
 TEST_F(ToolMenusTest, RunsStartupCallbacksAtOnceIfItIsUpAlready)

@@ -36,7 +36,8 @@ TEST(CodeMarkup, ABlockIsOneRunOnItsOwnLine)
 	EXPECT_EQ(RenderShort("a\n" + Fence("x\n") + "b"), "<Paragraph>a</>\n\n" + CodeRun("x") + "\n\n<Paragraph>b</>");
 	EXPECT_EQ(RenderShort("    indented\n      more\n"), CodeRun("indented__NL__  more"));
 	EXPECT_EQ(RenderShort("- ```\n  x\n  ```\n"), "<UnorderedList>  \u2022 </>\n" + CodeRun("x"));
-	EXPECT_EQ(RenderShort("- a\n  ```\n  x\n  ```\n  b\n"), "<UnorderedList>  \u2022 a</>\n" + CodeRun("x") + "\n<UnorderedList>    b</>");
+	EXPECT_EQ(RenderShort("- a\n  ```\n  x\n  ```\n  b\n"), "<UnorderedList>  \u2022 a</>\n\n" + CodeRun("x") + "\n<UnorderedList>    b</>");
+	EXPECT_EQ(RenderShort("# T\n" + Fence("x\n")), "<Header1>T</>\n\n" + CodeRun("x"));
 	EXPECT_EQ(RenderShort("> ~~~\n> x\n"), CodeRun("x"));
 }
 

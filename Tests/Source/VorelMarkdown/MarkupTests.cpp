@@ -2,6 +2,7 @@
 
 #include "MarkupTestSupport.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace
@@ -82,6 +83,38 @@ TEST(Markup, DelimitersInAnAddressDoNotLeakIntoTheNextBlock)
 			"<Paragraph.Strikethrough>a </><Paragraph.Strikethrough.Link>b</><Paragraph.Strikethrough> (~~c)</>\n\n<Paragraph>d</>"},
 		{"[~~a](b~~c) d~~ e", "<Paragraph.Link>~~a</><Paragraph> (b~~c) d e</>"},
 	});
+}
+
+namespace
+{
+// Puts the text into the formats in every order of up to four of them.
+void VisitNestings(const std::string& Text, unsigned Used, int Depth, const std::function<void(const std::string&)>& Visit)
+{
+	static constexpr const char* Formats[][2] = {{"*", "*"}, {"__", "__"}, {"~~", "~~"}, {"[", "](u)"}, {"![", "](i)"}, {"`", "`"}};
+	Visit(Text);
+	for (unsigned Format = 0; Depth < 4 && Format < 6; ++Format)
+	{
+		if (!(Used & 1u << Format))
+		{
+			VisitNestings(Formats[Format][0] + Text + Formats[Format][1], Used | 1u << Format, Depth + 1, Visit);
+		}
+	}
+}
+} // namespace
+
+TEST(Markup, EveryNestingOfBlocksAndFormatsHasAName)
+{
+	std::string All;
+	for (const char* Block : {"", "# ", "###### ", "- ", "2. "})
+	{
+		for (const char* Quote : {"", "> ", ">>>> ", ">>>>>> "})
+		{
+			VisitNestings("x", 0, 0, [&](const std::string& Text) { All += std::string(Quote) + Block + Text + "\n\n---\n\n"; });
+		}
+	}
+	const std::string Markup = RenderMarkup(All);
+	EXPECT_EQ(FindMarkupError(Markup), "");
+	EXPECT_NE(Markup.find("<VorelMarkdown.Blockquote.Header1.Link.Strikethrough.Strong>x</>"), std::string::npos);
 }
 
 TEST(Markup, Headings)

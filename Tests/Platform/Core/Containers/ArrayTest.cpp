@@ -54,13 +54,12 @@ TEST(ArrayTest, SortsAppendsAndSwaps)
 	Array.Sort([](int32 Lhs, int32 Rhs) { return Lhs > Rhs; });
 	EXPECT_EQ(Array, (TArray<int32>{3, 2, 1}));
 	Array.Append({4, 5});
-	Array.RemoveAtSwap(0);
-	EXPECT_EQ(Array, (TArray<int32>{5, 2, 1, 4}));
-	Array.RemoveAtSwap(3);
-	EXPECT_EQ(Array.RemoveAll([](int32 Value) { return Value < 3; }), 2);
-	EXPECT_EQ(Array, (TArray<int32>{5}));
+	EXPECT_EQ(Array.RemoveAll([](int32 Value) { return Value < 4; }), 3);
+	EXPECT_EQ(Array, (TArray<int32>{4, 5}));
 	Array.SetNum(3);
-	EXPECT_EQ(Array, (TArray<int32>{5, 0, 0}));
+	EXPECT_EQ(Array, (TArray<int32>{4, 5, 0}));
+	Array.Swap(0, 2);
+	EXPECT_EQ(Array, (TArray<int32>{0, 5, 4}));
 }
 
 TEST(ArrayTest, MovesElementsThatCannotBeCopied)

@@ -43,15 +43,9 @@ TEST(MapTest, FindsAndReplaces)
 	Map.FindOrAdd("three") += TEXT("3");
 	EXPECT_TEXT(Map["three"], TEXT("33"));
 	EXPECT_EQ(*Map.FindKey(TEXT("zwei")), FName("two"));
-
-	FString Removed;
-	EXPECT_TRUE(Map.RemoveAndCopyValue("one", Removed));
-	EXPECT_FALSE(Map.RemoveAndCopyValue("one", Removed));
-	EXPECT_TEXT(Removed, TEXT("1"));
+	EXPECT_EQ(Map.Remove("one"), 1);
+	EXPECT_EQ(Map.Remove("one"), 0);
 	EXPECT_EQ(Map.Num(), 2);
-	TArray<FName> Keys;
-	Map.GetKeys(Keys);
-	EXPECT_EQ(Keys, (TArray<FName>{"two", "three"}));
 }
 
 TEST(MapTest, AgreesWithAPlainListUnderRandomUse)

@@ -36,18 +36,6 @@ TEST(StringFormatTest, DoesNotReadItsArgumentsAsFormats)
 	EXPECT_TEXT(FString::Printf(TEXT("%s"), TEXT("100%s %d %n")), TEXT("100%s %d %n"));
 }
 
-TEST(StringFormatTest, PrintsNumbersForReadingBack)
-{
-	EXPECT_TEXT(FString::FromInt(-2147483647 - 1), TEXT("-2147483648"));
-	EXPECT_TEXT(FString::SanitizeFloat(1.0), TEXT("1.0"));
-	EXPECT_TEXT(FString::SanitizeFloat(0.1), TEXT("0.1"));
-	EXPECT_TEXT(FString::SanitizeFloat(-2.5), TEXT("-2.5"));
-	EXPECT_EQ(FCString::Atoi(TEXT("12abc")), 12);
-	EXPECT_EQ(FCString::Atoi(TEXT("abc")), 0);
-	EXPECT_EQ(FCString::Atoi(TEXT("99999999999999999999")), MAX_int32);
-	EXPECT_EQ(FCString::Atod(TEXT("2.5")), 2.5);
-}
-
 TEST(StringFormatDeathTest, StopsWhereFormatAndArgumentsDiffer)
 {
 	EXPECT_DEATH(FString::Printf(TEXT("%s")), "more conversions than arguments");

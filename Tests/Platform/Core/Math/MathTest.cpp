@@ -11,7 +11,6 @@ TEST(MathTest, RoundsTowardsPlusInfinityAtHalves)
 	EXPECT_EQ(FMath::FloorToInt(-0.1f), -1);
 	EXPECT_EQ(FMath::CeilToInt(0.1f), 1);
 	EXPECT_EQ(FMath::Clamp(5, 0, 3), 3);
-	EXPECT_EQ(FMath::Lerp(10.0f, 20.0f, 0.25f), 12.5f);
 }
 
 TEST(MathTest, VectorsAddScaleAndConvert)
@@ -34,16 +33,5 @@ TEST(ColorTest, ConvertsBetweenLinearAndSrgb)
 	{
 		const uint8 Channel = static_cast<uint8>(Value);
 		EXPECT_EQ(FLinearColor(FColor(Channel, Channel, Channel, Channel)).ToFColor(true), FColor(Channel, Channel, Channel, Channel));
-	}
-}
-
-TEST(ColorTest, ReadsHexDigits)
-{
-	EXPECT_EQ(FColor::FromHex(TEXT("#FF8000")), FColor(255, 128, 0));
-	EXPECT_EQ(FColor::FromHex(TEXT("ff800040")), FColor(255, 128, 0, 64));
-	EXPECT_TEXT(FColor(255, 128, 0, 64).ToHex(), TEXT("FF800040"));
-	for (const TCHAR* Wrong : {TEXT(""), TEXT("#FFF"), TEXT("GG0000"), TEXT("FF00000")})
-	{
-		EXPECT_EQ(FColor::FromHex(Wrong), FColor::Transparent);
 	}
 }

@@ -43,7 +43,6 @@ TEST_F(FileHelperTest, ReadsWhatItWrote)
 	EXPECT_FALSE(FPaths::FileExists(FileName));
 	EXPECT_TRUE(FFileHelper::SaveStringToFile(Text, *FileName));
 	EXPECT_TRUE(FPaths::FileExists(FileName));
-	EXPECT_TRUE(FPaths::DirectoryExists(Folder));
 	EXPECT_FALSE(FPaths::FileExists(Folder));
 	FString Read;
 	EXPECT_TRUE(FFileHelper::LoadFileToString(Read, *FileName));

@@ -78,7 +78,6 @@ TEST(SharedPointerTest, HandsOutItselfOnceItIsHeld)
 	Self->Construct();
 	EXPECT_EQ(Self->Own.Pin(), Self);
 	EXPECT_EQ(Self->GetSelf(), Self);
-	EXPECT_TRUE(Self->DoesSharedInstanceExist());
 }
 
 TEST(SharedPointerDeathTest, StopsAtNull)

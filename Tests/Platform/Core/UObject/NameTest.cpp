@@ -24,10 +24,3 @@ TEST(NameTest, HasAnEmptyName)
 	EXPECT_TEXT(FName().ToString(), TEXT("None"));
 	EXPECT_FALSE(FName(TEXT("x")).IsNone());
 }
-
-TEST(NameTest, OrdersByLetters)
-{
-	EXPECT_TRUE(FName(TEXT("Zebra1")).LexicalLess(TEXT("zebra2")));
-	EXPECT_FALSE(FName(TEXT("zebra2")).LexicalLess(TEXT("Zebra1")));
-	EXPECT_FALSE(FName(TEXT("zebra2")).LexicalLess(TEXT("ZEBRA2")));
-}

@@ -1,0 +1,126 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "HostSupport.h"
+#include "Styling/AppStyle.h"
+#include "Widgets/Images/SImage.h"
+#include "Widgets/Input/SHyperlink.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/Text/SMultiLineEditableText.h"
+#include "Widgets/Text/STextBlock.h"
+
+#include <QAccessible>
+
+namespace
+{
+class Accessibility : public testing::Test
+{
+protected:
+	// clang-format off
+	TSharedRef<SWidget> MakeContent()
+	{
+		return SNew(SVerticalBox)
+			+ SVerticalBox::Slot().AutoHeight()[SAssignNew(Title, STextBlock).Text(INVTEXT("Title"))]
+			+ SVerticalBox::Slot().AutoHeight()
+			[
+				SAssignNew(Icon, SButton).OnClicked(FOnClicked::CreateLambda([this] { ++Clicks; return FReply::Handled(); }))
+				[
+					SNew(SImage).Image(FAppStyle::Get().GetBrush(TEXT("Icons.Plus")))
+				]
+			]
+			+ SVerticalBox::Slot().AutoHeight()[SNew(SButton).Text(INVTEXT("Log in")).IsEnabled(false)]
+			+ SVerticalBox::Slot().AutoHeight()[SNew(SHyperlink).Text(INVTEXT("Terms"))]
+			+ SVerticalBox::Slot().AutoHeight()[SNew(STextBlock).Text(INVTEXT("gone")).Visibility(EVisibility::Collapsed)]
+			+ SVerticalBox::Slot().AutoHeight()[SNew(SMultiLineEditableText).Text(INVTEXT("answer")).IsReadOnly(true)]
+			+ SVerticalBox::Slot().AutoHeight()
+			[
+				SAssignNew(Field, SMultiLineEditableText).Text(INVTEXT("typed")).HintText(INVTEXT("Type here"))
+			];
+	}
+	// clang-format on
+
+	QAccessibleInterface* Root() { return QAccessible::queryAccessibleInterface(&Host.Widget); }
+
+	QAccessibleInterface* Find(const QString& Name)
+	{
+		for (int Index = 0; Index < Root()->childCount(); ++Index)
+		{
+			if (Root()->child(Index)->text(QAccessible::Name) == Name)
+			{
+				return Root()->child(Index);
+			}
+		}
+		return nullptr;
+	}
+
+	TSharedPtr<STextBlock> Title;
+	TSharedPtr<SButton> Icon;
+	TSharedPtr<SMultiLineEditableText> Field;
+	int Clicks = 0;
+	FTestHost Host{MakeContent()};
+};
+} // namespace
+
+TEST_F(Accessibility, WidgetsAreReadInOrderByNameAndRole)
+{
+	std::vector<std::pair<std::string, QAccessible::Role>> Seen;
+	for (int Index = 0; Index < Root()->childCount(); ++Index)
+	{
+		QAccessibleInterface* Child = Root()->child(Index);
+		Seen.emplace_back(Child->text(QAccessible::Name).toStdString(), Child->role());
+		EXPECT_EQ(Child->parent(), Root());
+		EXPECT_EQ(Root()->indexOfChild(Child), Index);
+	}
+	const std::vector<std::pair<std::string, QAccessible::Role>> Expected = {{"Title", QAccessible::StaticText},
+		{"Plus", QAccessible::Button}, {"Log in", QAccessible::Button}, {"Terms", QAccessible::Link}, {"answer", QAccessible::StaticText},
+		{"Type here", QAccessible::EditableText}};
+	EXPECT_EQ(Seen, Expected);
+	EXPECT_EQ(Find("Type here")->text(QAccessible::Value), "typed");
+}
+
+TEST_F(Accessibility, StatesAreThoseOfTheWidgets)
+{
+	EXPECT_TRUE(Find("Log in")->state().disabled);
+	EXPECT_FALSE(Find("Plus")->state().disabled);
+	EXPECT_TRUE(Find("answer")->state().readOnly);
+	EXPECT_TRUE(Find("Type here")->state().editable);
+	EXPECT_TRUE(Find("Type here")->state().multiLine);
+	EXPECT_FALSE(Find("Type here")->state().focused);
+	FSlateApplication::Get().SetKeyboardFocus(Field);
+	EXPECT_TRUE(Find("Type here")->state().focused);
+	EXPECT_EQ(Root()->focusChild(), Find("Type here"));
+}
+
+TEST_F(Accessibility, PlacesAreOnTheScreen)
+{
+	QAccessibleInterface* Button = Find("Plus");
+	const FGeometry& Geometry = Icon->GetCachedGeometry();
+	EXPECT_EQ(Button->rect().topLeft() - Host.Widget.mapToGlobal(QPoint(0, 0)),
+		QPoint(qRound(Geometry.GetAbsolutePosition().X), qRound(Geometry.GetAbsolutePosition().Y)));
+	EXPECT_EQ(Root()->childAt(Button->rect().center().x(), Button->rect().center().y()), Button);
+}
+
+TEST_F(Accessibility, ButtonsCanBePressed)
+{
+	QAccessibleActionInterface* Actions = Find("Plus")->actionInterface();
+	ASSERT_NE(Actions, nullptr);
+	Actions->doAction(QAccessibleActionInterface::pressAction());
+	EXPECT_EQ(Clicks, 1);
+	Find("Log in")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+	Find("Type here")->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+	EXPECT_TRUE(Field->HasKeyboardFocus());
+}
+
+TEST_F(Accessibility, TheTreeFollowsTheWidgets)
+{
+	const int Before = Root()->childCount();
+	QAccessibleInterface* Text = Find("Title");
+	Title->SetText(INVTEXT("Changed"));
+	EXPECT_EQ(Text->text(QAccessible::Name), "Changed");
+	Host.Window->SetContent(SNew(STextBlock).Text(INVTEXT("only")));
+	Title.Reset();
+	RunFrames();
+	EXPECT_GT(Before, 1);
+	EXPECT_EQ(Root()->childCount(), 1);
+	EXPECT_EQ(Find("Changed"), nullptr);
+	EXPECT_NE(Find("only"), nullptr);
+}

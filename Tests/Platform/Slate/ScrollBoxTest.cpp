@@ -1,0 +1,195 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Brushes/SlateColorBrush.h"
+#include "Support/UserDriver.h"
+#include "Widgets/Images/SImage.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/Layout/SScrollBox.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/Text/STextBlock.h"
+
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace
+{
+/** A scroll box of 100 by 100 with a column in it, to which tests add rows. The bar is 10 wide. */
+class ScrollBox : public testing::Test
+{
+protected:
+	ScrollBox() { BarStyle.SetThickness(10.0f).SetNormalThumbImage(FSlateColorBrush(FLinearColor::Blue)); }
+
+	TSharedRef<SBox> AddRow(float Height)
+	{
+		const TSharedRef<SBox> Row = SNew(SBox).HeightOverride(Height);
+		Column->AddSlot().AutoHeight()[Row];
+		return Row;
+	}
+
+	void Fill(float Height)
+	{
+		AddRow(Height);
+		User.Frame();
+	}
+
+	double TopOf(const SWidget& Widget) const { return Widget.GetCachedGeometry().GetAbsolutePosition().Y; }
+	double WidthOfContent() const { return Column->GetCachedGeometry().GetLocalSize().X; }
+
+	FScrollBarStyle BarStyle;
+	TSharedPtr<SVerticalBox> Column;
+	TSharedPtr<SScrollBox> Box;
+	// clang-format off
+	FUserDriver User{
+		SAssignNew(Box, SScrollBox).ScrollBarStyle(&BarStyle).AllowOverscroll(EAllowOverscroll::No)
+		+ SScrollBox::Slot()[SAssignNew(Column, SVerticalBox)],
+		FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even};
+	// clang-format on
+	const FVector2D Middle{50.0, 50.0};
+};
+} // namespace
+
+TEST_F(ScrollBox, ItsBarTakesRoomOnlyWhileThereIsSomethingToScroll)
+{
+	const TSharedRef<SBox> Row = AddRow(100.0f);
+	User.Frame();
+	EXPECT_EQ(WidthOfContent(), 100.0);
+	EXPECT_NE(User.Picture().pixelColor(99, 1), QColor(0, 0, 255));
+	const TSharedRef<SBox> More = AddRow(100.0f);
+	User.Frame();
+	EXPECT_EQ(WidthOfContent(), 90.0);
+	EXPECT_EQ(User.Picture().pixelColor(99, 1), QColor(0, 0, 255));
+	EXPECT_NE(User.Picture().pixelColor(99, 60), QColor(0, 0, 255)) << "half of the content is half of the bar";
+	Column->RemoveSlot(More);
+	User.Frame();
+	EXPECT_EQ(WidthOfContent(), 100.0);
+}
+
+TEST_F(ScrollBox, TheWheelScrollsWithinTheEndsAndPassesOnWhatItCannotUse)
+{
+	Fill(200.0f);
+	User.WheelAt(Middle, -1.0f);
+	const float Notch = Box->GetScrollOffset();
+	EXPECT_GT(Notch, 0.0f);
+	EXPECT_EQ(TopOf(*Column), -Notch);
+	User.WheelAt(Middle, -100.0f);
+	EXPECT_EQ(Box->GetScrollOffset(), 100.0f);
+	EXPECT_EQ(Box->GetScrollOffsetOfEnd(), 100.0f);
+	User.WheelAt(Middle, 100.0f);
+	EXPECT_EQ(Box->GetScrollOffset(), 0.0f);
+}
+
+TEST_F(ScrollBox, ScrollToEndGoesToTheEndThatTheNextLayoutFinds)
+{
+	Fill(200.0f);
+	Box->ScrollToEnd();
+	EXPECT_EQ(Box->GetScrollOffset(), 0.0f);
+	AddRow(300.0f);
+	User.Frame();
+	EXPECT_EQ(Box->GetScrollOffset(), 400.0f);
+	AddRow(50.0f);
+	User.Frame();
+	EXPECT_EQ(Box->GetScrollOffset(), 400.0f) << "once";
+	Box->ScrollToEnd();
+	User.WheelAt(Middle, 1.0f);
+	EXPECT_LT(Box->GetScrollOffset(), 400.0f) << "the user comes before it";
+}
+
+TEST_F(ScrollBox, ScrollToEndFindsTheEndOfTextThatWrapsInTheSameLayout)
+{
+	FString Words;
+	for (int32 Index = 0; Index < 40; ++Index)
+	{
+		Words += TEXT("word ");
+	}
+	const TSharedRef<STextBlock> Text = SNew(STextBlock).AutoWrapText(true).Text(FText::FromString(Words));
+	Column->AddSlot().AutoHeight()[Text];
+	Box->ScrollToEnd();
+	User.AdvanceTime(0.0f);
+	const FSlateRect Room = Text->GetCachedGeometry().GetRenderBoundingRect();
+	EXPECT_GT(Room.GetSize().Y, 100.0);
+	EXPECT_EQ(Room.Bottom, 100.0f);
+}
+
+TEST_F(ScrollBox, ShrinkingContentAndAGrowingViewKeepItWithinItsEnds)
+{
+	const TSharedRef<SBox> Row = AddRow(400.0f);
+	Fill(100.0f);
+	Box->ScrollToEnd();
+	User.Frame();
+	EXPECT_EQ(Box->GetScrollOffset(), 400.0f);
+	Column->RemoveSlot(Row);
+	User.Frame();
+	EXPECT_EQ(Box->GetScrollOffset(), 0.0f);
+	Fill(100.0f);
+	Box->SetScrollOffset(70.0f);
+	User.Resize(FVector2D(100.0, 150.0));
+	EXPECT_EQ(Box->GetScrollOffset(), 50.0f);
+}
+
+TEST_F(ScrollBox, TheThumbIsDraggedAlsoBeyondTheEdgeAndJumpsWhereTheBarIsPressed)
+{
+	Fill(200.0f);
+	User.MouseDown(FVector2D(95.0, 10.0));
+	User.MoveTo(FVector2D(95.0, 20.0));
+	EXPECT_EQ(Box->GetScrollOffset(), 20.0f) << "10 of the 50 that the thumb can go";
+	User.MoveTo(FVector2D(-500.0, 35.0));
+	EXPECT_EQ(Box->GetScrollOffset(), 50.0f);
+	User.MoveTo(FVector2D(95.0, 5000.0));
+	EXPECT_EQ(Box->GetScrollOffset(), 100.0f);
+	User.MouseUp(FVector2D(95.0, 5000.0));
+	User.MoveTo(FVector2D(95.0, 20.0));
+	EXPECT_EQ(Box->GetScrollOffset(), 100.0f) << "let go";
+	User.ClickAt(FVector2D(95.0, 30.0));
+	EXPECT_EQ(Box->GetScrollOffset(), 10.0f) << "the thumb's middle";
+}
+
+TEST_F(ScrollBox, KeysScrollPagesAndToTheEnds)
+{
+	Fill(500.0f);
+	User.Press(TEXT("PageDown"));
+	EXPECT_EQ(Box->GetScrollOffset(), 0.0f) << "not without the focus";
+	User.ClickAt(Middle);
+	EXPECT_TRUE(Box->HasKeyboardFocus());
+	User.Press(TEXT("PageDown"));
+	const float Page = Box->GetScrollOffset();
+	EXPECT_GT(Page, 50.0f);
+	EXPECT_LT(Page, 100.0f) << "some of the former page stays in view";
+	User.Press(TEXT("End"));
+	EXPECT_EQ(Box->GetScrollOffset(), 400.0f);
+	User.Press(TEXT("PageUp"));
+	EXPECT_EQ(Box->GetScrollOffset(), 400.0f - Page);
+	User.Press(TEXT("Home"));
+	EXPECT_EQ(Box->GetScrollOffset(), 0.0f);
+}
+
+TEST_F(ScrollBox, ClipsItsContent)
+{
+	const FSlateColorBrush Red(FLinearColor::Red);
+	// clang-format off
+	FUserDriver Other(
+		SNew(SVerticalBox)
+		+ SVerticalBox::Slot().FillHeight(1.0f)[SNew(SScrollBox) + SScrollBox::Slot()[SNew(SImage).Image(&Red).DesiredSizeOverride(FVector2D(10.0, 500.0))]]
+		+ SVerticalBox::Slot().FillHeight(1.0f),
+		FVector2D(100.0, 100.0));
+	// clang-format on
+	EXPECT_EQ(Other.Picture().pixelColor(10, 49), QColor(255, 0, 0));
+	EXPECT_NE(Other.Picture().pixelColor(10, 50), QColor(255, 0, 0));
+}
+
+TEST_F(ScrollBox, AtItsEndTheWheelBelongsToTheBoxAround)
+{
+	TSharedPtr<SScrollBox> Inner;
+	TSharedPtr<SScrollBox> Outer;
+	// clang-format off
+	FUserDriver Other(
+		SAssignNew(Outer, SScrollBox)
+		+ SScrollBox::Slot()[SNew(SBox).HeightOverride(60.0f)[SAssignNew(Inner, SScrollBox) + SScrollBox::Slot()[SNew(SBox).HeightOverride(70.0f)]]]
+		+ SScrollBox::Slot()[SNew(SBox).HeightOverride(300.0f)],
+		FVector2D(100.0, 100.0));
+	// clang-format on
+	Other.WheelAt(FVector2D(10.0, 10.0), -1.0f);
+	EXPECT_EQ(Inner->GetScrollOffset(), 10.0f);
+	EXPECT_EQ(Outer->GetScrollOffset(), 0.0f);
+	Other.WheelAt(FVector2D(10.0, 10.0), -1.0f);
+	EXPECT_GT(Outer->GetScrollOffset(), 0.0f);
+}
