@@ -31,6 +31,11 @@ void FArrangedChildren::SetFormerState(const TOptional<FVector2D>& InSize, TArra
 	Unsettled = MoveTemp(InUnsettled);
 }
 
+void FArrangedChildren::Remove(const SWidget& Widget)
+{
+	InView.RemoveAll([&Widget](const FArrangedWidget& Each) { return &*Each.Widget == &Widget; });
+}
+
 void FArrangedChildren::ForgetPass()
 {
 	OutOfView.Empty();

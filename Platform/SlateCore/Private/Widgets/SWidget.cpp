@@ -61,6 +61,8 @@ void SWidget::RemoveParent(const SWidget& OldParent)
 {
 	if (Parent == &OldParent)
 	{
+		// Else it would stay alive, and be hit, until the next frame.
+		Parent->Arranged.Remove(*this);
 		Parent = nullptr;
 		AssignedSlot = nullptr;
 		bListedInParent = false;

@@ -144,23 +144,21 @@ TArray<TSharedPtr<SWidget>> SWidget::TakeUnsettledChildren()
 void SWidget::Arrange(const FGeometry& AllottedGeometry, const FSlateRect& ViewRect)
 {
 	const bool bMoved = !bHasGeometry || !(AllottedGeometry == CachedGeometry);
-	const bool bViewChanged = !(ViewRect == CachedViewRect);
-	if (!bMoved && !bViewChanged && !bArrangePending)
+	const bool bPlaceAll = bMoved || bOwnArrangeStale || !(ViewRect == CachedViewRect);
+	if (!bPlaceAll && !bArrangePending)
 	{
 		return;
 	}
-	const bool bKeepsSize = bHasGeometry && AllottedGeometry.GetScale() == CachedGeometry.GetScale();
-	const TOptional<FVector2D> FormerSize = bKeepsSize ? CachedGeometry.GetLocalSize() : TOptional<FVector2D>();
-	const bool bPlaceAll = bMoved || bViewChanged || bOwnArrangeStale;
-	const bool bResized = !FormerSize.IsSet() || FormerSize.GetValue() != AllottedGeometry.GetLocalSize();
-	const bool bTellSelf = bResized || bOwnArrangeStale;
+	const bool bKeepsScale = bHasGeometry && AllottedGeometry.GetScale() == CachedGeometry.GetScale();
+	const TOptional<FVector2D> FormerSize = bKeepsScale ? CachedGeometry.GetLocalSize() : TOptional<FVector2D>();
+	const bool bTellSelf = bOwnArrangeStale || !FormerSize.IsSet() || *FormerSize != AllottedGeometry.GetLocalSize();
 
+	++FSlateFrame::GetStats().NumArranged;
 	bHasGeometry = true;
 	CachedGeometry = AllottedGeometry;
 	CachedViewRect = ViewRect;
 	bArrangePending = false;
 	bOwnArrangeStale = false;
-	++FSlateFrame::GetStats().NumArranged;
 	if (bMoved)
 	{
 		MarkPaint();
@@ -169,12 +167,16 @@ void SWidget::Arrange(const FGeometry& AllottedGeometry, const FSlateRect& ViewR
 	{
 		OnArranged(AllottedGeometry);
 	}
+	ArrangeOwnChildren(bPlaceAll, FormerSize);
+}
 
-	FArrangedChildren NewArranged(EVisibility::Visible, ClipToSelf(ViewRect));
+void SWidget::ArrangeOwnChildren(bool bPlaceAll, const TOptional<FVector2D>& FormerSize)
+{
+	FArrangedChildren NewArranged(EVisibility::Visible, ClipToSelf(CachedViewRect));
 	NewArranged.SetFormerState(FormerSize, TakeUnsettledChildren());
 	if (bPlaceAll)
 	{
-		OnArrangeChildren(AllottedGeometry, NewArranged);
+		OnArrangeChildren(CachedGeometry, NewArranged);
 	}
 	PlaceChildren(NewArranged);
 	if (bPlaceAll)
@@ -189,7 +191,7 @@ void SWidget::Arrange(const FGeometry& AllottedGeometry, const FSlateRect& ViewR
 	}
 }
 
-void SWidget::PlaceChildren(FArrangedChildren& NewArranged)
+void SWidget::PlaceChildren(const FArrangedChildren& NewArranged)
 {
 	const bool bSomeUnsettled = !NewArranged.GetUnsettled().IsEmpty();
 	TSet<const SWidget*> Placed;

@@ -41,6 +41,9 @@ public:
 	const TArray<FArrangedWidget>& GetInternalArray() const { return InView; }
 	const TArray<FArrangedWidget>& GetOutOfView() const { return OutOfView; }
 
+	/** For a widget that goes before its parent is placed again. */
+	void Remove(const SWidget& Widget);
+
 	/** Keeps only what is needed to draw and to hit. */
 	void ForgetPass();
 

@@ -206,7 +206,8 @@ private:
 	void NoteWantsFrames();
 	void PrepassChildren(float LayoutScaleMultiplier, bool bAll);
 	TArray<TSharedPtr<SWidget>> TakeUnsettledChildren();
-	void PlaceChildren(FArrangedChildren& NewArranged);
+	void ArrangeOwnChildren(bool bPlaceAll, const TOptional<FVector2D>& FormerSize);
+	static void PlaceChildren(const FArrangedChildren& NewArranged);
 	FSlateRect ClipToSelf(const FSlateRect& Rect) const;
 
 	SWidget* Parent = nullptr;

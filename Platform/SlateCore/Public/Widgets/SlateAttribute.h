@@ -62,7 +62,7 @@ public:
 			Set(Owner, InAttribute.Get());
 			return;
 		}
-		Getter = InAttribute;
+		Getter = MakeUnique<TAttribute<ValueType>>(InAttribute);
 		bRead = false;
 		Register(Owner, true);
 		InvalidateOwner(Owner, InReason);
@@ -82,17 +82,17 @@ public:
 	{
 		if (!bRead)
 		{
-			Value = Getter.Get();
+			Value = Getter->Get();
 			bRead = true;
 		}
 		return Value;
 	}
 
-	bool IsBound() const { return Getter.IsBound(); }
+	bool IsBound() const { return Getter.IsValid() && Getter->IsBound(); }
 
 	virtual EInvalidateWidgetReason Update() override
 	{
-		ValueType NewValue = Getter.Get();
+		ValueType NewValue = Getter->Get();
 		const bool bChanged = !bRead || !AreSlateValuesEqual(Value, NewValue);
 		Value = MoveTemp(NewValue);
 		bRead = true;
@@ -102,12 +102,13 @@ public:
 private:
 	void Unbind(SWidget& Owner)
 	{
-		Getter = TAttribute<ValueType>();
+		Getter.Reset();
 		bRead = true;
 		Register(Owner, false);
 	}
 
 	mutable ValueType Value;
-	TAttribute<ValueType> Getter;
+	/** Few attributes are bound, so the others do not pay for it. */
+	TUniquePtr<TAttribute<ValueType>> Getter;
 	mutable bool bRead = true;
 };
