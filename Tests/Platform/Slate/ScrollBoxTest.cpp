@@ -3,6 +3,7 @@
 #include "Brushes/SlateColorBrush.h"
 #include "Support/UserDriver.h"
 #include "Widgets/Images/SImage.h"
+#include "Widgets/Input/SButton.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/Layout/SScrollBox.h"
 #include "Widgets/SBoxPanel.h"
@@ -160,6 +161,29 @@ TEST_F(ScrollBox, KeysScrollPagesAndToTheEnds)
 	EXPECT_EQ(Box->GetScrollOffset(), 400.0f - Page);
 	User.Press(TEXT("Home"));
 	EXPECT_EQ(Box->GetScrollOffset(), 0.0f);
+}
+
+TEST_F(ScrollBox, TabBringsWhatItReachesIntoView)
+{
+	const auto AddButton = [this](const TCHAR* Label)
+	{
+		const TSharedRef<SButton> Added = SNew(SButton).Text(FText::FromString(Label));
+		Column->AddSlot().AutoHeight()[Added];
+		return Added;
+	};
+	const TSharedRef<SWidget> First = AddButton(TEXT("First"));
+	Fill(500.0f);
+	const TSharedRef<SWidget> Last = AddButton(TEXT("Last"));
+	User.Frame();
+	User.ClickAt(Middle);
+	User.Press(TEXT("Tab"));
+	EXPECT_TRUE(First->HasKeyboardFocus());
+	EXPECT_EQ(Box->GetScrollOffset(), 0.0f) << "it is in view";
+	User.Press(TEXT("Tab"));
+	EXPECT_TRUE(Last->HasKeyboardFocus());
+	EXPECT_EQ(Box->GetScrollOffset(), Box->GetScrollOffsetOfEnd());
+	User.Press(TEXT("Shift+Tab"));
+	EXPECT_EQ(TopOf(*First), 0.0);
 }
 
 TEST_F(ScrollBox, ClipsItsContent)

@@ -187,6 +187,14 @@ TEST_F(LayoutPasses, AWidgetThatIsPutElsewhereLeavesItsFormerPlace)
 	EXPECT_EQ(Left->GetChildren()->GetChildAt(0), SNullWidget::NullWidget);
 }
 
+TEST_F(LayoutPasses, ARemovedWidgetDiesWithItsLastOwner)
+{
+	const TWeakPtr<SWidget> Gone = Probes[0];
+	Left->RemoveSlot(Probes[0].ToSharedRef());
+	Probes[0].Reset();
+	EXPECT_FALSE(Gone.IsValid()) << "without waiting for a frame";
+}
+
 TEST_F(LayoutPasses, ScaleTurnsUnitsIntoPixelsAndAsksForEverySizeAnew)
 {
 	User->SetScale(2.0f);

@@ -221,6 +221,20 @@ void SWidget::PlaceChildren(const FArrangedChildren& NewArranged)
 	}
 }
 
+FGeometry SWidget::ComputeGeometry() const
+{
+	if (Parent == nullptr)
+	{
+		return CachedGeometry;
+	}
+	const FGeometry ParentGeometry = Parent->ComputeGeometry();
+	FArrangedChildren Siblings(EVisibility::All);
+	Parent->ArrangeChildren(ParentGeometry, Siblings);
+	const FArrangedWidget* Self =
+		Siblings.GetInternalArray().FindByPredicate([this](const FArrangedWidget& Each) { return &*Each.Widget == this; });
+	return Self != nullptr ? Self->Geometry : CachedGeometry;
+}
+
 void SWidget::ArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const
 {
 	OnArrangeChildren(AllottedGeometry, ArrangedChildren);

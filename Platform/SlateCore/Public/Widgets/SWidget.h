@@ -61,6 +61,10 @@ public:
 	const FGeometry& GetCachedGeometry() const { return CachedGeometry; }
 	const FGeometry& GetTickSpaceGeometry() const { return CachedGeometry; }
 
+	/** The room it would have in this moment, also while it is scrolled out of view. Places all its siblings at every level, so it is dear.
+	 */
+	FGeometry ComputeGeometry() const;
+
 	/** The children in view, as placed by the last arrange pass. */
 	const FArrangedChildren& GetArrangedChildren() const { return Arranged; }
 
@@ -125,6 +129,9 @@ public:
 	// Input
 
 	virtual bool SupportsKeyboardFocus() const { return false; }
+
+	/** Something in it gets the focus. */
+	virtual void OnFocusChanging(const TSharedRef<SWidget>& NewFocused, const FFocusEvent& InFocusEvent) {}
 	virtual FReply OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent);
 	virtual void OnFocusLost(const FFocusEvent& InFocusEvent) {}
 	virtual FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent);

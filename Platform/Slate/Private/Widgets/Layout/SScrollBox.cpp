@@ -45,6 +45,16 @@ void SScrollBox::SetScrollOffset(float NewOffset)
 	}
 }
 
+void SScrollBox::ScrollDescendantIntoView(const TSharedRef<SWidget>& Widget)
+{
+	const FGeometry Room = Widget->ComputeGeometry();
+	const FGeometry& Own = GetCachedGeometry();
+	const float Top = static_cast<float>(Own.AbsoluteToLocal(Room.LocalToAbsolute(FVector2D(0.0, 0.0))).Y);
+	const float Bottom = static_cast<float>(Own.AbsoluteToLocal(Room.LocalToAbsolute(Room.GetLocalSize())).Y);
+	const float Beyond = FMath::Max(0.0f, Bottom - ViewLength);
+	SetScrollOffset(ScrollOffset + FMath::Min(Top, Beyond));
+}
+
 float SScrollBox::GetScrollOffsetOfEnd() const
 {
 	return FMath::Max(0.0f, ContentLength - ViewLength);

@@ -39,6 +39,15 @@ FReply SScrollBox::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKey
 	return SPanel::OnKeyDown(MyGeometry, InKeyEvent);
 }
 
+void SScrollBox::OnFocusChanging(const TSharedRef<SWidget>& NewFocused, const FFocusEvent& InFocusEvent)
+{
+	// What was clicked can be seen already.
+	if (InFocusEvent.GetCause() == EFocusCause::Navigation)
+	{
+		ScrollDescendantIntoView(NewFocused);
+	}
+}
+
 FReply SScrollBox::ScrollByUser(float NewOffset)
 {
 	const float Former = ScrollOffset;

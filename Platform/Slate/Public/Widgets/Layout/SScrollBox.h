@@ -49,8 +49,12 @@ public:
 	float GetScrollOffset() const { return ScrollOffset; }
 	float GetScrollOffsetOfEnd() const;
 
+	/** Scrolls no further than needed to see it; of what is longer than the view, the beginning. */
+	void ScrollDescendantIntoView(const TSharedRef<SWidget>& Widget);
+
 	virtual FChildren* GetChildren() override { return &Children; }
 	virtual bool SupportsKeyboardFocus() const override { return true; }
+	virtual void OnFocusChanging(const TSharedRef<SWidget>& NewFocused, const FFocusEvent& InFocusEvent) override;
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 	virtual FReply OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;

@@ -34,6 +34,10 @@ void FSlateFocus::Set(const TSharedPtr<SWidget>& Widget, EFocusCause Cause)
 	// Losing the focus may have moved it elsewhere already.
 	if (Widget.IsValid() && GetFocused() == Widget)
 	{
+		for (SWidget* Around = Widget->Parent; Around != nullptr; Around = Around->Parent)
+		{
+			Around->OnFocusChanging(Widget.ToSharedRef(), FFocusEvent(Cause));
+		}
 		Application.ProcessReply(Widget->OnFocusReceived(Widget->GetCachedGeometry(), FFocusEvent(Cause)));
 	}
 }
