@@ -13,6 +13,7 @@
 #include <QInputMethod>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSet>
 #include <QRegion>
 
 // Mouse wheels report eighths of a degree, of which one notch has this many.
@@ -192,10 +193,18 @@ void QSlateWidget::keyReleaseEvent(QKeyEvent* Event)
 	Event->setAccepted(FSlateApplication::Get().ProcessKeyUpEvent(Window, KeyEvent));
 }
 
+// What editing texts does with the control key held; the others are the menus'.
+static bool EditsWithControl(int Key)
+{
+	static const QSet<int> Keys = {Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z, Qt::Key_Left, Qt::Key_Right,
+		Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Insert, Qt::Key_Return};
+	return Keys.contains(Key);
+}
+
 bool QSlateWidget::WantsAsInput(const QKeyEvent& Event) const
 {
 	const bool bWrites = !InputTranslation::ToText(Event).IsEmpty();
-	const bool bEdits = Event.modifiers().testFlag(Qt::ControlModifier) && InputTranslation::ToKey(Event).IsValid();
+	const bool bEdits = Event.modifiers().testFlag(Qt::ControlModifier) && EditsWithControl(Event.key());
 	return testAttribute(Qt::WA_InputMethodEnabled) && (bWrites || bEdits);
 }
 
