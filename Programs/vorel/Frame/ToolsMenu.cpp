@@ -38,7 +38,7 @@ void FToolsMenu::Rebuild()
 	}
 	for (const FToolMenuSection& Section : Menu->Sections)
 	{
-		addSection(ToQString(Section.Name.ToString()));
+		addSeparator();
 		for (const FToolMenuEntry& Entry : Section.Entries)
 		{
 			AddEntry(Entry);

@@ -35,6 +35,6 @@ const FWidgetMatch* ChooseMatch(const TArray<FWidgetMatch>& Matches, const TOpti
 			return Candidates[Index];
 		}
 	}
-	OutProblem = TEXT("its middle is out of view");
+	OutProblem = TEXT("it is out of view");
 	return nullptr;
 }

@@ -46,8 +46,8 @@ TEST(PlaySteps, AClickNeedsItsMatchOnScreen)
 	EXPECT_FAILS(Scene, "click \"title\"", "a.play:1: \"title\": no widget shows it");
 	EXPECT_FAILS(Scene, "click \"Note\"", "a.play:1: \"Note\": no widget shows it");
 	EXPECT_FAILS(Scene, "click \"Press me\" 3", "a.play:1: \"Press me\": only 2 of them are shown");
-	EXPECT_FAILS(Scene, "click \"Row 99\"", "a.play:1: \"Row 99\": its middle is out of view");
-	EXPECT_FAILS(Scene, "click \"Row\" 100", "a.play:1: \"Row\": its middle is out of view");
+	EXPECT_FAILS(Scene, "click \"Row 99\"", "a.play:1: \"Row 99\": it is out of view");
+	EXPECT_FAILS(Scene, "click \"Row\" 100", "a.play:1: \"Row\": it is out of view");
 }
 
 TEST(PlaySteps, AFailureTellsWhatWasOnScreen)
@@ -76,7 +76,7 @@ TEST(PlaySteps, TheWheelScrollsWhatItIsOver)
 	EXPECT_PLAYS(Scene, "wheel \"Row 0\" -3");
 	const float Down = Scene.Rows->GetScrollOffset();
 	EXPECT_GT(Down, 0.0f);
-	EXPECT_FAILS(Scene, "click \"Row 0\"", "a.play:1: \"Row 0\": its middle is out of view");
+	EXPECT_FAILS(Scene, "click \"Row 0\"", "a.play:1: \"Row 0\": it is out of view");
 	EXPECT_PLAYS(Scene, "wheel \"Row\" 1");
 	EXPECT_NEAR(Scene.Rows->GetScrollOffset(), Down * 2.0f / 3.0f, 0.5f);
 }

@@ -1,49 +1,32 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
+#include "Programs/ProgramRun.h"
 #include "QtConversion.h"
 #include "Support/Printers.h"
 #include "Support/TempFolder.h"
 
+#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QProcess>
+#include <QHash>
+#include <QImage>
 
 namespace
 {
-struct FOutcome
-{
-	int ExitStatus;
-	FString Output;
-	FString Errors;
-};
-
 // The program in a folder of its own, as its users start it.
 class VorelProgram : public testing::Test
 {
 protected:
-	FOutcome Run(const QStringList& Arguments, bool bDisplay = false)
+	FProgramOutcome Run(const QStringList& Arguments, const QString& Display = QString())
 	{
-		QProcess Process;
-		QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
-		for (const char* const Name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+		FProgramRun Program{FProgramRun::FindProgram(QStringLiteral("vorel")), Arguments, ToQString(Folder.GetPath())};
+		if (!Display.isEmpty())
 		{
-			Environment.remove(QLatin1String(Name));
+			Program.Environment.insert(QStringLiteral("DISPLAY"), Display);
 		}
-		if (bDisplay)
-		{
-			Environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":9999"));
-		}
-		Process.setProcessEnvironment(Environment);
-		Process.setWorkingDirectory(ToQString(Folder.GetPath()));
-		Process.start(
-			QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget().replace(QLatin1String("Tests.Programs"), QLatin1String("vorel")),
-			Arguments);
-		EXPECT_TRUE(Process.waitForFinished(PatienceInMilliseconds));
-		return {Process.exitStatus() == QProcess::NormalExit ? Process.exitCode() : -1,
-			ToFString(QString::fromUtf8(Process.readAllStandardOutput())), ToFString(QString::fromUtf8(Process.readAllStandardError()))};
+		return Program.Run();
 	}
 
-	FOutcome Play(const char* Text)
+	FProgramOutcome Play(const char* Text)
 	{
 		Write("a.play", Text);
 		return Run({QStringLiteral("--offscreen"), QStringLiteral("--data-dir"), QStringLiteral("data"), QStringLiteral("--play"),
@@ -63,16 +46,24 @@ protected:
 		return File.readAll();
 	}
 
+	QHash<QString, QByteArray> ReadFolder(const char* Name)
+	{
+		QHash<QString, QByteArray> Contents;
+		for (const QString& File : QDir(GetPath(Name)).entryList(QDir::Files))
+		{
+			Contents[File] = Read((QLatin1String(Name) + QLatin1Char('/') + File).toUtf8());
+		}
+		return Contents;
+	}
+
 	bool Exists(const char* Name) { return QFile::exists(GetPath(Name)); }
 
 	QString GetPath(const char* Name) { return ToQString(Folder.GetPath()) + QLatin1Char('/') + QLatin1String(Name); }
 
-	static constexpr int PatienceInMilliseconds = 120'000;
-
 	FTempFolder Folder;
 };
 
-void ExpectRefused(const FOutcome& Outcome, const FString& Line)
+void ExpectRefused(const FProgramOutcome& Outcome, const FString& Line)
 {
 	EXPECT_EQ(Outcome.ExitStatus, 2);
 	EXPECT_TEXT(Outcome.Errors, Line + TEXT("\n"));
@@ -82,11 +73,11 @@ void ExpectRefused(const FOutcome& Outcome, const FString& Line)
 
 TEST_F(VorelProgram, TellsAboutItselfWithoutADisplay)
 {
-	const FOutcome Help = Run({QStringLiteral("--help")});
+	const FProgramOutcome Help = Run({QStringLiteral("--help")});
 	EXPECT_EQ(Help.ExitStatus, 0);
 	EXPECT_TRUE(Help.Output.StartsWith(TEXT("Usage: vorel [options]\n")));
 	EXPECT_TEXT(Help.Errors, TEXT(""));
-	const FOutcome Version = Run({QStringLiteral("--version")});
+	const FProgramOutcome Version = Run({QStringLiteral("--version")});
 	EXPECT_EQ(Version.ExitStatus, 0);
 	EXPECT_TRUE(Version.Output.StartsWith(TEXT("vorel ")) && Version.Output.EndsWith(TEXT("\n"))) << Version.Output;
 }
@@ -94,7 +85,7 @@ TEST_F(VorelProgram, TellsAboutItselfWithoutADisplay)
 TEST_F(VorelProgram, NeedsADisplayOrToldOffscreen)
 {
 	ExpectRefused(Run({}), TEXT("vorel: there is no display; without one use --offscreen"));
-	ExpectRefused(Run({}, true), TEXT("vorel: the display can't be opened; without one use --offscreen"));
+	ExpectRefused(Run({}, QStringLiteral(":9999")), TEXT("vorel: the display can't be opened; without one use --offscreen"));
 }
 
 TEST_F(VorelProgram, RefusesWhatItCantRead)
@@ -115,7 +106,7 @@ TEST_F(VorelProgram, ReadsAPlayFileToItsEndBeforeTheFirstStep)
 
 TEST_F(VorelProgram, AFailedStepEndsIt)
 {
-	const FOutcome Outcome = Play("open \"Nothing\"\nclipboard \"c.txt\"\n");
+	const FProgramOutcome Outcome = Play("open \"Nothing\"\nclipboard \"c.txt\"\n");
 	EXPECT_EQ(Outcome.ExitStatus, 1);
 	EXPECT_TRUE(
 		Outcome.Errors.Contains(TEXT("a.play:1: no Tools menu has an entry Nothing that can be invoked; there are: Vorel AI, Vorel AI\n")))
@@ -123,32 +114,37 @@ TEST_F(VorelProgram, AFailedStepEndsIt)
 	EXPECT_FALSE(Exists("c.txt"));
 }
 
-TEST_F(VorelProgram, HoldsAConversationTwiceWithTheSamePictures)
+TEST_F(VorelProgram, PlaysEveryCommandTwiceWithTheSameFiles)
 {
-	const char* const Conversation = "open \"Vorel AI\"\n"
-									 "wait idle\n"
-									 "screenshot \"empty.png\"\n"
-									 "focus \"Type your message here...\"\n"
-									 "type \"How do I log a message?\"\n"
-									 "press Enter\n"
-									 "expect text \"How do I log a message?\"\n"
-									 "wait text \"UE_LOG\" 60\n"
-									 "wait idle 60\n"
-									 "screenshot \"answer.png\"\n"
-									 "screenshot window \"window.png\"\n"
-									 "tree \"tree.txt\"\n";
-	QByteArray First[4];
-	const char* const Files[] = {"empty.png", "answer.png", "window.png", "tree.txt"};
+	QHash<QString, QByteArray> First;
 	for (int Round = 0; Round < 2; ++Round)
 	{
-		const FOutcome Outcome = Play(Conversation);
+		const FProgramOutcome Outcome = Run({QStringLiteral("--offscreen"), QStringLiteral("--data-dir"), QStringLiteral("data"),
+			QStringLiteral("--play"), QStringLiteral(VOREL_PROJECT_FOLDER "/Docs/Samples/every-command.play")});
 		ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
-		for (int Index = 0; Index < 4; ++Index)
+		const QHash<QString, QByteArray> Saved = ReadFolder("every-command");
+		EXPECT_EQ(Saved.size(), 10);
+		for (auto File = First.cbegin(); File != First.cend(); ++File)
 		{
-			const QByteArray Saved = Read(Files[Index]);
-			EXPECT_TRUE(Round == 0 || Saved == First[Index]) << Files[Index];
-			First[Index] = Saved;
+			EXPECT_TRUE(Saved[File.key()] == File.value()) << File.key().toStdString();
 		}
+		First = Saved;
 	}
-	EXPECT_NE(First[0], First[1]);
+	EXPECT_EQ(First[QStringLiteral("clipboard.txt")], "a draft with \"quotes\",\ttabs and \\ of\ntwo lines");
+	EXPECT_TRUE(First[QStringLiteral("code.txt")].startsWith("// MyGame.h\n#pragma once\n"));
+	EXPECT_TRUE(First[QStringLiteral("tree.txt")].startsWith("SVorelAIView 0,0 720x540\n"));
+	EXPECT_EQ(QImage::fromData(First[QStringLiteral("small.png")]).size(), QSize(720, 540));
+}
+
+TEST_F(VorelProgram, AScaleGivesMorePixelsToTheSameLayout)
+{
+	Write("a.play", "open \"Vorel AI\"\nscreenshot \"a.png\"\ntree \"a.txt\"\n");
+	for (const int Scale : {1, 2})
+	{
+		const FProgramOutcome Outcome = Run({QStringLiteral("--offscreen"), QStringLiteral("--data-dir=data"),
+			QStringLiteral("--size=800x300"), QStringLiteral("--scale=%1").arg(Scale), QStringLiteral("--play=a.play")});
+		ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
+		EXPECT_EQ(QImage(GetPath("a.png")).size(), QSize(800, 300) * Scale);
+		EXPECT_TRUE(Read("a.txt").startsWith("SVorelAIView 0,0 800x300\n"));
+	}
 }

@@ -1,0 +1,38 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "ProgramRun.h"
+
+#include "QtConversion.h"
+#include "Support/Printers.h"
+
+#include <QFileInfo>
+#include <QProcess>
+
+static constexpr int PatienceInMilliseconds = 120'000;
+
+QString FProgramRun::FindProgram(const QString& Name)
+{
+	return QFileInfo(QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget()).path() + QLatin1Char('/') + Name;
+}
+
+QProcessEnvironment FProgramRun::GetPlainEnvironment()
+{
+	QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
+	for (const char* const Name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+	{
+		Environment.remove(QLatin1String(Name));
+	}
+	return Environment;
+}
+
+FProgramOutcome FProgramRun::Run() const
+{
+	QProcess Process;
+	Process.setProcessEnvironment(Environment);
+	Process.setWorkingDirectory(Folder);
+	Process.start(Program, Arguments);
+	EXPECT_TRUE(Process.waitForFinished(PatienceInMilliseconds)) << Program.toStdString() << ": " << Process.errorString().toStdString();
+	const bool bEnded = Process.state() == QProcess::NotRunning && Process.exitStatus() == QProcess::NormalExit;
+	return {bEnded ? Process.exitCode() : -1, ToFString(QString::fromUtf8(Process.readAllStandardOutput())),
+		ToFString(QString::fromUtf8(Process.readAllStandardError()))};
+}

@@ -1,0 +1,31 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "CoreMinimal.h"
+
+#include <QProcessEnvironment>
+#include <QString>
+
+struct FProgramOutcome
+{
+	// Negative for a program that was ended by a signal or did not end.
+	int ExitStatus;
+	FString Output;
+	FString Errors;
+};
+
+struct FProgramRun
+{
+	QString Program;
+	QStringList Arguments;
+	QString Folder;
+	// Without a display.
+	QProcessEnvironment Environment = GetPlainEnvironment();
+
+	FProgramOutcome Run() const;
+
+	// A program of the same build.
+	static QString FindProgram(const QString& Name);
+	static QProcessEnvironment GetPlainEnvironment();
+};
