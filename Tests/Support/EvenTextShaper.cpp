@@ -2,11 +2,13 @@
 
 #include "Support/EvenTextShaper.h"
 
+#include "Fonts/QtShapedText.h"
+
 TSharedRef<const FShapedText> FEvenTextShaper::Shape(
 	FStringView Text, const FSlateFontInfo& Font, float Scale, TextBiDi::ETextDirection Direction, ETextShapingMethod)
 {
 	const float Advance = Font.Size * 0.8f * Scale;
-	const TSharedRef<FShapedText> Shaped = MakeShared<FShapedText>();
+	const TSharedRef<FShapedText> Shaped = MakeShared<FQtShapedText>();
 	Shaped->Width = Advance * Text.Len();
 	for (int32 Index = 0; Index <= Text.Len(); ++Index)
 	{

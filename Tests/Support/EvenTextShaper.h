@@ -4,7 +4,10 @@
 
 #include "Fonts/TextShaper.h"
 
-/** A font for exact numbers: of 10 points each UTF-16 unit is 8 units wide, and a line is 16 units high. */
+/**
+ * A font for exact numbers: of 10 points each UTF-16 unit is 8 units wide, and a line is 16 units high. Its letters
+ * have no look: pictures show them as blanks.
+ */
 class FEvenTextShaper final : public ITextShaper
 {
 public:

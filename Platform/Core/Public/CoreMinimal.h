@@ -18,7 +18,6 @@
 #include "Misc/AssertionMacros.h"
 #include "Misc/Attribute.h"
 #include "Misc/Char.h"
-#include "Misc/CString.h"
 #include "Misc/EnumClassFlags.h"
 #include "Misc/Optional.h"
 #include "Templates/Function.h"

@@ -26,6 +26,3 @@ using TCHAR = char16_t;
 inline constexpr int32 INDEX_NONE = -1;
 inline constexpr int32 MAX_int32 = INT32_MAX;
 inline constexpr uint32 MAX_uint32 = UINT32_MAX;
-inline constexpr int64 MAX_int64 = INT64_MAX;
-
-#define FORCEINLINE inline __attribute__((always_inline))

@@ -2,6 +2,7 @@
 
 #include "DesktopApplication.h"
 
+#include "Accessibility/AccessibleHost.h"
 #include "DesktopLog.h"
 #include "Editor.h"
 #include "Fonts/DesktopTextShaper.h"
@@ -52,6 +53,7 @@ FDesktopApplication::FDesktopApplication(EBrowserMode InBrowserMode)
 	, TextShaper(MakeDesktopTextShaper())
 {
 	qInstallMessageHandler(LogQtMessage);
+	QAccessible::installFactory(&FAccessibleHost::Make);
 	FPlatformHooks::Get().LaunchURL = [this](const FString& Address, FString& OutError)
 	{
 		return OpenAddress(Address, OutError);
@@ -66,6 +68,7 @@ FDesktopApplication::~FDesktopApplication()
 {
 	FPlatformHooks::Get() = FPlatformHooks();
 	qInstallMessageHandler(nullptr);
+	QAccessible::removeFactory(&FAccessibleHost::Make);
 }
 
 void FDesktopApplication::SetActiveHost(QSlateWidget* Host)

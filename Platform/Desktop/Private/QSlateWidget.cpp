@@ -2,6 +2,7 @@
 
 #include "QSlateWidget.h"
 
+#include "Accessibility/AccessibleHost.h"
 #include "Application/InputTranslation.h"
 #include "DesktopApplication.h"
 #include "Framework/Application/SlateApplication.h"
@@ -93,6 +94,7 @@ void QSlateWidget::ShowFrame()
 		update(QRectF(QPointF(Part.topLeft()) / Scale, QSizeF(Part.size()) / Scale).toAlignedRect());
 		Desktop.GetFrameLoop().NotePainted();
 	}
+	FAccessibleHost::AnnounceFocus(*this);
 }
 
 void QSlateWidget::paintEvent(QPaintEvent* Event)

@@ -50,11 +50,6 @@ UToolMenus* UToolMenus::Get()
 	return GetSystem().Menus;
 }
 
-bool UToolMenus::IsToolMenuUIEnabled()
-{
-	return Get() != nullptr;
-}
-
 void UToolMenus::RegisterStartupCallback(const FSimpleMulticastDelegate::FDelegate& InDelegate)
 {
 	if (GetSystem().bUp)

@@ -15,7 +15,6 @@ public:
 
 	// Null before Startup and where there are no menus.
 	static UToolMenus* Get();
-	static bool IsToolMenuUIEnabled();
 
 	// Runs once the menu system is up: at once if it already is.
 	static void RegisterStartupCallback(const FSimpleMulticastDelegate::FDelegate& InDelegate);

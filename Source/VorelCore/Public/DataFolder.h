@@ -8,7 +8,8 @@
 class FDataFolder
 {
 public:
-	// In place of the user's own folder, until an empty path is set. A relative path counts from the current folder at the time of the call.
+	// In place of the user's own folder, until an empty path is set. A relative path counts from the current folder at the time of the
+	// call.
 	static void Set(const FString& Path);
 
 	// What was set, else "vorel-ai" in XDG_DATA_HOME or in ~/.local/share. Empty where the user has no home. It need not exist.

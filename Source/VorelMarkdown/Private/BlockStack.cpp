@@ -126,6 +126,11 @@ void FBlockStack::OpenCodeLine()
 		OpenLine(GetTextStyle());
 		EndBlock();
 	}
+	else if (Gap == EGap::Line)
+	{
+		// The box has no margin of its own, and would touch a heading or a tight item above it.
+		Gap = EGap::EmptyLine;
+	}
 	CloseGap();
 }
 

@@ -7,7 +7,8 @@
 #include <string>
 
 // Quotes, lists and items around the text, and what they put between and before its lines: blocks stand apart by an empty line, but by a
-// mere new line in a tight list and behind a heading; the first line of an item begins with its markers, every other one with blanks.
+// mere new line in a tight list and behind a heading, where no code follows; the first line of an item begins with its markers, every other
+// one with blanks.
 class FBlockStack
 {
 public:

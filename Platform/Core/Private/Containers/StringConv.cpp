@@ -10,6 +10,7 @@ static constexpr UChar32 ReplacementCharacter = 0xFFFD;
 FTCHARToUTF8::FTCHARToUTF8(FStringView Text)
 {
 	// No UTF-16 unit takes more than three bytes.
+	check(Text.Len() <= MAX_int32 / 3);
 	Bytes.resize(static_cast<SIZE_T>(Text.Len()) * 3);
 	UErrorCode Error = U_ZERO_ERROR;
 	int32 Length = 0;

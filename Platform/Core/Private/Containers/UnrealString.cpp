@@ -198,15 +198,6 @@ FString FString::FromInt(int32 Number)
 	return Result;
 }
 
-FString FString::SanitizeFloat(double Number)
-{
-	ANSICHAR Digits[512];
-	const auto Result = std::to_chars(std::begin(Digits), std::end(Digits), Number, std::chars_format::fixed);
-	FString Text(FStringView(FUTF8ToTCHAR(Digits, static_cast<int32>(Result.ptr - Digits))));
-	const bool bDigitsOnly = std::none_of(Text.begin(), Text.end(), [](TCHAR Unit) { return Unit == TEXT('.') || FChar::IsAlpha(Unit); });
-	return bDigitsOnly ? Text + TEXT(".0") : Text;
-}
-
 FString FString::ChrN(int32 Count, TCHAR Character)
 {
 	FString Result;

@@ -70,19 +70,6 @@ bool FText::EqualTo(const FText& Other) const
 	return Data == Other.Data || ToString().Equals(Other.ToString());
 }
 
-int32 FText::CompareTo(const FText& Other) const
-{
-	return ToString().Compare(Other.ToString());
-}
-
-bool FText::IdenticalTo(const FText& Other) const
-{
-	const FTextId* Id = Data->GetId();
-	const FTextId* OtherId = Other.Data->GetId();
-	const bool bSameIdentity = Id && OtherId && *Id == *OtherId && Data->GetSourceString().Equals(Other.Data->GetSourceString());
-	return Data == Other.Data || bSameIdentity;
-}
-
 TOptional<FString> FTextInspector::GetNamespace(const FText& Text)
 {
 	const FTextId* Id = Text.Data->GetId();

@@ -43,12 +43,6 @@ bool FPaths::FileExists(const FString& InPath)
 	return fs::is_regular_file(ToPath(InPath), Error);
 }
 
-bool FPaths::DirectoryExists(const FString& InPath)
-{
-	std::error_code Error;
-	return fs::is_directory(ToPath(InPath), Error);
-}
-
 FString FPaths::GetPath(const FString& InPath)
 {
 	int32 Slash;

@@ -25,7 +25,6 @@ public:
 	}
 
 	const FString& GetName() const override { return Name; }
-	const FString& GetDescriptorFileName() const override { return FileName; }
 	FString GetBaseDir() const override { return FPaths::GetPath(FileName); }
 	const FPluginDescriptor& GetDescriptor() const override { return Descriptor; }
 

@@ -65,8 +65,3 @@ void CollectGarbage(EObjectFlags KeepFlags)
 	const TGuardValue<bool> Guard(bIsCollecting, true);
 	FGarbageCollector(KeepFlags).Run();
 }
-
-bool IsGarbageCollecting()
-{
-	return bIsCollecting;
-}

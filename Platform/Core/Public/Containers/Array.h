@@ -87,19 +87,24 @@ public:
 	int32 Insert(ElementType&& Item, int32 Index);
 
 	void RemoveAt(int32 Index, int32 Count = 1);
-	// Fills the gap with the last element, so the order changes.
-	void RemoveAtSwap(int32 Index);
 	// Removes all that are equal and returns their number.
 	int32 Remove(const ElementType& Item);
-	int32 RemoveSingle(const ElementType& Item);
 	template <typename PredicateType>
 	int32 RemoveAll(const PredicateType& Predicate);
 
 	void Empty(int32 Slack = 0);
 	// Empties the array and keeps its memory.
 	void Reset(int32 NewSize = 0);
-	void Reserve(int32 Number) { Elements.reserve(static_cast<SIZE_T>(Number)); }
-	void SetNum(int32 NewNum) { Elements.resize(static_cast<SIZE_T>(NewNum)); }
+	void Reserve(int32 Number)
+	{
+		check(Number >= 0);
+		Elements.reserve(static_cast<SIZE_T>(Number));
+	}
+	void SetNum(int32 NewNum)
+	{
+		check(NewNum >= 0);
+		Elements.resize(static_cast<SIZE_T>(NewNum));
+	}
 	void Init(const ElementType& Element, int32 Number) { Elements.assign(static_cast<SIZE_T>(Number), Element); }
 	void Swap(int32 FirstIndex, int32 SecondIndex) { ::Swap((*this)[FirstIndex], (*this)[SecondIndex]); }
 
@@ -236,34 +241,11 @@ void TArray<ElementType>::RemoveAt(int32 Index, int32 Count)
 }
 
 template <typename ElementType>
-void TArray<ElementType>::RemoveAtSwap(int32 Index)
-{
-	RangeCheck(Index);
-	if (Index != Num() - 1)
-	{
-		(*this)[Index] = ::MoveTemp(Last());
-	}
-	Elements.pop_back();
-}
-
-template <typename ElementType>
 int32 TArray<ElementType>::Remove(const ElementType& Item)
 {
 	// The item may be an element of this array, which removing moves.
 	const ElementType Kept = Item;
 	return RemoveAll([&Kept](const ElementType& Element) { return Element == Kept; });
-}
-
-template <typename ElementType>
-int32 TArray<ElementType>::RemoveSingle(const ElementType& Item)
-{
-	const int32 Index = Find(Item);
-	if (Index == INDEX_NONE)
-	{
-		return 0;
-	}
-	RemoveAt(Index);
-	return 1;
 }
 
 template <typename ElementType>

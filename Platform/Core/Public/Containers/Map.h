@@ -70,12 +70,6 @@ public:
 
 	// The number of pairs removed: one or none.
 	int32 Remove(const KeyType& Key) { return Pairs.Remove(Key) ? 1 : 0; }
-	bool RemoveAndCopyValue(const KeyType& Key, ValueType& OutRemovedValue);
-
-	void GetKeys(TArray<KeyType>& OutKeys) const;
-	void GenerateKeyArray(TArray<KeyType>& OutKeys) const { GetKeys(OutKeys); }
-	void GenerateValueArray(TArray<ValueType>& OutValues) const;
-
 	auto begin() { return Pairs.begin(); }
 	auto end() { return Pairs.end(); }
 	auto begin() const { return Pairs.begin(); }
@@ -119,36 +113,4 @@ const KeyType* TMap<KeyType, ValueType>::FindKey(const ValueType& Value) const
 		}
 	}
 	return nullptr;
-}
-
-template <typename KeyType, typename ValueType>
-bool TMap<KeyType, ValueType>::RemoveAndCopyValue(const KeyType& Key, ValueType& OutRemovedValue)
-{
-	ValueType* Value = Find(Key);
-	if (Value == nullptr)
-	{
-		return false;
-	}
-	OutRemovedValue = ::MoveTemp(*Value);
-	return Pairs.Remove(Key);
-}
-
-template <typename KeyType, typename ValueType>
-void TMap<KeyType, ValueType>::GetKeys(TArray<KeyType>& OutKeys) const
-{
-	OutKeys.Reset(Num());
-	for (const FPair& Pair : *this)
-	{
-		OutKeys.Add(Pair.Key);
-	}
-}
-
-template <typename KeyType, typename ValueType>
-void TMap<KeyType, ValueType>::GenerateValueArray(TArray<ValueType>& OutValues) const
-{
-	OutValues.Reset(Num());
-	for (const FPair& Pair : *this)
-	{
-		OutValues.Add(Pair.Value);
-	}
 }

@@ -49,7 +49,6 @@ public:
 	FStringView Mid(int32 Position, int32 CharCount = MAX_int32) const;
 
 	void RemovePrefix(int32 CharCount) { *this = RightChop(CharCount); }
-	void RemoveSuffix(int32 CharCount) { *this = LeftChop(CharCount); }
 
 	FStringView TrimStart() const;
 	FStringView TrimEnd() const;

@@ -162,8 +162,6 @@ public:
 	static FString PrintfImpl(const TCHAR* Format, FVarArgs Arguments);
 
 	static FString FromInt(int32 Number);
-	// The shortest text that reads back as the same number, with at least one digit after the point.
-	static FString SanitizeFloat(double Number);
 	static FString Chr(TCHAR Character) { return FString(1, &Character); }
 	static FString ChrN(int32 Count, TCHAR Character);
 

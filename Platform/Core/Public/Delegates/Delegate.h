@@ -11,19 +11,16 @@
 #define DECLARE_DELEGATE_OneParam(Name, ...) using Name = TDelegate<void(__VA_ARGS__)>
 #define DECLARE_DELEGATE_TwoParams(Name, ...) using Name = TDelegate<void(__VA_ARGS__)>
 #define DECLARE_DELEGATE_ThreeParams(Name, ...) using Name = TDelegate<void(__VA_ARGS__)>
-#define DECLARE_DELEGATE_FourParams(Name, ...) using Name = TDelegate<void(__VA_ARGS__)>
 
 #define DECLARE_DELEGATE_RetVal(Ret, Name) using Name = TDelegate<Ret()>
 #define DECLARE_DELEGATE_RetVal_OneParam(Ret, Name, ...) using Name = TDelegate<Ret(__VA_ARGS__)>
 #define DECLARE_DELEGATE_RetVal_TwoParams(Ret, Name, ...) using Name = TDelegate<Ret(__VA_ARGS__)>
 #define DECLARE_DELEGATE_RetVal_ThreeParams(Ret, Name, ...) using Name = TDelegate<Ret(__VA_ARGS__)>
-#define DECLARE_DELEGATE_RetVal_FourParams(Ret, Name, ...) using Name = TDelegate<Ret(__VA_ARGS__)>
 
 #define DECLARE_MULTICAST_DELEGATE(Name) using Name = TMulticastDelegate<void()>
 #define DECLARE_MULTICAST_DELEGATE_OneParam(Name, ...) using Name = TMulticastDelegate<void(__VA_ARGS__)>
 #define DECLARE_MULTICAST_DELEGATE_TwoParams(Name, ...) using Name = TMulticastDelegate<void(__VA_ARGS__)>
 #define DECLARE_MULTICAST_DELEGATE_ThreeParams(Name, ...) using Name = TMulticastDelegate<void(__VA_ARGS__)>
-#define DECLARE_MULTICAST_DELEGATE_FourParams(Name, ...) using Name = TMulticastDelegate<void(__VA_ARGS__)>
 
 DECLARE_DELEGATE(FSimpleDelegate);
 DECLARE_MULTICAST_DELEGATE(FSimpleMulticastDelegate);

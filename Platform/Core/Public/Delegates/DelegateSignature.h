@@ -100,13 +100,6 @@ public:
 		return CreateSP(SharedOf(InObject), InFunc, ::Forward<VarTypes>(Vars)...);
 	}
 
-	template <class UserClass, typename FunctorType, typename... VarTypes>
-	static TDelegate CreateSPLambda(UserClass* InObject, FunctorType&& InFunctor, VarTypes&&... Vars)
-	{
-		return Make(TSharedDelegateObject<UserClass>(SharedOf(InObject)), std::decay_t<FunctorType>(::Forward<FunctorType>(InFunctor)),
-			::Forward<VarTypes>(Vars)...);
-	}
-
 	// Holds the object weakly; also an object marked as garbage is skipped.
 	template <class UserClass, typename... VarTypes>
 	static TDelegate CreateUObject(UserClass* InObject, TMethod<UserClass, VarTypes...> InFunc, VarTypes&&... Vars)
@@ -127,28 +120,10 @@ public:
 			::Forward<VarTypes>(Vars)...);
 	}
 
-	template <typename... VarTypes>
-	void BindStatic(TFunctionPtr<VarTypes...> InFunc, VarTypes&&... Vars)
-	{
-		*this = CreateStatic(InFunc, ::Forward<VarTypes>(Vars)...);
-	}
-
 	template <typename FunctorType, typename... VarTypes>
 	void BindLambda(FunctorType&& InFunctor, VarTypes&&... Vars)
 	{
 		*this = CreateLambda(::Forward<FunctorType>(InFunctor), ::Forward<VarTypes>(Vars)...);
-	}
-
-	template <class UserClass, typename... VarTypes>
-	void BindRaw(UserClass* InObject, TMethod<UserClass, VarTypes...> InFunc, VarTypes&&... Vars)
-	{
-		*this = CreateRaw(InObject, InFunc, ::Forward<VarTypes>(Vars)...);
-	}
-
-	template <class UserClass, typename... VarTypes>
-	void BindRaw(UserClass* InObject, TConstMethod<UserClass, VarTypes...> InFunc, VarTypes&&... Vars)
-	{
-		*this = CreateRaw(InObject, InFunc, ::Forward<VarTypes>(Vars)...);
 	}
 
 	template <class UserClass, typename... VarTypes>

@@ -33,11 +33,6 @@ public:
 	FDelegateHandle Add(FDelegate&& InNewDelegate) { return AddDelegate(::MoveTemp(InNewDelegate)); }
 	FDelegateHandle Add(const FDelegate& InNewDelegate) { return AddDelegate(InNewDelegate); }
 
-	template <typename... ArgTypes>
-	FDelegateHandle AddStatic(ArgTypes&&... Args)
-	{
-		return Add(FDelegate::CreateStatic(::Forward<ArgTypes>(Args)...));
-	}
 	template <typename FunctorType, typename... VarTypes>
 	FDelegateHandle AddLambda(FunctorType&& InFunctor, VarTypes&&... Vars)
 	{
@@ -48,12 +43,6 @@ public:
 	{
 		return Add(FDelegate::CreateWeakLambda(InObject, ::Forward<FunctorType>(InFunctor), ::Forward<VarTypes>(Vars)...));
 	}
-	template <class UserClass, typename FunctorType, typename... VarTypes>
-	FDelegateHandle AddSPLambda(UserClass* InObject, FunctorType&& InFunctor, VarTypes&&... Vars)
-	{
-		return Add(FDelegate::CreateSPLambda(InObject, ::Forward<FunctorType>(InFunctor), ::Forward<VarTypes>(Vars)...));
-	}
-
 	// Like the delegate's CreateRaw, CreateSP and CreateUObject.
 	template <class UserClass, typename... VarTypes>
 	FDelegateHandle AddRaw(

@@ -29,7 +29,6 @@ class IPlugin
 public:
 	virtual ~IPlugin() = default;
 	virtual const FString& GetName() const = 0;
-	virtual const FString& GetDescriptorFileName() const = 0;
 	// The folder of the descriptor, absolute.
 	virtual FString GetBaseDir() const = 0;
 	virtual const FPluginDescriptor& GetDescriptor() const = 0;

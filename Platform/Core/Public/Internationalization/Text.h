@@ -43,13 +43,9 @@ public:
 	// The reference holds until the culture changes or the text goes.
 	const FString& ToString() const;
 	bool IsEmpty() const { return ToString().IsEmpty(); }
-	bool IsEmptyOrWhitespace() const { return ToString().TrimStart().IsEmpty(); }
 
 	// By what is shown, letter case counting.
 	bool EqualTo(const FText& Other) const;
-	int32 CompareTo(const FText& Other) const;
-	// Whether both share one text, or have one identity: namespace, key and source.
-	bool IdenticalTo(const FText& Other) const;
 
 private:
 	explicit FText(TSharedRef<FTextData> InData);

@@ -16,8 +16,6 @@ public:
 
 	const FName& GetCategoryName() const { return Name; }
 	bool IsSuppressed(ELogVerbosity::Type Level) const { return Level > Verbosity; }
-	ELogVerbosity::Type GetVerbosity() const { return Verbosity; }
-	void SetVerbosity(ELogVerbosity::Type Level) { Verbosity = Level; }
 
 private:
 	FName Name;

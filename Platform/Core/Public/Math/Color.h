@@ -22,8 +22,6 @@ struct FColor
 	{
 	}
 
-	// "RRGGBB" or "RRGGBBAA", with or without "#"; transparent black for anything else.
-	static FColor FromHex(const FString& HexString);
 	FString ToHex() const;
 
 	static const FColor White;
@@ -56,7 +54,6 @@ struct FLinearColor
 
 	// Reads sRGB.
 	FLinearColor(const FColor& Color);
-	static FLinearColor FromSRGBColor(const FColor& Color) { return FLinearColor(Color); }
 
 	// Clamps each channel. Without bSRGB the numbers are only scaled.
 	FColor ToFColor(bool bSRGB) const;
@@ -75,8 +72,6 @@ struct FLinearColor
 	static const FLinearColor Transparent;
 	static const FLinearColor Red;
 	static const FLinearColor Green;
-	static const FLinearColor Blue;
-	static const FLinearColor Yellow;
 
 	friend constexpr bool operator==(const FLinearColor&, const FLinearColor&) = default;
 };
@@ -87,5 +82,3 @@ inline constexpr FLinearColor FLinearColor::Black{0.0f, 0.0f, 0.0f};
 inline constexpr FLinearColor FLinearColor::Transparent{0.0f, 0.0f, 0.0f, 0.0f};
 inline constexpr FLinearColor FLinearColor::Red{1.0f, 0.0f, 0.0f};
 inline constexpr FLinearColor FLinearColor::Green{0.0f, 1.0f, 0.0f};
-inline constexpr FLinearColor FLinearColor::Blue{0.0f, 0.0f, 1.0f};
-inline constexpr FLinearColor FLinearColor::Yellow{1.0f, 1.0f, 0.0f};

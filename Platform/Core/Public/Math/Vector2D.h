@@ -38,7 +38,6 @@ struct TVector2
 	}
 
 	static const TVector2 ZeroVector;
-	static const TVector2 UnitVector;
 	static constexpr TVector2 Zero() { return TVector2(); }
 
 	constexpr TVector2 operator+(const TVector2& V) const { return {X + V.X, Y + V.Y}; }
@@ -57,7 +56,6 @@ struct TVector2
 	T Size() const { return std::sqrt(SizeSquared()); }
 	constexpr T SizeSquared() const { return X * X + Y * Y; }
 	constexpr bool IsZero() const { return X == 0 && Y == 0; }
-	bool IsNearlyZero(T Tolerance = T(UE_KINDA_SMALL_NUMBER)) const { return Equals(TVector2(), Tolerance); }
 	bool Equals(const TVector2& V, T Tolerance = T(UE_KINDA_SMALL_NUMBER)) const
 	{
 		return FMath::Abs(X - V.X) <= Tolerance && FMath::Abs(Y - V.Y) <= Tolerance;
@@ -68,16 +66,6 @@ struct TVector2
 
 template <typename T>
 inline constexpr TVector2<T> TVector2<T>::ZeroVector = TVector2<T>(0, 0);
-template <typename T>
-inline constexpr TVector2<T> TVector2<T>::UnitVector = TVector2<T>(1, 1);
 
 using FVector2D = TVector2<double>;
 using FVector2f = TVector2<float>;
-
-struct FIntPoint
-{
-	int32 X = 0;
-	int32 Y = 0;
-
-	friend constexpr bool operator==(const FIntPoint&, const FIntPoint&) = default;
-};

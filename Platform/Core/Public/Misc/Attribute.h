@@ -79,7 +79,6 @@ public:
 
 	bool IsSet() const { return bIsSet; }
 	bool IsBound() const { return Getter.IsBound(); }
-	const FGetter& GetBinding() const { return Getter; }
 
 private:
 	mutable ObjectType Value{};

@@ -26,17 +26,3 @@
 	{                                                                                                                                      \
 		return Lhs = Lhs & Rhs;                                                                                                            \
 	}
-
-template <typename Enum>
-constexpr bool EnumHasAnyFlags(Enum Flags, Enum Contains)
-{
-	using Bits = std::underlying_type_t<Enum>;
-	return (static_cast<Bits>(Flags) & static_cast<Bits>(Contains)) != 0;
-}
-
-template <typename Enum>
-constexpr bool EnumHasAllFlags(Enum Flags, Enum Contains)
-{
-	using Bits = std::underlying_type_t<Enum>;
-	return (static_cast<Bits>(Flags) & static_cast<Bits>(Contains)) == static_cast<Bits>(Contains);
-}

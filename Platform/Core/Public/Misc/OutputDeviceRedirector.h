@@ -19,7 +19,8 @@ public:
 	void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;
 
 private:
-	std::mutex Mutex;
+	// A check that fails inside a device is logged too.
+	std::recursive_mutex Mutex;
 	TArray<FOutputDevice*> Devices;
 };
 

@@ -4,7 +4,7 @@
 
 #include "Containers/UnrealString.h"
 
-// Paths use slashes. Nothing here but FileExists and DirectoryExists looks at the disk.
+// Paths use slashes. Nothing here but FileExists looks at the disk.
 class FPaths
 {
 public:
@@ -22,7 +22,6 @@ public:
 	}
 
 	static bool FileExists(const FString& InPath);
-	static bool DirectoryExists(const FString& InPath);
 
 	// "/a/b.txt" gives "/a", "b.txt", "b" and "txt".
 	static FString GetPath(const FString& InPath);

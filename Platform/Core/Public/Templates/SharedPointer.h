@@ -58,8 +58,6 @@ public:
 	ObjectType& Get() const { return *Object; }
 	ObjectType& operator*() const { return *Object; }
 	ObjectType* operator->() const { return Object.get(); }
-	TSharedPtr<ObjectType> ToSharedPtr() const { return *this; }
-	TWeakPtr<ObjectType> ToWeakPtr() const { return *this; }
 	int32 GetSharedReferenceCount() const { return static_cast<int32>(Object.use_count()); }
 
 	template <class OtherType>
@@ -155,9 +153,7 @@ public:
 		return TSharedRef<ObjectType>(Object);
 	}
 
-	TWeakPtr<ObjectType> ToWeakPtr() const { return *this; }
 	void Reset() { Object.reset(); }
-	bool IsUnique() const { return Object.use_count() == 1; }
 	int32 GetSharedReferenceCount() const { return static_cast<int32>(Object.use_count()); }
 
 	template <class OtherType>
@@ -189,8 +185,6 @@ private:
 	friend class TWeakPtr;
 	template <class To, class From>
 	friend TSharedPtr<To> StaticCastSharedPtr(const TSharedPtr<From>& Ptr);
-	template <class To, class From>
-	friend TSharedPtr<To> ConstCastSharedPtr(const TSharedPtr<From>& Ptr);
 };
 
 // Watches an object without owning it.
@@ -276,8 +270,6 @@ public:
 		return Result;
 	}
 
-	bool DoesSharedInstanceExist() const { return !this->weak_from_this().expired(); }
-
 protected:
 	template <class OtherType>
 	static TSharedRef<OtherType> SharedThis(OtherType* ThisPtr)
@@ -302,12 +294,6 @@ template <class To, class From>
 TSharedRef<To> ConstCastSharedRef(const TSharedRef<From>& Ref)
 {
 	return TSharedRef<To>(std::const_pointer_cast<To>(Ref.Object));
-}
-
-template <class To, class From>
-TSharedPtr<To> ConstCastSharedPtr(const TSharedPtr<From>& Ptr)
-{
-	return TSharedPtr<To>(std::const_pointer_cast<To>(Ptr.Object));
 }
 
 template <class ObjectType>

@@ -26,12 +26,7 @@ public:
 	explicit FName(FStringView Name);
 
 	FString ToString() const { return FString(GetView()); }
-	void AppendString(FString& Out) const { Out.Append(GetView()); }
 	bool IsNone() const { return Entry == nullptr; }
-
-	// By the letters, ignoring case.
-	int32 Compare(const FName& Other) const { return GetView().Compare(Other.GetView(), ESearchCase::IgnoreCase); }
-	bool LexicalLess(const FName& Other) const { return Compare(Other) < 0; }
 
 	friend bool operator==(const FName& Lhs, const FName& Rhs) { return Lhs.Entry == Rhs.Entry; }
 	friend bool operator==(const FName& Lhs, EName) { return Lhs.IsNone(); }

@@ -43,4 +43,3 @@ bool IsValid(const UObject* Object);
 // Destroys what neither the root set nor an object with one of these flags reaches. Runs between events only: plain pointers on the stack
 // do not keep anything.
 void CollectGarbage(EObjectFlags KeepFlags = GARBAGE_COLLECTION_KEEPFLAGS);
-bool IsGarbageCollecting();

@@ -38,7 +38,6 @@ public:
 
 	// Its own, else the display name of the tab's spawner.
 	FText GetTabLabel() const { return Label.IsSet() ? Label.Get() : DefaultLabel.Get(); }
-	void SetLabel(const TAttribute<FText>& InTabLabel) { Label = InTabLabel; }
 
 	bool IsForeground() const;
 	// Closes it. False where it is not open.

@@ -1,0 +1,161 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Accessibility/AccessibleHost.h"
+
+#include "Accessibility/AccessibleWidget.h"
+#include "DesktopApplication.h"
+#include "Framework/Application/SlateApplication.h"
+#include "QSlateWidget.h"
+#include "Widgets/SWindow.h"
+
+FAccessibleHost::FAccessibleHost(QSlateWidget* InHost)
+	: QAccessibleWidget(InHost, QAccessible::Client)
+	, Host(*InHost)
+{
+}
+
+FAccessibleHost::~FAccessibleHost()
+{
+	for (const auto& [Widget, Entry] : Entries)
+	{
+		QAccessible::deleteAccessibleInterface(Entry.Id);
+	}
+}
+
+QAccessibleInterface* FAccessibleHost::Make(const QString&, QObject* Object)
+{
+	QSlateWidget* Host = dynamic_cast<QSlateWidget*>(Object);
+	return Host ? new FAccessibleHost(Host) : nullptr;
+}
+
+void FAccessibleHost::AnnounceFocus(QSlateWidget& Host)
+{
+	if (!QAccessible::isActive())
+	{
+		return;
+	}
+	FAccessibleHost* Self = dynamic_cast<FAccessibleHost*>(QAccessible::queryAccessibleInterface(&Host));
+	QAccessibleInterface* Focused = Self ? Self->focusChild() : nullptr;
+	const TSharedPtr<SWidget> Widget = FSlateApplication::Get().GetKeyboardFocusedWidget();
+	if (Focused && Self->AnnouncedFocus.Pin() != Widget)
+	{
+		QAccessibleEvent Event(Focused, QAccessible::Focus);
+		QAccessible::updateAccessibility(&Event);
+	}
+	if (Self)
+	{
+		Self->AnnouncedFocus = Widget;
+	}
+}
+
+void FAccessibleHost::Update() const
+{
+	const int64 Frame = FDesktopApplication::Get().GetFrameLoop().GetStatistics().NumFrames;
+	if (FrameOfChildren == Frame)
+	{
+		return;
+	}
+	FrameOfChildren = Frame;
+	Children.Empty();
+	Collect(Host.GetWindow());
+	DropDead();
+}
+
+void FAccessibleHost::Collect(const TSharedRef<SWidget>& Widget) const
+{
+	if (!Widget->GetVisibility().IsVisible())
+	{
+		return;
+	}
+	const QAccessible::Role Role = FAccessibleWidget::FindRole(*Widget);
+	if (Role != QAccessible::NoRole)
+	{
+		Children.Add(FindOrAdd(Widget));
+	}
+	if (Role == QAccessible::Button || Role == QAccessible::Link)
+	{
+		// What it holds is its name.
+		return;
+	}
+	FChildren& Inner = *Widget->GetChildren();
+	for (int32 Index = 0; Index < Inner.Num(); ++Index)
+	{
+		Collect(Inner.GetChildAt(Index));
+	}
+}
+
+FAccessibleWidget* FAccessibleHost::FindOrAdd(const TSharedRef<SWidget>& Widget) const
+{
+	FEntry& Entry = Entries[&*Widget];
+	// Another widget may have come to stand at the same address.
+	if (!Entry.Widget.IsValid())
+	{
+		if (Entry.Id)
+		{
+			QAccessible::deleteAccessibleInterface(Entry.Id);
+		}
+		FAccessibleWidget* Interface = new FAccessibleWidget(Host, Widget);
+		Entry = {Widget, Interface, QAccessible::registerAccessibleInterface(Interface)};
+	}
+	return Entry.Interface;
+}
+
+void FAccessibleHost::DropDead() const
+{
+	std::erase_if(Entries,
+		[](const auto& Each)
+		{
+			const bool bDead = !Each.second.Widget.IsValid();
+			if (bDead)
+			{
+				QAccessible::deleteAccessibleInterface(Each.second.Id);
+			}
+			return bDead;
+		});
+}
+
+int FAccessibleHost::childCount() const
+{
+	Update();
+	return Children.Num();
+}
+
+QAccessibleInterface* FAccessibleHost::child(int Index) const
+{
+	Update();
+	return Children.IsValidIndex(Index) ? Children[Index] : nullptr;
+}
+
+int FAccessibleHost::indexOfChild(const QAccessibleInterface* Child) const
+{
+	Update();
+	return Children.IndexOfByPredicate([Child](const FAccessibleWidget* Each) { return Each == Child; });
+}
+
+QAccessibleInterface* FAccessibleHost::childAt(int X, int Y) const
+{
+	Update();
+	// The last one is drawn uppermost.
+	for (int32 Index = Children.Num() - 1; Index >= 0; --Index)
+	{
+		if (Children[Index]->rect().contains(X, Y))
+		{
+			return Children[Index];
+		}
+	}
+	return nullptr;
+}
+
+QAccessibleInterface* FAccessibleHost::focusChild() const
+{
+	Update();
+	const TSharedPtr<SWidget> Focused = FSlateApplication::Get().GetKeyboardFocusedWidget();
+	for (FAccessibleWidget* Child : Children)
+	{
+		if (Focused && Child->Shows(Focused.Get()))
+		{
+			return Child;
+		}
+	}
+	return nullptr;
+}

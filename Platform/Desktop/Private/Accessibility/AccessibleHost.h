@@ -1,0 +1,57 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Containers/Array.h"
+#include "Templates/SharedPointer.h"
+
+#include <QAccessibleWidget>
+#include <unordered_map>
+
+class FAccessibleWidget;
+class QSlateWidget;
+class SWidget;
+
+/**
+ * What assistive technology sees of a host: in reading order, and without the containers around them, the texts, buttons, links and fields
+ * that are not hidden.
+ */
+class FAccessibleHost : public QAccessibleWidget
+{
+public:
+	explicit FAccessibleHost(QSlateWidget* InHost);
+	~FAccessibleHost() override;
+
+	/** A factory for QAccessible. */
+	static QAccessibleInterface* Make(const QString& ClassName, QObject* Object);
+
+	/** Tells that the focus moved since the last call. Costs nothing while nobody listens. */
+	static void AnnounceFocus(QSlateWidget& Host);
+
+	int childCount() const override;
+	QAccessibleInterface* child(int Index) const override;
+	int indexOfChild(const QAccessibleInterface* Child) const override;
+	QAccessibleInterface* childAt(int X, int Y) const override;
+	QAccessibleInterface* focusChild() const override;
+
+private:
+	struct FEntry
+	{
+		TWeakPtr<SWidget> Widget;
+		/** Owned by QAccessible's cache under this id. */
+		FAccessibleWidget* Interface = nullptr;
+		QAccessible::Id Id = 0;
+	};
+
+	/** Finds the widgets anew once a frame has run since. */
+	void Update() const;
+	void Collect(const TSharedRef<SWidget>& Widget) const;
+	FAccessibleWidget* FindOrAdd(const TSharedRef<SWidget>& Widget) const;
+	void DropDead() const;
+
+	QSlateWidget& Host;
+	mutable std::unordered_map<const SWidget*, FEntry> Entries;
+	mutable TArray<FAccessibleWidget*> Children;
+	mutable int64 FrameOfChildren = -1;
+	mutable TWeakPtr<SWidget> AnnouncedFocus;
+};

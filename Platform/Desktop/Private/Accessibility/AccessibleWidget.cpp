@@ -1,0 +1,160 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Accessibility/AccessibleWidget.h"
+
+#include "Framework/Application/SlateApplication.h"
+#include "QSlateWidget.h"
+#include "QtConversion.h"
+#include "Widgets/Input/SHyperlink.h"
+#include "Widgets/SWindow.h"
+#include "Widgets/Text/SMultiLineEditableText.h"
+
+static const SMultiLineEditableText* AsField(const SWidget& Widget)
+{
+	const SMultiLineEditableText* Text = dynamic_cast<const SMultiLineEditableText*>(&Widget);
+	return Text && !Text->IsTextReadOnly() ? Text : nullptr;
+}
+
+static QString ReadAll(SWidget& Widget)
+{
+	QStringList Texts = {ToQString(Widget.GetShownText())};
+	FChildren& Children = *Widget.GetChildren();
+	for (int32 Index = 0; Index < Children.Num(); ++Index)
+	{
+		Texts.append(ReadAll(*Children.GetChildAt(Index)));
+	}
+	Texts.removeAll(QString());
+	return Texts.join(QLatin1Char(' '));
+}
+
+static bool IsReallyEnabled(const TSharedPtr<SWidget>& Widget)
+{
+	return !Widget || (Widget->IsEnabled() && IsReallyEnabled(Widget->GetParentWidget()));
+}
+
+FAccessibleWidget::FAccessibleWidget(QSlateWidget& InHost, const TSharedRef<SWidget>& InWidget)
+	: Host(InHost)
+	, Widget(InWidget)
+{
+}
+
+QAccessible::Role FAccessibleWidget::FindRole(const SWidget& Widget)
+{
+	if (dynamic_cast<const SHyperlink*>(&Widget))
+	{
+		return QAccessible::Link;
+	}
+	if (dynamic_cast<const SButton*>(&Widget))
+	{
+		return QAccessible::Button;
+	}
+	if (AsField(Widget))
+	{
+		return QAccessible::EditableText;
+	}
+	return Widget.GetShownText().IsEmpty() ? QAccessible::NoRole : QAccessible::StaticText;
+}
+
+QWindow* FAccessibleWidget::window() const
+{
+	return Host.window()->windowHandle();
+}
+
+QAccessibleInterface* FAccessibleWidget::parent() const
+{
+	return QAccessible::queryAccessibleInterface(&Host);
+}
+
+QAccessible::Role FAccessibleWidget::role() const
+{
+	const TSharedPtr<SWidget> Shown = Widget.Pin();
+	return Shown ? FindRole(*Shown) : QAccessible::NoRole;
+}
+
+QString FAccessibleWidget::text(QAccessible::Text Kind) const
+{
+	const TSharedPtr<SWidget> Shown = Widget.Pin();
+	if (!Shown)
+	{
+		return QString();
+	}
+	const bool bField = AsField(*Shown) != nullptr;
+	if (Kind == QAccessible::Value && bField)
+	{
+		return ToQString(Shown->GetShownText());
+	}
+	if (Kind != QAccessible::Name)
+	{
+		return QString();
+	}
+	const QString Given = ToQString(Shown->GetAccessibleText().ToString());
+	return !Given.isEmpty() ? Given : bField ? ToQString(Shown->GetHint()) : ReadAll(*Shown);
+}
+
+QRect FAccessibleWidget::rect() const
+{
+	const TSharedPtr<SWidget> Shown = Widget.Pin();
+	if (!Shown)
+	{
+		return QRect();
+	}
+	const FSlateRect Pixels = Shown->GetCachedGeometry().GetRenderBoundingRect();
+	const double Scale = Host.GetWindow()->GetDPIScaleFactor();
+	const QRectF Units(QPointF(Pixels.Left, Pixels.Top) / Scale, QPointF(Pixels.Right, Pixels.Bottom) / Scale);
+	return Units.toRect().translated(Host.mapToGlobal(QPoint(0, 0)));
+}
+
+QAccessible::State FAccessibleWidget::state() const
+{
+	QAccessible::State State;
+	const TSharedPtr<SWidget> Shown = Widget.Pin();
+	if (!Shown)
+	{
+		State.invalid = true;
+		return State;
+	}
+	const bool bText = dynamic_cast<const SMultiLineEditableText*>(&*Shown) != nullptr;
+	State.disabled = !IsReallyEnabled(Shown);
+	State.focusable = Shown->SupportsKeyboardFocus();
+	State.focused = Shown->HasKeyboardFocus();
+	State.editable = AsField(*Shown) != nullptr;
+	State.multiLine = bText;
+	State.readOnly = bText && !State.editable;
+	State.offscreen = !rect().intersects(QRect(Host.mapToGlobal(QPoint(0, 0)), Host.size()));
+	return State;
+}
+
+void* FAccessibleWidget::interface_cast(QAccessible::InterfaceType Type)
+{
+	return Type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+}
+
+QStringList FAccessibleWidget::actionNames() const
+{
+	QStringList Names;
+	if (role() == QAccessible::Button || role() == QAccessible::Link)
+	{
+		Names.append(pressAction());
+	}
+	if (state().focusable)
+	{
+		Names.append(setFocusAction());
+	}
+	return Names;
+}
+
+void FAccessibleWidget::doAction(const QString& ActionName)
+{
+	const TSharedPtr<SWidget> Shown = Widget.Pin();
+	if (!Shown || state().disabled || !actionNames().contains(ActionName))
+	{
+		return;
+	}
+	FSlateApplication& Application = FSlateApplication::Get();
+	Application.SetKeyboardFocus(Shown, EFocusCause::Navigation);
+	if (ActionName == pressAction())
+	{
+		Application.ProcessKeyDownEvent(Host.GetWindow(), FKeyEvent(EKeys::Enter));
+		Application.ProcessKeyUpEvent(Host.GetWindow(), FKeyEvent(EKeys::Enter));
+	}
+}
