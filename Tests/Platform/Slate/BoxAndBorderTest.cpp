@@ -89,8 +89,8 @@ TEST(Box, ABoundLimitFollowsItsGetter)
 TEST(Border, DrawsItsBrushBehindItsContent)
 {
 	const FSlateColorBrush Red(FLinearColor::Red);
-	const FSlateColorBrush Green(FLinearColor::Green);
-	const FSlateColorBrush Blue(FLinearColor::Blue);
+	const FSlateColorBrush Green(FLinearColor(0.0f, 1.0f, 0.0f));
+	const FSlateColorBrush Blue(FLinearColor(0.0f, 0.0f, 1.0f));
 	const TSharedRef<SBorder> Inner = SNew(SBorder).BorderImage(&Green);
 	const TSharedRef<SBorder> Outer = SNew(SBorder).BorderImage(&Red).Padding(FMargin(10.0f, 5.0f, 10.0f, 5.0f))[Inner];
 	FUserDriver User(Outer, FVector2D(100.0, 50.0), 2.0f, EDriverFonts::Even);

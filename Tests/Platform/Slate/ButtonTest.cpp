@@ -20,8 +20,8 @@ FButtonStyle MakeStyle()
 {
 	FButtonStyle Style;
 	Style.SetNormal(FSlateColorBrush(FLinearColor::Red))
-		.SetHovered(FSlateColorBrush(FLinearColor::Green))
-		.SetPressed(FSlateColorBrush(FLinearColor::Blue))
+		.SetHovered(FSlateColorBrush(FLinearColor(0.0f, 1.0f, 0.0f)))
+		.SetPressed(FSlateColorBrush(FLinearColor(0.0f, 0.0f, 1.0f)))
 		.SetDisabled(FSlateColorBrush(FLinearColor::White))
 		.SetNormalPadding(FMargin(4.0f, 2.0f, 4.0f, 2.0f))
 		.SetPressedPadding(FMargin(4.0f, 3.0f, 4.0f, 1.0f));
@@ -187,7 +187,7 @@ TEST(ButtonContent, ForegroundColorsFollowTheState)
 	Style.SetNormal(FSlateColorBrush(FLinearColor::Black))
 		.SetHovered(FSlateColorBrush(FLinearColor::Black))
 		.SetNormalForeground(FLinearColor::Red)
-		.SetHoveredForeground(FLinearColor::Green);
+		.SetHoveredForeground(FLinearColor(0.0f, 1.0f, 0.0f));
 	const FSlateColorBrush White(FLinearColor::White);
 	// clang-format off
 	FUserDriver User(

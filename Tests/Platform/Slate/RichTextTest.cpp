@@ -181,7 +181,7 @@ TEST_F(FRichText, RunsTakeTheStyleOfTheirNameAndShareABaseline)
 TEST_F(FRichText, LinesAreDrawnUnderAndThroughLetters)
 {
 	FTextBlockStyle Link = Style;
-	Link.SetUnderlineBrush(FSlateColorBrush(FLinearColor::Blue));
+	Link.SetUnderlineBrush(FSlateColorBrush(FLinearColor(0.0f, 0.0f, 1.0f)));
 	StyleSet.Set("Link", Link);
 	FTextBlockStyle Struck = Style;
 	Struck.SetColorAndOpacity(FLinearColor::Red);
@@ -192,7 +192,7 @@ TEST_F(FRichText, LinesAreDrawnUnderAndThroughLetters)
 	ASSERT_EQ(Boxes.Num(), 2);
 	// Just under the baseline at 15, and through the middle of small letters. A strike has the color of its letters.
 	EXPECT_EQ(Boxes[0].Rect, FSlateRect(20.0f, 16.0f, 40.0f, 17.0f));
-	EXPECT_EQ(Boxes[0].Color, FLinearColor::Blue);
+	EXPECT_EQ(Boxes[0].Color, FLinearColor(0.0f, 0.0f, 1.0f));
 	EXPECT_EQ(Boxes[1].Rect, FSlateRect(50.0f, 10.0f, 70.0f, 11.0f));
 	EXPECT_EQ(Boxes[1].Color, FLinearColor::Red);
 }

@@ -18,7 +18,7 @@ namespace
 class ScrollBox : public testing::Test
 {
 protected:
-	ScrollBox() { BarStyle.SetThickness(10.0f).SetNormalThumbImage(FSlateColorBrush(FLinearColor::Blue)); }
+	ScrollBox() { BarStyle.SetThickness(10.0f).SetNormalThumbImage(FSlateColorBrush(FLinearColor(0.0f, 0.0f, 1.0f))); }
 
 	TSharedRef<SBox> AddRow(float Height)
 	{
