@@ -6,7 +6,7 @@ namespace
 {
 // Least that keeps a contrast of 4.5 to 1 on all grounds of the theme.
 constexpr float SubduedOpacity = 0.65f;
-}
+} // namespace
 
 FWidgetStyle& FWidgetStyle::BlendColorAndOpacityTint(const FLinearColor& InTint)
 {
