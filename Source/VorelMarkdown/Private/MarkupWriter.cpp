@@ -111,26 +111,6 @@ void AddText(FString& Out, std::string_view Utf8, AddAsciiType AddAscii)
 }
 
 constexpr FStringView CloseTag = TEXTVIEW("</>");
-
-// Whether a line of code continues at the position such that reading placeholders back would find one that is not ours: "__NL__", or a
-// line's end "__NL" or "__NL_", which the placeholder of the newline behind it completes. Letter case does not count there.
-bool LooksLikePlaceholder(std::string_view Line, size_t Position)
-{
-	constexpr std::string_view Placeholder = "__NL__";
-	for (size_t Index = 0; Index < Placeholder.size(); ++Index)
-	{
-		if (Position + Index == Line.size())
-		{
-			return Index >= 4;
-		}
-		const char Byte = Line[Position + Index];
-		if (Byte != Placeholder[Index] && Byte != (Placeholder[Index] | 0x20))
-		{
-			return false;
-		}
-	}
-	return true;
-}
 } // namespace
 
 void FMarkupWriter::Text(const FMarkupStyle& Style, std::string_view Utf8)
@@ -184,12 +164,6 @@ void FMarkupWriter::CodeText(std::string_view Utf8)
 			{
 				Buffer.Add(TEXTVIEW("&lt;/&gt;"));
 				Position += 2;
-			}
-			else if (Utf8[Position] == '_' && LooksLikePlaceholder(Utf8, Position))
-			{
-				// The markup has no escape for its placeholder. An invisible word joiner keeps the code readable as it was written.
-				Buffer.Add(TEXTVIEW("__\u2060"));
-				++Position;
 			}
 			else
 			{

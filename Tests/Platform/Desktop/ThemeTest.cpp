@@ -85,7 +85,9 @@ TEST(ThemeContrast, ThePrimaryColorServesAsGroundAndAsLink)
 	EXPECT_GE(Contrast(ColorOf(TEXT("Colors.White")), Primary), 3.5f);
 	EXPECT_GE(Contrast(Primary, ColorOf(TEXT("Colors.AccentBlack"))), 3.5f);
 	EXPECT_GE(Contrast(Primary, ColorOf(TEXT("Colors.Dropdown"))), 3.5f);
-	EXPECT_GE(Contrast(ColorOf(TEXT("Colors.White")), ColorOf(TEXT("Colors.PrimaryPress"))), 3.5f);
+	EXPECT_GE(Contrast(Primary, ColorOf(TEXT("Colors.AccentGray"))), 3.5f);
+	EXPECT_GE(Contrast(ColorOf(TEXT("Colors.White")), ColorOf(TEXT("Colors.PrimaryHover"))), 4.5f);
+	EXPECT_GE(Contrast(ColorOf(TEXT("Colors.White")), ColorOf(TEXT("Colors.PrimaryPress"))), 4.5f);
 }
 
 TEST(ThemeContrast, GroundsCanBeToldApart)

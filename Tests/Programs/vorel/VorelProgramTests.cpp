@@ -148,3 +148,14 @@ TEST_F(VorelProgram, AScaleGivesMorePixelsToTheSameLayout)
 		EXPECT_TRUE(Read("a.txt").startsWith("SVorelAIView 0,0 800x300\n"));
 	}
 }
+
+TEST_F(VorelProgram, AnAssistantThatDoesNotAnswerGivesTheQuestionBack)
+{
+	Write("a.play", "open \"Vorel AI\"\nfocus \"Type your message here...\"\ntype \"Anybody there?\"\npress Enter\n"
+					"wait text \"Unexpected error!\" 30\nwait idle\nexpect no text \"Type your message here...\"\ntree \"a.txt\"\n");
+	// The port of a service that no machine offers any more.
+	const FProgramOutcome Outcome = Run({QStringLiteral("--offscreen"), QStringLiteral("--data-dir=data"),
+		QStringLiteral("--assistant=http://127.0.0.1:9"), QStringLiteral("--model=any"), QStringLiteral("--play=a.play")});
+	ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
+	EXPECT_EQ(Read("a.txt").count("\"Anybody there?\""), 2);
+}

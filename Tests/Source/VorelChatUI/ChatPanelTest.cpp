@@ -91,6 +91,19 @@ TEST_F(ChatPanel, RefusesWhileTheAssistantAnswers)
 	EXPECT_EQ(TakeCalls(), "SetCurrentChatMode(Reagent Lab) DeleteChatHistory(first)");
 }
 
+TEST_F(ChatPanel, ShowsTheToastsOfItsChildren)
+{
+	Client.StartTurn(TEXT("q"));
+	FUserDriver User(Panel, FVector2D(1000.0, 800.0));
+	User.Click(TEXT("Type your message here..."));
+	User.Type(TEXT("again"));
+	User.Press(TEXT("Enter"));
+	EXPECT_EQ(Toast(), "Please wait | AI is still responding. Let it finish before sending a new message.");
+	Client.FailTurn(TEXT("It broke."));
+	EXPECT_EQ(Toast(), "Unexpected error! | It broke.");
+	EXPECT_EQ(TakeCalls(), "CheckForUpdates()");
+}
+
 TEST_F(ChatPanel, ANewChatOpensInTheDefaultAgentMode)
 {
 	Client.AddMessage(EChatRole::User, TEXT("old"));

@@ -57,9 +57,9 @@ public:
 	}
 	ValueType& FindChecked(const KeyType& Key)
 	{
-		ValueType* Value = Find(Key);
-		check(Value != nullptr);
-		return *Value;
+		ValueType* Pair = Find(Key);
+		check(Pair != nullptr);
+		return *Pair;
 	}
 	const ValueType& FindChecked(const KeyType& Key) const { return const_cast<TMap*>(this)->FindChecked(Key); }
 	ValueType& operator[](const KeyType& Key) { return FindChecked(Key); }

@@ -14,7 +14,7 @@ inline constexpr uint32 Black = 0x0B0C0E;
 inline constexpr uint32 AccentBlack = 0x16181C;
 inline constexpr uint32 Header = 0x1D2025;
 inline constexpr uint32 Dropdown = 0x272A31;
-inline constexpr uint32 AccentGray = 0x3D424D;
+inline constexpr uint32 AccentGray = 0x2D3139;
 
 inline constexpr uint32 White = 0xFFFFFF;
 inline constexpr uint32 Foreground = 0xC8CCD4;
@@ -22,7 +22,7 @@ inline constexpr uint32 ForegroundHover = 0xFFFFFF;
 inline constexpr uint32 ForegroundInverted = 0x101215;
 
 inline constexpr uint32 Primary = 0x3B82F6;
-inline constexpr uint32 PrimaryHover = 0x4A8BF7;
+inline constexpr uint32 PrimaryHover = 0x3371E3;
 inline constexpr uint32 PrimaryPress = 0x2F6BDB;
 inline constexpr uint32 Secondary = 0x363B45;
 inline constexpr uint32 Hover = 0x454B57;

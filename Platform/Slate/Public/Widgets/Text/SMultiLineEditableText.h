@@ -59,7 +59,7 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
-	/** Builds all runs anew, also for the same text. */
+	/** Reads the text anew, also the same one: lines that did not change keep their runs, but for those with widgets. */
 	void SetText(const TAttribute<FText>& InText);
 	/** What was edited; of a read-only text the source, with its markup. */
 	FText GetText() const;
