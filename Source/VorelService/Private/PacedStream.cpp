@@ -2,6 +2,9 @@
 
 #include "PacedStream.h"
 
+// A moment of thought, in intervals: without it nobody would see that the question was taken before the answer stands there.
+static constexpr int ThinkingIntervals = 75;
+
 void FStopSignal::Stop()
 {
 	const std::lock_guard<std::mutex> Lock(Mutex);
@@ -24,5 +27,6 @@ FPacedStream::FPacedStream(std::vector<std::string> InEvents, std::chrono::milli
 
 const std::string* FPacedStream::GetNext()
 {
-	return StopSignal.Pause(Interval) ? &Events[NextEvent++] : nullptr;
+	const auto Pause = NextEvent == 0 ? ThinkingIntervals * Interval : Interval;
+	return StopSignal.Pause(Pause) ? &Events[NextEvent++] : nullptr;
 }

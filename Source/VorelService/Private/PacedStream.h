@@ -23,7 +23,7 @@ private:
 	bool bStopped = false;
 };
 
-// Hands out the events of one answer at an even pace. The stop signal must outlive it.
+// Hands out the events of one answer at an even pace, after a moment of thought. The stop signal must outlive it.
 class FPacedStream
 {
 public:
