@@ -205,6 +205,43 @@ TEST_F(FRichText, WrapsAcrossRuns)
 	EXPECT_EQ(Screen(), FString(TEXT("onetwoth\nree four")));
 }
 
+struct FColumnCase
+{
+	const TCHAR* Markup;
+	/** In letters. */
+	int32 Width;
+	const TCHAR* Grid;
+};
+
+class FTextColumns : public FRichText, public testing::WithParamInterface<FColumnCase>
+{
+};
+
+TEST_P(FTextColumns, CellsAndListItemsKeepTheirColumn)
+{
+	ShowMarkup(GetParam().Markup, {}, static_cast<float>(GetParam().Width) * Letter);
+	EXPECT_EQ(ReadScreen().ToGrid(Letter), FString(GetParam().Grid));
+	Focus();
+	Key(EKeys::A, Control());
+	Key(EKeys::C, Control());
+	EXPECT_EQ(Desktop->Clipboard, FString(GetParam().Markup).Replace(TEXT("<Colored>"), TEXT("")).Replace(TEXT("</>"), TEXT("")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Tables, FTextColumns,
+	testing::Values(FColumnCase{TEXT("a\tb\tc\n<Colored>long</>er\t\ty\ntext\nx\ty"), 40, TEXT("a       b  c\nlonger     y\ntext\nx  y")},
+		// What is wrapped stays in its column, and a column leaves a third of the width to the last one.
+		FColumnCase{TEXT("key\tone two three four\nk\tv"), 18, TEXT("key  one two three\n     four\nk    v")},
+		FColumnCase{TEXT("key\tabcdefghijkl"), 10, TEXT("key  abcde\n     fghij\n     kl")},
+		FColumnCase{TEXT("a word\tone two\nk\tv"), 12, TEXT("a word  one\n        two\nk       v")},
+		FColumnCase{TEXT("many words here\tone\nk\tv"), 12, TEXT("many words\nhere  one\nk       v")},
+		FColumnCase{TEXT("a\tb"), 1, TEXT("a\nb")}));
+
+INSTANTIATE_TEST_SUITE_P(Lists, FTextColumns,
+	testing::Values(
+		FColumnCase{TEXT("  \u2022 one two\n  12. <Colored>three</> four"), 11, TEXT("  \u2022 one two\n  12. three\n      four")},
+		FColumnCase{TEXT("  1. \u2022 one two"), 12, TEXT("  1. \u2022 one\n       two")},
+		FColumnCase{TEXT("  one two"), 6, TEXT("  one\n  two")}, FColumnCase{TEXT("1. one two"), 7, TEXT("1. one\ntwo")}));
+
 TEST_F(FRichText, TheFirstDecoratorThatSupportsARunMakesIt)
 {
 	const auto First = MakeShared<FWidgetDecorator>([](const FString&) { return MakeBox(50.0f, 30.0f); });
@@ -216,21 +253,39 @@ TEST_F(FRichText, TheFirstDecoratorThatSupportsARunMakesIt)
 	EXPECT_EQ(Text->GetShownText(), FString());
 }
 
-TEST_F(FRichText, WidgetsStandAmongTheWordsOnTheBaseline)
+TEST_F(FRichText, WidgetsStandAmongTheWordsOnTheBaselineAndWrapLikeWords)
 {
-	TArray<TSharedRef<SWidget>> Boxes;
-	const auto Decorator = MakeShared<FWidgetDecorator>(
-		[&Boxes](const FString&)
+	// The places of the boxes, 50 wide and 30 high; 15 of the 20 pixels of a letter are above the baseline.
+	const struct
+	{
+		const TCHAR* Markup;
+		float Width;
+		TArray<FVector2D> Places;
+	} Cases[] = {
+		{TEXT("ab<widget></><widget></>"), 130.0f, {{20.0, 0.0}, {70.0, 0.0}}},
+		{TEXT("ab<widget></><widget></>"), 110.0f, {{20.0, 0.0}, {0.0, 35.0}}},
+		{TEXT("ab <widget></> <widget></> cd"), 80.0f, {{30.0, 0.0}, {0.0, 35.0}}},
+		{TEXT("abc <widget></>"), 80.0f, {{0.0, 20.0}}},
+		{TEXT("abc<widget></>de"), 70.0f, {{0.0, 20.0}}},
+		// Too wide for the view, a box keeps its size and has its row for itself.
+		{TEXT("ab <widget></> cd <widget></>"), 40.0f, {{0.0, 20.0}, {0.0, 20.0 + 35.0 + 20.0}}},
+		{TEXT("\u05D0\u05D1 <widget></> \u05D2"), 200.0f, {{200.0 - 30.0 - 50.0, 0.0}}},
+	};
+	for (const auto& Case : Cases)
+	{
+		TArray<TSharedRef<SWidget>> Boxes;
+		const auto Make = [&Boxes](const FString&)
 		{
-			Boxes.Add(MakeBox(50.0f, 30.0f));
-			return Boxes.Last();
-		});
-	ShowMarkup(TEXT("ab<widget></><widget></>"), {Decorator}, 110.0f);
-	// 15 of the 20 pixels of a letter are above the baseline.
-	EXPECT_EQ(Boxes[0]->GetCachedGeometry().GetAbsolutePosition(), FVector2D(20.0, 0.0));
-	EXPECT_EQ(Boxes[1]->GetCachedGeometry().GetAbsolutePosition(), FVector2D(0.0, 35.0));
-	EXPECT_EQ(Text->GetDesiredSize(), FVector2D(120.0, 35.0 + 30.0));
-	EXPECT_EQ(Text->GetChildren()->Num(), 2);
+			return Boxes.Add_GetRef(MakeBox(50.0f, 30.0f));
+		};
+		ShowMarkup(Case.Markup, {MakeShared<FWidgetDecorator>(Make)}, Case.Width);
+		ASSERT_EQ(Boxes.Num(), Case.Places.Num());
+		for (int32 Index = 0; Index < Boxes.Num(); ++Index)
+		{
+			EXPECT_EQ(Boxes[Index]->GetCachedGeometry().GetAbsolutePosition(), Case.Places[Index]) << FString(Case.Markup);
+			EXPECT_EQ(Boxes[Index]->GetCachedGeometry().GetAbsoluteSize(), FVector2D(50.0, 30.0)) << FString(Case.Markup);
+		}
+	}
 }
 
 TEST_F(FRichText, AWidgetThatGrowsMovesTheWordsBehindIt)
@@ -243,7 +298,39 @@ TEST_F(FRichText, AWidgetThatGrowsMovesTheWordsBehindIt)
 	EXPECT_EQ(ReadScreen().GetRowLeft(0), 80.0f);
 }
 
-TEST_F(FRichText, AClickReachesTheWidgetAmongTheText)
+TEST_F(FRichText, TheMouseReachesTheWidgetsAmongTheText)
+{
+	FString Clicked;
+	TArray<TSharedRef<SWidget>> Buttons;
+	const auto MakeButton = [&](const FString& Name)
+	{
+		return Buttons.Add_GetRef(SNew(SButton).OnClicked_Lambda(
+			[&Clicked, Name]
+			{
+				Clicked += Name;
+				return FReply::Handled();
+			})[MakeBox(50.0f, 20.0f)]);
+	};
+	ShowMarkup(TEXT("ab<widget>1</>cd<widget>2</>\n<widget>3</>"), {MakeShared<FWidgetDecorator>(MakeButton)}, 90.0f);
+	for (const TSharedRef<SWidget>& Button : Buttons)
+	{
+		const FVector2D Place = Button->GetCachedGeometry().GetAbsolutePosition() + FVector2D(40.0, 10.0);
+		MoveMouse(static_cast<float>(Place.X), static_cast<float>(Place.Y));
+		EXPECT_TRUE(Button->IsHovered());
+		Press(static_cast<float>(Place.X), static_cast<float>(Place.Y));
+		Release();
+	}
+	EXPECT_EQ(Clicked, FString(TEXT("123")));
+	Click(0);
+	EXPECT_EQ(Clicked, FString(TEXT("123")));
+	EXPECT_TRUE(Text->HasKeyboardFocus());
+
+	Key(EKeys::A, Control());
+	Key(EKeys::C, Control());
+	EXPECT_EQ(Desktop->Clipboard, FString(TEXT("ab\u200Bcd\u200B\n\u200B")));
+}
+
+TEST_F(FRichText, WhatIsCutOffAtTheEdgeOfTheViewIsNotHit)
 {
 	int32 Clicks = 0;
 	const auto MakeButton = [&Clicks](const FString&)
@@ -253,14 +340,19 @@ TEST_F(FRichText, AClickReachesTheWidgetAmongTheText)
 			{
 				++Clicks;
 				return FReply::Handled();
-			})[MakeBox(50.0f, 20.0f)];
+			})[MakeBox(620.0f, 20.0f)];
 	};
-	ShowMarkup(TEXT("ab<widget></>cd"), {MakeShared<FWidgetDecorator>(MakeButton)});
-	Click(3);
+	const TSharedRef<FRichTextLayoutMarshaller> Marshaller =
+		FRichTextLayoutMarshaller::Create({MakeShared<FWidgetDecorator>(MakeButton)}, &StyleSet);
+	SAssignNew(Text, SMultiLineEditableText).Text(INVTEXT("<widget></>")).Marshaller(Marshaller).AutoWrapText(true);
+	Show(SNew(SBox).HAlign(HAlign_Left)[SNew(SBox).WidthOverride(300.0f)[Text.ToSharedRef()]]);
+	for (const float X : {290.0f, 310.0f})
+	{
+		Press(X, 10.0f);
+		Release();
+	}
 	EXPECT_EQ(Clicks, 1);
-	Click(0);
-	EXPECT_EQ(Clicks, 1);
-	EXPECT_TRUE(Text->HasKeyboardFocus());
+	EXPECT_GE(Text->GetChildren()->GetChildAt(0)->GetCachedGeometry().GetLocalSize().X, 620.0);
 }
 
 TEST_F(FRichText, EachTextMakesItsWidgetsAnew)

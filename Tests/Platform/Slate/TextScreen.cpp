@@ -192,6 +192,23 @@ FString FTextScreen::ToString() const
 	return Result;
 }
 
+FString FTextScreen::ToGrid(float LetterWidth) const
+{
+	FString Result;
+	for (const TArray<FCell>& Row : Rows)
+	{
+		FString Line;
+		for (const FCell& Cell : Row)
+		{
+			const int32 Column = FMath::RoundToInt(Cell.Left / LetterWidth);
+			Line += FString::ChrN(FMath::Max(Column - Line.Len(), 0), TEXT(' '));
+			Line += Cell.Letter == TEXT("\t") ? TEXT("") : *Cell.Letter;
+		}
+		Result += (Result.IsEmpty() ? TEXT("") : TEXT("\n")) + Line.TrimEnd();
+	}
+	return Result;
+}
+
 float FTextScreen::GetRowLeft(int32 Row) const
 {
 	return Rows[Row][0].Left;

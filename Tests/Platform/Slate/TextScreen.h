@@ -55,6 +55,8 @@ public:
 	FTextScreen(const FSlateDrawChunk& DisplayList, const FLinearColor& SelectionColor, float InRowHeight);
 
 	FString ToString() const;
+	/** The letters at their places in a grid of this width; without marks. */
+	FString ToGrid(float LetterWidth) const;
 	/** Where the letters of a row begin and end, in pixels. */
 	float GetRowLeft(int32 Row) const;
 	float GetRowRight(int32 Row) const;

@@ -57,7 +57,13 @@ private:
 		VisibleWidth = Visible > 0.0f ? X + Visible : VisibleWidth;
 		X += Width;
 		++UnitIndex;
-		if (Unit.bCanWrapAfter)
+		if (Unit.bIndents && X <= MaxWidth * FWrappedLine::MaxIndentShare)
+		{
+			// A new line would begin here just the same.
+			Indent = X;
+			LastBreak = {};
+		}
+		else if (Unit.bCanWrapAfter)
 		{
 			LastBreak = {UnitIndex, VisibleWidth};
 		}
@@ -140,11 +146,12 @@ private:
 		Line.Range = FTextRange(LineBegin, End);
 		Line.FirstUnit = FirstUnit;
 		Line.EndUnit = EndUnit;
+		Line.Indent = LineIndent;
 		Line.Width = Width;
 		PlaceVertically(Line);
 		LineBegin = End;
 		FirstUnit = UnitIndex;
-		X = VisibleWidth = 0.0f;
+		X = VisibleWidth = LineIndent = Indent;
 		LastBreak = {};
 	}
 
@@ -174,9 +181,12 @@ private:
 	/** The present line: where it begins, how wide it is with and without the blanks at its end. */
 	int32 LineBegin = 0;
 	int32 FirstUnit = 0;
+	float LineIndent = 0.0f;
 	float X = 0.0f;
 	float VisibleWidth = 0.0f;
 	FBreak LastBreak;
+	/** Where the next one begins. */
+	float Indent = 0.0f;
 	int32 UnitIndex = 0;
 };
 } // namespace

@@ -7,11 +7,16 @@
 /** One line as it is seen. Positions are in device pixels. */
 struct FWrappedLine
 {
+	/** How far in a line may begin, as a part of the width that it is wrapped at. */
+	static constexpr float MaxIndentShare = 2.0f / 3.0f;
+
 	FTextRange Range;
 	/** The units that it holds; the first and the last may be cut by the line's range. */
 	int32 FirstUnit = 0;
 	int32 EndUnit = 0;
-	/** Without the blanks at its end, which hang over the edge. */
+	/** Where its text begins: more than 0 where it goes on in a column of the line. */
+	float Indent = 0.0f;
+	/** With the indent, but without the blanks at its end, which hang over the edge. */
 	float Width = 0.0f;
 	/** From the top of the model line. */
 	int32 Top = 0;

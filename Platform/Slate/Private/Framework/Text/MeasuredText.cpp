@@ -10,6 +10,8 @@
 
 namespace
 {
+constexpr TCHAR ObjectReplacement = 0xFFFC;
+
 bool IsHangingBlank(TCHAR Character)
 {
 	return Character == TEXT(' ') || (u_isUWhiteSpace(Character) && Character != 0x00A0 && Character != 0x202F);
@@ -31,8 +33,10 @@ public:
 
 	void Cut()
 	{
-		Result.ParagraphLevel = TextBoundaries::FindLevels(Text, Levels);
-		TextBoundaries::FindLineBreaks(Text, Breaks);
+		const FString Marked = MarkObjects();
+		const FStringView Analyzed = Marked.IsEmpty() ? Text : FStringView(Marked);
+		Result.ParagraphLevel = TextBoundaries::FindLevels(Analyzed, Levels);
+		TextBoundaries::FindLineBreaks(Analyzed, Breaks);
 		Result.Units.Reserve(Breaks.Num());
 		for (int32 Begin = 0; Begin < Text.Len();)
 		{
@@ -41,6 +45,21 @@ public:
 	}
 
 private:
+	/** The text as it is to be analyzed; empty where that is the text itself. What stands for a widget must not glue it to a blank. */
+	FString MarkObjects() const
+	{
+		FString Marked;
+		for (const TSharedRef<IRun>& Run : Runs)
+		{
+			if (Run->GetRunAttributes() != ERunAttributes::SupportsText)
+			{
+				Marked = Marked.IsEmpty() ? FString(Text) : MoveTemp(Marked);
+				Marked[Run->GetTextRange().BeginIndex] = ObjectReplacement;
+			}
+		}
+		return Marked;
+	}
+
 	int32 AddUnit(int32 Begin)
 	{
 		Advance(Begin);
@@ -51,6 +70,7 @@ private:
 		Unit.Level = Levels[LevelIndex].Level;
 		Unit.bCanWrapAfter = Unit.End == Breaks[BreakIndex];
 		Measure(Unit);
+		Result.bHasTabs = Result.bHasTabs || Text[Begin] == TEXT('\t');
 		Result.Units.Add(Unit);
 		return Unit.End;
 	}

@@ -22,6 +22,8 @@ struct FTextUnit
 	uint8 BlankCount = 0;
 	uint8 Level = 0;
 	bool bCanWrapAfter = false;
+	/** Behind it a column begins, in which wrapped text goes on. */
+	bool bIndents = false;
 
 	FTextRange GetRange() const { return FTextRange(Begin, End); }
 	int32 GetVisibleEnd() const { return End - BlankCount; }
@@ -42,6 +44,7 @@ struct FMeasuredText
 	/** One for each run. */
 	TArray<FRunHeight> RunHeights;
 	uint8 ParagraphLevel = 0;
+	bool bHasTabs = false;
 
 	/** Of all units on one line, without the blanks at its end. */
 	float GetWidth() const;

@@ -34,6 +34,7 @@ void FRichTextLayoutMarshaller::MakeDirty()
 
 void FRichTextLayoutMarshaller::SetText(const FString& SourceString, FTextLayout& TargetTextLayout)
 {
+	TargetTextLayout.SetKeepsColumns(true);
 	const int32 UnchangedLength = FindUnchangedLength(SourceString, TargetTextLayout);
 	const int32 NumKnown = UnchangedLength > 0 ? Lines.Num() : 0;
 	int32 NumLines = 0;

@@ -2,6 +2,7 @@
 
 #include "Framework/Text/TextLayout.h"
 
+#include "TextColumns.h"
 #include "TextLine.h"
 
 #include <limits>
@@ -133,6 +134,15 @@ void FTextLayout::SetTextShapingMethod(ETextShapingMethod InMethod)
 	}
 }
 
+void FTextLayout::SetKeepsColumns(bool bInKeepsColumns)
+{
+	if (bKeepsColumns != bInKeepsColumns)
+	{
+		bKeepsColumns = bInKeepsColumns;
+		InvalidateMeasurements();
+	}
+}
+
 void FTextLayout::DirtyLine(int32 LineIndex)
 {
 	Lines[LineIndex]->bIsMeasured = false;
@@ -157,13 +167,22 @@ void FTextLayout::UpdateIfNeeded()
 	}
 	bNeedsUpdate = false;
 	OldLines.Reset();
+	const float Width = GetWrappingWidthInPixels();
+	for (const TSharedRef<FTextLine>& Line : Lines)
+	{
+		MeasureLine(*Line);
+	}
+	if (bKeepsColumns)
+	{
+		TextColumns::AlignTabs(Lines, Width);
+	}
 	TextWidth = 0.0f;
 	UnwrappedWidth = 0.0f;
 	TextHeight = 0.0;
 	for (int32 Index = 0; Index < Lines.Num(); ++Index)
 	{
 		const TSharedRef<FTextLine>& Line = Lines[Index];
-		UpdateLine(*Line);
+		WrapLine(*Line, Width);
 		Line->Index = Index;
 		Line->Top = TextHeight;
 		TextHeight += Line->GetHeight();
@@ -172,20 +191,28 @@ void FTextLayout::UpdateIfNeeded()
 	}
 }
 
-void FTextLayout::UpdateLine(FTextLine& Line) const
+void FTextLayout::MeasureLine(FTextLine& Line) const
 {
-	const float Width = GetWrappingWidthInPixels();
-	const bool bWasMeasured = Line.bIsMeasured;
-	if (!bWasMeasured)
+	if (!Line.bIsMeasured)
 	{
 		Line.Measured = MeasureText(*Line.Text, Line.Runs, Scale, ShapingMethod);
-		Line.UnwrappedWidth = Line.Measured.GetWidth();
 		Line.bIsMeasured = true;
+		Line.bIsWrapped = false;
+		if (bKeepsColumns)
+		{
+			TextColumns::MarkIndent(Line);
+		}
 	}
-	if (!bWasMeasured || Line.WrappedAt != Width)
+}
+
+void FTextLayout::WrapLine(FTextLine& Line, float Width) const
+{
+	if (!Line.bIsWrapped || Line.WrappedAt != Width)
 	{
-		Line.WrappedLines = WrapLine(*Line.Text, Line.Runs, Line.Measured, Width, Scale, ShapingMethod);
+		Line.WrappedLines = ::WrapLine(*Line.Text, Line.Runs, Line.Measured, Width, Scale, ShapingMethod);
 		Line.WrappedAt = Width;
+		Line.bIsWrapped = true;
+		Line.UnwrappedWidth = Line.Measured.GetWidth();
 		Line.Width = 0.0f;
 		for (const FWrappedLine& Wrapped : Line.WrappedLines)
 		{

@@ -22,6 +22,7 @@ struct FTextLine
 	/** The width at which they were wrapped, in device pixels. */
 	float WrappedAt = 0.0f;
 	bool bIsMeasured = false;
+	bool bIsWrapped = false;
 
 	/** Whether some run is a widget; unset until asked for. */
 	TOptional<bool> bHasWidgets;

@@ -110,7 +110,7 @@ void FTextLayout::GetPieces(const FTextLine& Line, const FWrappedLine& Wrapped, 
 		OrderVisually(OutPieces);
 	}
 	// Blanks at the end of a line hang over its edge: the left one where the paragraph runs from right to left.
-	float X = (Line.Measured.ParagraphLevel & 1) != 0 ? Wrapped.Width - TotalWidth : 0.0f;
+	float X = (Line.Measured.ParagraphLevel & 1) != 0 ? Wrapped.Width - Wrapped.Indent - TotalWidth : Wrapped.Indent;
 	for (FTextPiece& Piece : OutPieces)
 	{
 		Piece.X = X;

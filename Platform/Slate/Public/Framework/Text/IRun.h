@@ -21,6 +21,13 @@ struct FRunInfo
 	bool operator==(const FRunInfo& Other) const;
 };
 
+enum class ERunAttributes : uint8
+{
+	/** One object that stands for all its text. */
+	None,
+	SupportsText
+};
+
 /** How a stretch of a run, which never spans two bidi levels, is to be shaped. */
 struct FRunTextContext
 {
@@ -39,6 +46,7 @@ public:
 
 	virtual const FRunInfo& GetRunInfo() const = 0;
 	virtual FTextRange GetTextRange() const = 0;
+	virtual ERunAttributes GetRunAttributes() const = 0;
 
 	/** How far the bottom of the run is above the baseline: negative for text, whose descenders reach below it. */
 	virtual int32 GetBaseLine(float Scale) const = 0;

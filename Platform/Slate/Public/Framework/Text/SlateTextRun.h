@@ -19,6 +19,7 @@ public:
 
 	virtual const FRunInfo& GetRunInfo() const override { return RunInfo; }
 	virtual FTextRange GetTextRange() const override { return Range; }
+	virtual ERunAttributes GetRunAttributes() const override { return ERunAttributes::SupportsText; }
 	virtual int32 GetBaseLine(float Scale) const override;
 	virtual int32 GetMaxHeight(float Scale) const override;
 	virtual FVector2D Measure(int32 StartIndex, int32 EndIndex, float Scale, const FRunTextContext& TextContext) const override;

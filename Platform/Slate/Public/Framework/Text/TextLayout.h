@@ -83,6 +83,11 @@ public:
 	void SetMargin(const FMargin& InMargin);
 	void SetJustification(ETextJustify::Type InJustification);
 	void SetTextShapingMethod(ETextShapingMethod InMethod);
+	/**
+	 * Whether tabs of neighbouring lines lead to common stops, and whether what is wrapped goes on below its cell or its list item. If not,
+	 * a tab is as wide as its run says.
+	 */
+	void SetKeepsColumns(bool bInKeepsColumns);
 	/** Measures a line anew, since a run of it has changed its size. */
 	void DirtyLine(int32 LineIndex);
 
@@ -128,7 +133,8 @@ protected:
 private:
 	TSharedRef<FTextLine> MakeLine(const FNewLineData& Data, int32 Index) const;
 	void InvalidateMeasurements();
-	void UpdateLine(FTextLine& Line) const;
+	void MeasureLine(FTextLine& Line) const;
+	void WrapLine(FTextLine& Line, float Width) const;
 	float ToUnits(float Width) const;
 	/** Without the margin; infinite where lines are not wrapped. */
 	float GetWrappingWidthInPixels() const;
@@ -157,5 +163,6 @@ private:
 	float TextWidth = 0.0f;
 	float UnwrappedWidth = 0.0f;
 	double TextHeight = 0.0;
+	bool bKeepsColumns = false;
 	bool bNeedsUpdate = true;
 };
