@@ -12,7 +12,7 @@ build_packages=(
 	qt6-base-dev qt6-svg-dev libicu-dev libmd4c-dev libsqlite3-dev libcpp-httplib-dev nlohmann-json3-dev
 	fonts-roboto-unhinted fonts-jetbrains-mono fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji
 	libbenchmark-dev ca-certificates xdg-utils)
-test_packages=(libgtest-dev xvfb xdotool xauth)
+test_packages=(libgtest-dev xvfb xdotool xauth cmark-gfm)
 
 say()
 {

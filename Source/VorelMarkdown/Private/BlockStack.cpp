@@ -12,10 +12,11 @@ constexpr int32 NestedQuoteIndent = 4;
 // However deep the nesting, lines stay readable and the markup in proportion to its source.
 constexpr int32 MaxIndent = 40;
 
-// In the proportional face of messages a digit is about as wide as two blanks, and a bullet or a point as wide as one.
-int32 GetWidthInBlanks(bool bBullet, int32 Digits)
+// In the proportional face of messages a digit is about as wide as two blanks, a task's box as three, and a bullet or a point as one.
+int32 GetWidthInBlanks(bool bBullet, int32 Digits, bool bTask)
 {
-	return bBullet ? 2 : 2 * Digits + 2;
+	const int32 MarkWidth = bBullet ? (bTask ? 3 : 1) : 2 * Digits + (bTask ? 5 : 1);
+	return MarkWidth + 1;
 }
 } // namespace
 
@@ -59,7 +60,7 @@ void FBlockStack::EnterNumberedList(bool bTight, uint32 FirstNumber, char Delimi
 	List.NextNumber = FirstNumber;
 }
 
-void FBlockStack::EnterItem()
+void FBlockStack::EnterItem(std::string_view TaskBox)
 {
 	FContainer& List = Containers.Last();
 	const bool bTight = List.bTight;
@@ -69,9 +70,13 @@ void FBlockStack::EnterItem()
 	Item.bTight = bTight;
 
 	Markers.append(static_cast<size_t>(Markers.empty() ? Item.Indent + MarkerIndent : MarkerIndent), ' ');
-	Markers.append(bBullet ? Bullet : Number);
-	Markers.append(bBullet ? " " : std::string{Item.Delimiter, ' '});
-	Item.Indent = FMath::Min(Item.Indent + MarkerIndent + GetWidthInBlanks(bBullet, static_cast<int32>(Number.size())), MaxIndent);
+	const bool bTask = !TaskBox.empty();
+	if (!bBullet)
+	{
+		Markers.append(Number) += Item.Delimiter;
+	}
+	Markers.append(!bBullet && bTask ? " " : "").append(bBullet && !bTask ? Bullet : TaskBox).push_back(' ');
+	Item.Indent = FMath::Min(Item.Indent + MarkerIndent + GetWidthInBlanks(bBullet, static_cast<int32>(Number.size()), bTask), MaxIndent);
 }
 
 void FBlockStack::LeaveItem()

@@ -5,6 +5,7 @@
 #include "MarkupWriter.h"
 #include "Math/UnrealMathUtility.h"
 #include <string>
+#include <string_view>
 
 // Quotes, lists and items around the text, and what they put between and before its lines: blocks stand apart by an empty line, but by a
 // mere new line in a tight list and behind a heading, where no code follows; the first line of an item begins with its markers, every other
@@ -21,7 +22,8 @@ public:
 	void EnterQuote();
 	void EnterBulletList(bool bTight);
 	void EnterNumberedList(bool bTight, uint32 FirstNumber, char Delimiter);
-	void EnterItem();
+	// The box of a task, which takes the place of a bullet; empty for other items.
+	void EnterItem(std::string_view TaskBox);
 	void LeaveContainer() { Containers.Pop(); }
 	void LeaveItem();
 
@@ -30,6 +32,9 @@ public:
 
 	// What follows stands on a new line.
 	void EndBlock() { Gap = FMath::Max(Gap, EGap::Line); }
+
+	// The same inside of a block that shows its empty lines, of which several become one.
+	void EndLine() { Gap = Gap == EGap::None ? EGap::Line : EGap::EmptyLine; }
 	void EndHeading();
 
 	// Goes to the line that the next text belongs to, if it is not there already.

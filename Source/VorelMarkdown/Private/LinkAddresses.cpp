@@ -40,7 +40,8 @@ std::string FLinkAddresses::EndLink(const MD_ATTRIBUTE& Href)
 {
 	bInLink = false;
 	const std::string Address = Decode(Href);
-	const bool bTold = Address == LinkText || Address == "mailto:" + LinkText;
+	// A bare "www.example.com" or "me@example.com" has an address that begins with more.
+	const bool bTold = Address == LinkText || Address == "mailto:" + LinkText || Address == "http://" + LinkText;
 	return Address.empty() || bTold ? std::string() : " (" + Take(Address) + ")";
 }
 

@@ -45,7 +45,7 @@ int OnText(MD_TEXTTYPE Type, const MD_CHAR* Text, MD_SIZE Size, void* UserData)
 void ReadMarkdown(std::string_view Source, IMarkdownHandler& Handler)
 {
 	MD_PARSER Parser = {};
-	Parser.flags = MD_FLAG_NOHTML | MD_FLAG_STRIKETHROUGH;
+	Parser.flags = MD_FLAG_TABLES | MD_FLAG_STRIKETHROUGH | MD_FLAG_TASKLISTS | MD_FLAG_PERMISSIVEAUTOLINKS;
 	Parser.enter_block = OnEnterBlock;
 	Parser.leave_block = OnLeaveBlock;
 	Parser.enter_span = OnEnterSpan;

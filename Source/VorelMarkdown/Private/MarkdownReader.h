@@ -18,5 +18,5 @@ public:
 	virtual void Text(MD_TEXTTYPE Type, std::string_view Text) = 0;
 };
 
-// CommonMark with strikethrough; HTML is text. The source must be what FMarkdownSource makes.
+// CommonMark with tables, strikethrough, task lists and autolinks. The source must be what FMarkdownSource makes.
 void ReadMarkdown(std::string_view Source, IMarkdownHandler& Handler);

@@ -3,6 +3,7 @@
 #include "MarkdownSource.h"
 
 #include "LinePrefix.h"
+#include "TableRow.h"
 #include <algorithm>
 
 namespace
@@ -12,6 +13,12 @@ constexpr size_t MaxListColumn = 256;
 
 // Each use of a link reference costs md4c a walk over its definition; this many steps take some 50 ms.
 constexpr uint64 MaxReferenceSteps = 50'000'000;
+
+// Each row of a table costs a step per column, however short it is.
+constexpr size_t MaxColumns = 64;
+
+// Looking for code in a longer one would take too long.
+constexpr size_t MaxTableHeadSize = 10'000;
 
 bool IsHighSurrogate(char32_t Unit)
 {
@@ -91,12 +98,42 @@ bool NeedsReferenceGuard(std::string_view Text)
 	return LongestDefinition * Uses > MaxReferenceSteps;
 }
 
-size_t FindGuardPosition(std::string_view Line, bool bGuardReferences)
+// md4c takes any delimiter row, and drops the cells of a head that has more than the row declares.
+bool IsFalseDelimiterRow(std::string_view Content, std::string_view Head)
 {
-	bool bDeepList = false;
-	const size_t Position = FindDeepListOrContent(Line, bDeepList);
-	return bDeepList || (bGuardReferences && StartsWithBracket(Line, Position)) ? Position : std::string_view::npos;
+	if (Content.empty() || std::string_view("|:-").find(Content[0]) == std::string_view::npos)
+	{
+		return false;
+	}
+	const size_t Columns = CountDeclaredColumns(Content);
+	return Columns > MaxColumns || (Columns > 0 && (Head.size() > MaxTableHeadSize || CountCells(Head) != Columns));
 }
+
+// Finds what must not begin a construct, line by line.
+class FGuardFinder
+{
+public:
+	explicit FGuardFinder(std::string_view Text)
+		: bGuardReferences(NeedsReferenceGuard(Text))
+	{
+	}
+
+	// Where a guard belongs in the line, or npos.
+	size_t FindIn(std::string_view Line)
+	{
+		bool bDeepList = false;
+		const size_t Position = FindDeepListOrContent(Line, bDeepList);
+		const std::string_view Content = Line.substr(Position);
+		const bool bReference = bGuardReferences && StartsWithBracket(Line, Position);
+		const bool bGuard = bDeepList || bReference || IsFalseDelimiterRow(Content, LastContent);
+		LastContent = Content;
+		return bGuard ? Position : std::string_view::npos;
+	}
+
+private:
+	const bool bGuardReferences;
+	std::string_view LastContent;
+};
 } // namespace
 
 FMarkdownSource::FMarkdownSource(FStringView Markdown)
@@ -132,13 +169,13 @@ void FMarkdownSource::Convert(FStringView Markdown)
 
 void FMarkdownSource::GuardLineStarts()
 {
-	const bool bGuardReferences = NeedsReferenceGuard(Bytes);
+	FGuardFinder Finder(Bytes);
 	std::string Guarded;
 	size_t Copied = 0;
 	ForEachLine(Bytes,
 		[&](size_t LineStart, std::string_view Line)
 		{
-			const size_t Position = FindGuardPosition(Line, bGuardReferences);
+			const size_t Position = Finder.FindIn(Line);
 			if (Position != std::string_view::npos)
 			{
 				Guarded.append(Bytes, Copied, LineStart + Position - Copied);

@@ -7,7 +7,7 @@
 #include <string_view>
 
 // A message as the reader takes it: valid UTF-8, each kind of line end a "\n", control characters but tab and newline replaced by U+FFFD,
-// and guarded against the two shapes of text for which md4c 0.4.8 needs quadratic time.
+// and guarded against the shapes of text for which md4c 0.4.8 needs quadratic time or loses some of it.
 class FMarkdownSource
 {
 public:

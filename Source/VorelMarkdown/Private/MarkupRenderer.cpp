@@ -7,6 +7,9 @@
 
 namespace
 {
+constexpr std::string_view OpenTask = "\u2610";
+constexpr std::string_view DoneTask = "\u2611";
+
 // Twenty em dashes; the glyphs touch and make a line.
 constexpr std::string_view Rule = "\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014"
 								  "\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014";
@@ -63,17 +66,33 @@ void FMarkupRenderer::EnterBlock(MD_BLOCKTYPE Type, const void* Detail)
 		return Blocks.EnterNumberedList(List.is_tight, List.start, List.mark_delimiter);
 	}
 	case MD_BLOCK_LI:
-		return Blocks.EnterItem();
+	{
+		const auto& Item = *static_cast<const MD_BLOCK_LI_DETAIL*>(Detail);
+		return Blocks.EnterItem(!Item.is_task ? "" : Item.task_mark == ' ' ? OpenTask : DoneTask);
+	}
 	case MD_BLOCK_HR:
 		return AddRule();
 	case MD_BLOCK_H:
 		return EnterHeading(static_cast<const MD_BLOCK_H_DETAIL*>(Detail)->level);
 	case MD_BLOCK_CODE:
 		return EnterCode();
+	case MD_BLOCK_HTML:
+		bInHtmlBlock = true;
+		return Blocks.BeginBlock();
 	case MD_BLOCK_P:
 		return Blocks.BeginBlock();
-	default:
-		checkNoEntry();
+	case MD_BLOCK_TABLE:
+		OwnBlock = EMarkupBlock::Table;
+		return Blocks.BeginBlock();
+	case MD_BLOCK_THEAD:
+	case MD_BLOCK_TBODY:
+		bInTableHead = Type == MD_BLOCK_THEAD;
+		return;
+	case MD_BLOCK_TR:
+		return EnterRow();
+	case MD_BLOCK_TH:
+	case MD_BLOCK_TD:
+		return EnterCell();
 	}
 }
 
@@ -89,12 +108,20 @@ void FMarkupRenderer::LeaveBlock(MD_BLOCKTYPE Type)
 	case MD_BLOCK_LI:
 		return Blocks.LeaveItem();
 	case MD_BLOCK_H:
-		Heading.Reset();
+		OwnBlock.Reset();
 		return Blocks.EndHeading();
 	case MD_BLOCK_CODE:
 		bInCodeBlock = false;
 		CodeBlock.End();
 		return Blocks.EndBlock();
+	case MD_BLOCK_HTML:
+		bInHtmlBlock = false;
+		return Blocks.EndBlock();
+	case MD_BLOCK_TABLE:
+		return LeaveTable();
+	case MD_BLOCK_TH:
+	case MD_BLOCK_TD:
+		return;
 	default:
 		return Blocks.EndBlock();
 	}
@@ -103,7 +130,29 @@ void FMarkupRenderer::LeaveBlock(MD_BLOCKTYPE Type)
 void FMarkupRenderer::EnterHeading(unsigned Level)
 {
 	Blocks.BeginBlock();
-	Heading = static_cast<EMarkupBlock>(static_cast<uint8>(EMarkupBlock::Header1) + Level - 1);
+	OwnBlock = static_cast<EMarkupBlock>(static_cast<uint8>(EMarkupBlock::Header1) + Level - 1);
+}
+
+void FMarkupRenderer::EnterRow()
+{
+	Blocks.OpenLine(GetBlockStyle());
+	bRowHasCell = false;
+}
+
+void FMarkupRenderer::EnterCell()
+{
+	if (bRowHasCell)
+	{
+		Writer.EndCell(GetBlockStyle());
+	}
+	bRowHasCell = true;
+}
+
+void FMarkupRenderer::LeaveTable()
+{
+	OwnBlock.Reset();
+	bInTableHead = false;
+	Blocks.EndBlock();
 }
 
 void FMarkupRenderer::AddRule()
@@ -165,8 +214,10 @@ void FMarkupRenderer::Text(MD_TEXTTYPE Type, std::string_view Text)
 		return AddText(GetStyle(), " ");
 	case MD_TEXT_ENTITY:
 		return AddText(GetStyle(), DecodeEntity(Text));
+	case MD_TEXT_HTML:
+		return AddHtml(Text);
 	case MD_TEXT_CODE:
-		return bInCodeBlock ? CodeBlock.Text(Text) : AddText(GetStyle(), Text);
+		return bInCodeBlock ? CodeBlock.Text(Text) : AddInlineCode(Text);
 	default:
 		return AddText(GetStyle(), Text);
 	}
@@ -184,6 +235,33 @@ void FMarkupRenderer::AddText(const FMarkupStyle& Style, std::string_view Text)
 	Writer.Text(Style, Text);
 }
 
+void FMarkupRenderer::AddHtml(std::string_view Text)
+{
+	if (Text != "\n")
+	{
+		AddText(GetStyle(), Text);
+	}
+	else if (bInHtmlBlock)
+	{
+		Blocks.EndLine();
+	}
+	else
+	{
+		AddText(GetStyle(), " ");
+	}
+}
+
+void FMarkupRenderer::AddInlineCode(std::string_view Text)
+{
+	// In a table a backslash keeps a pipe from ending the cell even in code, where it stands for itself otherwise.
+	const bool bInTable = OwnBlock == EMarkupBlock::Table;
+	for (size_t Escape; bInTable && (Escape = Text.find("\\|")) != std::string_view::npos; Text.remove_prefix(Escape + 1))
+	{
+		AddText(GetStyle(), Text.substr(0, Escape));
+	}
+	AddText(GetStyle(), Text);
+}
+
 void FMarkupRenderer::AddHardBreak()
 {
 	if (Spans.IsOpen(MD_SPAN_IMG))
@@ -196,12 +274,16 @@ void FMarkupRenderer::AddHardBreak()
 FMarkupStyle FMarkupRenderer::GetBlockStyle() const
 {
 	FMarkupStyle Style = Blocks.GetTextStyle();
-	Style.Block = Heading.Get(Style.Block);
+	Style.Block = OwnBlock.Get(Style.Block);
 	return Style;
 }
 
 FMarkupStyle FMarkupRenderer::GetStyle() const
 {
 	const FMarkupStyle* Style = Spans.GetStyle();
-	return Style ? *Style : GetBlockStyle();
+	if (Style)
+	{
+		return *Style;
+	}
+	return bInTableHead ? GetBlockStyle().With(EMarkupWord::Strong) : GetBlockStyle();
 }

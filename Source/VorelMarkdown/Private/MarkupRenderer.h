@@ -28,6 +28,11 @@ private:
 	void EnterCode();
 	void EnterHeading(unsigned Level);
 	void AddRule();
+	void EnterRow();
+	void EnterCell();
+	void LeaveTable();
+	void AddHtml(std::string_view Text);
+	void AddInlineCode(std::string_view Text);
 
 	// Takes its place on the current line, or begins it.
 	void AddText(const FMarkupStyle& Style, std::string_view Text);
@@ -42,8 +47,11 @@ private:
 	FLinkAddresses Addresses;
 	bool bInCodeBlock = false;
 
-	// Set in a heading, whose text has its style whatever is around it.
-	TOptional<EMarkupBlock> Heading;
+	// Set in a heading or a table, whose text has its style whatever is around it.
+	TOptional<EMarkupBlock> OwnBlock;
+	bool bInTableHead = false;
+	bool bRowHasCell = false;
+	bool bInHtmlBlock = false;
 
 	FSpanStack Spans;
 	bool bImageHasText = false;

@@ -7,7 +7,7 @@ namespace
 FStringView GetBlockName(EMarkupBlock Block)
 {
 	static constexpr FStringView Names[] = {TEXT("Paragraph"), TEXT("Header1"), TEXT("Header2"), TEXT("Header3"), TEXT("Header4"),
-		TEXT("Header5"), TEXT("Header6"), TEXT("OrderedList"), TEXT("UnorderedList"), TEXT("HorizontalRule")};
+		TEXT("Header5"), TEXT("Header6"), TEXT("OrderedList"), TEXT("UnorderedList"), TEXT("Table"), TEXT("HorizontalRule")};
 	return Names[static_cast<uint8>(Block)];
 }
 
@@ -48,7 +48,7 @@ void FMarkupStyle::AppendNameTo(FString& Out) const
 	{
 		Out += TEXTVIEW(".Blockquote");
 	}
-	const bool bHasName = QuoteDepth == 0 || Block != EMarkupBlock::HorizontalRule;
+	const bool bHasName = QuoteDepth == 0 || (Block != EMarkupBlock::Table && Block != EMarkupBlock::HorizontalRule);
 	Out += TEXT('.');
 	Out += GetBlockName(bHasName ? Block : EMarkupBlock::Paragraph);
 	for (uint8 Index = 0; Index < WordCount; ++Index)

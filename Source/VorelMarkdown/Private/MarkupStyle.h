@@ -15,6 +15,7 @@ enum class EMarkupBlock : uint8
 	Header6,
 	OrderedList,
 	UnorderedList,
+	Table,
 	HorizontalRule
 };
 

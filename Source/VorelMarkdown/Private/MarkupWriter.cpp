@@ -70,6 +70,8 @@ void AddEscaped(FUnitBuffer& Buffer, char Byte)
 		return Buffer.Add(TEXTVIEW("&gt;"));
 	case '"':
 		return Buffer.Add(TEXTVIEW("&quot;"));
+	case '\t':
+		return Buffer.Add(TEXT(' '));
 	default:
 		return Buffer.Add(static_cast<TCHAR>(Byte));
 	}
@@ -115,10 +117,21 @@ constexpr FStringView CloseTag = TEXTVIEW("</>");
 
 void FMarkupWriter::Text(const FMarkupStyle& Style, std::string_view Utf8)
 {
-	if (Utf8.empty())
+	if (!Utf8.empty())
 	{
-		return;
+		BeginRun(Style);
+		AddText(Out, Utf8, [Utf8](FUnitBuffer& Buffer, size_t Position) { AddEscaped(Buffer, Utf8[Position]); });
 	}
+}
+
+void FMarkupWriter::EndCell(const FMarkupStyle& Style)
+{
+	BeginRun(Style);
+	Out += TEXT('\t');
+}
+
+void FMarkupWriter::BeginRun(const FMarkupStyle& Style)
+{
 	if (OpenRun != Style)
 	{
 		EndRun();
@@ -127,7 +140,6 @@ void FMarkupWriter::Text(const FMarkupStyle& Style, std::string_view Utf8)
 		Out += TEXT('>');
 		OpenRun = Style;
 	}
-	AddText(Out, Utf8, [Utf8](FUnitBuffer& Buffer, size_t Position) { AddEscaped(Buffer, Utf8[Position]); });
 }
 
 void FMarkupWriter::EndRun()

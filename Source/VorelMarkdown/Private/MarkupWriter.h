@@ -16,8 +16,11 @@ public:
 
 	bool IsEmpty() const { return Out.IsEmpty(); }
 
-	// All of & < > " are escaped.
+	// All of & < > " are escaped, and a tab becomes a blank, since a tab ends a cell.
 	void Text(const FMarkupStyle& Style, std::string_view Utf8);
+
+	// The one tab between two cells of a table.
+	void EndCell(const FMarkupStyle& Style);
 	void EndLine();
 
 	// A code run is raw but for "&" and the closing form.
@@ -29,6 +32,7 @@ public:
 	FString Finish();
 
 private:
+	void BeginRun(const FMarkupStyle& Style);
 	void EndRun();
 
 	FString Out;

@@ -5,6 +5,7 @@
 #include "CoreMinimal.h"
 #include "LinePrefix.h"
 #include "MarkdownReader.h"
+#include "TableRow.h"
 #include <algorithm>
 #include <string>
 
@@ -49,27 +50,31 @@ bool MayUnderlineHeading(std::string_view Content)
 	return !Content.empty() && Content.size() < FenceLength && (ConsistsOf(Content, '-') || ConsistsOf(Content, '='));
 }
 
+bool MayDeclareColumns(std::string_view Content, std::string_view Head)
+{
+	const bool bBeginning = !Content.empty() && Content.find_first_not_of("|:- \t") == std::string_view::npos;
+	return bBeginning && Head.find('|') != std::string_view::npos && CountDeclaredColumns(Content) != CountCells(Head);
+}
+
+std::string_view GetLineBefore(std::string_view Source, size_t LineStart)
+{
+	const std::string_view Before = Source.substr(0, LineStart - 1);
+	return Before.substr(Before.rfind('\n') + 1);
+}
+
 // Learns in what kind of block one character of the source stands.
-class FFenceProbe : public IMarkdownHandler
+class FVerbatimProbe : public IMarkdownHandler
 {
 public:
-	explicit FFenceProbe(const char* InCharacter)
+	explicit FVerbatimProbe(const char* InCharacter)
 		: Character(InCharacter)
 	{
 	}
 
-	// The fence's character, or 0 outside of fenced code.
-	char Result = 0;
+	bool bInVerbatim = false;
 
-	void EnterBlock(MD_BLOCKTYPE Type, const void* Detail) override
-	{
-		if (Type == MD_BLOCK_CODE)
-		{
-			OpenFence = static_cast<const MD_BLOCK_CODE_DETAIL*>(Detail)->fence_char;
-		}
-	}
-
-	void LeaveBlock(MD_BLOCKTYPE) override { OpenFence = 0; }
+	void EnterBlock(MD_BLOCKTYPE Type, const void*) override { Block = Type; }
+	void LeaveBlock(MD_BLOCKTYPE) override {}
 	void EnterSpan(MD_SPANTYPE) override {}
 	void LeaveSpan(MD_SPANTYPE, const void*) override {}
 
@@ -77,23 +82,23 @@ public:
 	{
 		if (Character >= Text.data() && Character < Text.data() + Text.size())
 		{
-			Result = OpenFence;
+			bInVerbatim = Block == MD_BLOCK_CODE || Block == MD_BLOCK_HTML;
 		}
 	}
 
 private:
 	const char* const Character;
-	char OpenFence = 0;
+	MD_BLOCKTYPE Block = MD_BLOCK_DOC;
 };
 
-// The character of the fence that is open at the end of the text, or 0.
-char FindOpenFence(std::string_view Text)
+// Whether code or HTML goes on behind the text, which ends where a line's content begins.
+bool EndsInVerbatim(std::string_view Text)
 {
 	std::string Probed(Text);
 	Probed.push_back('x');
-	FFenceProbe Probe(&Probed.back());
+	FVerbatimProbe Probe(&Probed.back());
 	ReadMarkdown(Probed, Probe);
-	return Probe.Result;
+	return Probe.bInVerbatim;
 }
 } // namespace
 
@@ -106,12 +111,8 @@ size_t GetSettledSize(std::string_view Source)
 	const bool bFirstLine = LineStart == 0;
 
 	const bool bFence = MayOpenFence(Content) && !(bFirstLine && Content.size() < FenceLength);
-	const bool bUnderline = !bFirstLine && MayUnderlineHeading(Line.substr(SkipBlanksAndQuotes(Line, 0)));
-	if (!bFence && !bUnderline)
-	{
-		return Source.size();
-	}
-	const char OpenFence = FindOpenFence(Source.substr(0, LineStart + PrefixSize));
-	const bool bMayCloseFence = bFence && Content.size() < FenceLength && ConsistsOf(Content, OpenFence);
-	return OpenFence == 0 || bMayCloseFence ? LineStart : Source.size();
+	const bool bUnderline = !bFirstLine && (MayUnderlineHeading(Line.substr(SkipBlanksAndQuotes(Line, 0))) ||
+											   MayDeclareColumns(Content, GetLineBefore(Source, LineStart)));
+	const bool bUnsettled = (bFence || bUnderline) && !EndsInVerbatim(Source.substr(0, LineStart + PrefixSize));
+	return bUnsettled ? LineStart : Source.size();
 }

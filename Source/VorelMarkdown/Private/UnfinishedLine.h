@@ -6,6 +6,7 @@
 #include <string_view>
 
 // How much of a message that may still grow can be shown: all of it, or all but a last line of which too little has arrived to tell what
-// it is. Such are the beginnings of a code fence, which would show as backticks, and the first two characters of a heading's underline,
-// which may as well be a list item and would make the paragraph above it jump.
+// it is. Such are the beginning of a code fence, which would show as backticks; the first two characters of a heading's underline, which
+// may as well be a list item and would make the paragraph above it jump; and a delimiter row with fewer columns than the head above it. A
+// line of code is always shown.
 size_t GetSettledSize(std::string_view Source);

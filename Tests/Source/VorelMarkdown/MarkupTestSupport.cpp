@@ -2,93 +2,52 @@
 
 #include "MarkupTestSupport.h"
 
+#include "Framework/Text/RichTextMarkupProcessing.h"
 #include "MarkdownParser.h"
-#include <array>
-#include <set>
-#include <vector>
+#include "Styling/StyleSheets/VorelMarkdownStyle.h"
+#include <algorithm>
+#include <gtest/gtest.h>
 
 namespace
 {
-using FNames = std::set<std::string, std::less<>>;
+constexpr std::string_view StylePrefix = "VorelMarkdown.";
 
-void AddWithWords(FNames& Names, const std::string& Name, int Depth)
+class FStyleEnvironment : public testing::Environment
 {
-	Names.insert(Name);
-	for (const char* Word : {".Emphasis", ".Strong", ".Strikethrough", ".Link", ".InlineCode", ".Image"})
-	{
-		if (Depth < 3 && Name.find(Word) == std::string::npos)
-		{
-			AddWithWords(Names, Name + Word, Depth + 1);
-		}
-	}
+public:
+	void SetUp() override { FVorelMarkdownStyle::Initialize(); }
+	void TearDown() override { FVorelMarkdownStyle::Shutdown(); }
+};
+
+testing::Environment* const Environment = testing::AddGlobalTestEnvironment(new FStyleEnvironment);
+
+FString FromUtf8(std::string_view Text)
+{
+	return FString(FUTF8ToTCHAR(Text.data(), static_cast<int32>(Text.size())));
 }
 
-// The blocks that take inline words, in and outside of quotes; and those that exist alone.
-const FNames& GetStyleNames()
+FShownRun ReadRun(const FString& Text, const FTextRunParseResults& Run)
 {
-	static const FNames Names = []
+	FString Content = Text.Mid(Run.ContentRange.BeginIndex, Run.ContentRange.Len());
+	if (Run.Name == TEXT("code"))
 	{
-		FNames Result;
-		std::string Prefix = "VorelMarkdown.";
-		for (int Depth = 0; Depth <= 4; ++Depth)
-		{
-			for (const char* Block :
-				{"Header", "Header1", "Header2", "Header3", "Header4", "Header5", "Header6", "Paragraph", "OrderedList", "UnorderedList"})
-			{
-				AddWithWords(Result, Prefix + Block, 0);
-			}
-			Prefix += "Blockquote.";
-		}
-		AddWithWords(Result, "VorelMarkdown.Table", 0);
-		Result.insert("VorelMarkdown.HorizontalRule");
-		return Result;
-	}();
-	return Names;
+		Content.ReplaceInline(TEXT("__NL__"), TEXT("\n"), ESearchCase::IgnoreCase);
+	}
+	std::string Name = TCHAR_TO_UTF8(Run.Name);
+	Name.erase(0, Name.starts_with(StylePrefix) ? StylePrefix.size() : 0);
+	return {Name, TCHAR_TO_UTF8(Content)};
 }
 
-bool IsEscape(std::string_view Text, bool bCode)
+bool IsControl(char Character)
 {
-	return Text.starts_with("&amp;") || Text.starts_with("&lt;") || Text.starts_with("&gt;") || (!bCode && Text.starts_with("&quot;"));
+	const auto Byte = static_cast<unsigned char>(Character);
+	return Byte < 0x20 || Byte == 0x7F;
 }
 
-std::string FindContentError(std::string_view Content, bool bCode)
+bool IsMisplacedControl(const FShownRun& Run, char Character)
 {
-	for (size_t Position = 0; Position < Content.size(); ++Position)
-	{
-		const auto Byte = static_cast<unsigned char>(Content[Position]);
-		if ((Byte < 0x20 && Byte != '\t') || Byte == 0x7F)
-		{
-			return "a control character";
-		}
-		if (Byte == '&' && !IsEscape(Content.substr(Position), bCode))
-		{
-			return "a bare &";
-		}
-		if (!bCode && (Byte == '<' || Byte == '>' || Byte == '"'))
-		{
-			return "an unescaped character";
-		}
-	}
-	return {};
-}
-
-// Takes one run off the line.
-std::string FindRunError(std::string_view& Line)
-{
-	const size_t NameEnd = Line.find('>');
-	const size_t ContentEnd = Line.find("</>");
-	if (Line[0] != '<' || NameEnd == std::string_view::npos || ContentEnd == std::string_view::npos || ContentEnd < NameEnd)
-	{
-		return "text outside of a closed run";
-	}
-	const std::string_view Name = Line.substr(1, NameEnd - 1);
-	if (Name != "code" && !GetStyleNames().contains(Name))
-	{
-		return "the name " + std::string(Name);
-	}
-	const std::string Error = FindContentError(Line.substr(NameEnd + 1, ContentEnd - NameEnd - 1), Name == "code");
-	Line.remove_prefix(ContentEnd + 3);
-	return Error;
+	const bool bAllowed = Character == '\t' || (Character == '\n' && (Run.Name.empty() || Run.Name == "code"));
+	return IsControl(Character) && !bAllowed;
 }
 } // namespace
 
@@ -104,37 +63,65 @@ std::string RenderMarkup(FStringView Markdown)
 
 std::string RenderMarkup(std::string_view Markdown)
 {
-	return RenderMarkup(FUTF8ToTCHAR(Markdown.data(), static_cast<int32>(Markdown.size())));
+	return RenderMarkup(FStringView(FromUtf8(Markdown)));
 }
 
 std::string RenderShort(std::string_view Markdown)
 {
-	constexpr std::string_view Prefix = "<VorelMarkdown.";
 	std::string Markup = RenderMarkup(Markdown);
-	for (size_t Position = 0; (Position = Markup.find(Prefix, Position)) != std::string::npos; ++Position)
+	for (size_t Position = 0; (Position = Markup.find(StylePrefix, Position)) != std::string::npos;)
 	{
-		Markup.erase(Position + 1, Prefix.size() - 1);
+		Markup.erase(Position, StylePrefix.size());
 	}
 	return Markup;
 }
 
-std::string FindMarkupError(std::string_view Markup)
+std::vector<FShownRun> ReadMarkup(std::string_view Markup)
 {
-	while (!Markup.empty())
+	TArray<FTextLineParseResults> Lines;
+	FString Text;
+	FDefaultRichTextMarkupParser::Create()->Process(Lines, FromUtf8(Markup), Text);
+	std::vector<FShownRun> Runs;
+	for (const FTextLineParseResults& Line : Lines)
 	{
-		const size_t LineEnd = std::min(Markup.find('\n'), Markup.size());
-		std::string_view Line = Markup.substr(0, LineEnd);
-		while (!Line.empty())
+		if (!Runs.empty())
 		{
-			const std::string Error = FindRunError(Line);
-			if (!Error.empty())
-			{
-				return Error + ": " + std::string(Markup.substr(0, LineEnd));
-			}
+			Runs.push_back({"", "\n"});
 		}
-		Markup.remove_prefix(std::min(LineEnd + 1, Markup.size()));
+		for (const FTextRunParseResults& Run : Line.Runs)
+		{
+			Runs.push_back(ReadRun(Text, Run));
+		}
+	}
+	return Runs;
+}
+
+std::string FindMarkupError(const std::vector<FShownRun>& Runs)
+{
+	for (const FShownRun& Run : Runs)
+	{
+		const bool bOutside = Run.Name.empty();
+		if (bOutside ? Run.Text != "\n" : Run.Name != "code" && !FVorelMarkdownStyle::Get().HasStyle(FromUtf8("VorelMarkdown." + Run.Name)))
+		{
+			return "the run <" + Run.Name + "> of: " + Run.Text;
+		}
+		if (std::ranges::any_of(Run.Text, [&Run](char Character) { return IsMisplacedControl(Run, Character); }))
+		{
+			return "a control character in: " + Run.Text;
+		}
 	}
 	return {};
+}
+
+std::string ResolveReferences(std::string_view Text)
+{
+	FString Resolved = FromUtf8(Text);
+	for (const auto& [Name, Character] :
+		{std::pair{TEXT("&lt;"), TEXT("<")}, {TEXT("&gt;"), TEXT(">")}, {TEXT("&quot;"), TEXT("\"")}, {TEXT("&amp;"), TEXT("&")}})
+	{
+		Resolved.ReplaceInline(Name, Character, ESearchCase::CaseSensitive);
+	}
+	return TCHAR_TO_UTF8(Resolved);
 }
 
 std::string Repeat(std::string_view Text, size_t Count)
