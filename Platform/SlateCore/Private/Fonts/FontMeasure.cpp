@@ -27,6 +27,13 @@ FVector2D FSlateFontMeasure::Measure(const FText& Text, const FSlateFontInfo& Fo
 	return Measure(FStringView(Text.ToString()), Font, Scale);
 }
 
+FVector2D FSlateFontMeasure::Measure(FStringView Text, int32 StartIndex, int32 EndIndex, const FSlateFontInfo& Font,
+	bool bIncludeKerningWithPrecedingChar, float Scale) const
+{
+	return FVector2D(
+		Cache.Shape(Text.Mid(StartIndex, EndIndex - StartIndex), Font, Scale)->Width, Cache.GetMetrics(Font, Scale).LineHeight);
+}
+
 uint16 FSlateFontMeasure::GetMaxCharacterHeight(const FSlateFontInfo& Font, float Scale) const
 {
 	return static_cast<uint16>(FMath::CeilToInt(Cache.GetMetrics(Font, Scale).LineHeight));

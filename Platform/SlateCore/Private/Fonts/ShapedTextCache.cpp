@@ -77,6 +77,35 @@ struct FShapeEqual
 		return A.Text == B.Text && A.Scale == B.Scale && A.Direction == B.Direction && A.Method == B.Method && A.Font == B.Font;
 	}
 };
+
+/** Nothing that a font has a picture for. */
+bool IsControl(TCHAR Character)
+{
+	return Character < 0x20 || (Character >= 0x7F && Character < 0xA0) || Character == 0x2028 || Character == 0x2029;
+}
+
+bool HasControls(FStringView Text)
+{
+	for (const TCHAR Character : Text)
+	{
+		if (IsControl(Character))
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+/** Of the same length, with blanks in the place of control characters. */
+FString BlankControls(FStringView Text)
+{
+	FString Result(Text);
+	for (TCHAR& Character : Result)
+	{
+		Character = IsControl(Character) ? TEXT(' ') : Character;
+	}
+	return Result;
+}
 } // namespace
 
 struct FShapedTextCache::FGeneration
@@ -99,6 +128,10 @@ FShapedTextCache::~FShapedTextCache() = default;
 TSharedRef<const FShapedText> FShapedTextCache::Shape(
 	FStringView Text, const FSlateFontInfo& Font, float Scale, TextBiDi::ETextDirection Direction, ETextShapingMethod Method)
 {
+	if (HasControls(Text))
+	{
+		return Shape(BlankControls(Text), Font, Scale, Direction, Method);
+	}
 	const FShapeQuery Query{ToView(Text), Font, Scale, Direction, Method};
 	if (const auto Found = Current->Shaped.find(Query); Found != Current->Shaped.end())
 	{

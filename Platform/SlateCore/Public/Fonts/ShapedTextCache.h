@@ -17,6 +17,7 @@ public:
 	explicit FShapedTextCache(ITextShaper& InShaper, int32 InUnitsPerGeneration = UnitsPerGeneration);
 	~FShapedTextCache();
 
+	/** Control characters, tabs among them, are shaped as blanks. */
 	TSharedRef<const FShapedText> Shape(FStringView Text, const FSlateFontInfo& Font, float Scale,
 		TextBiDi::ETextDirection Direction = TextBiDi::ETextDirection::LeftToRight, ETextShapingMethod Method = ETextShapingMethod::Auto);
 	FFontMetrics GetMetrics(const FSlateFontInfo& Font, float Scale);

@@ -19,35 +19,6 @@ FShapedTextCache& GetShapedTextCache()
 	return FSlateApplication::Get().GetRenderer()->GetShapedTextCache();
 }
 
-/** Nothing that a font has a picture for. */
-bool IsControl(TCHAR Character)
-{
-	return Character < 0x20 || (Character >= 0x7F && Character < 0xA0) || Character == 0x2028 || Character == 0x2029;
-}
-
-bool HasControls(FStringView Text)
-{
-	for (const TCHAR Character : Text)
-	{
-		if (IsControl(Character))
-		{
-			return true;
-		}
-	}
-	return false;
-}
-
-/** Of the same length, with blanks in the place of control characters. */
-FString BlankControls(FStringView Text)
-{
-	FString Result(Text);
-	for (TCHAR& Character : Result)
-	{
-		Character = IsControl(Character) ? TEXT(' ') : Character;
-	}
-	return Result;
-}
-
 /** A piece of the layout, whose edges are put on whole device pixels: neighbours then meet without a gap or an overlap. */
 FPaintGeometry MakePixelGeometry(const FGeometry& TextGeometry, float Left, float Top, float Right, float Height)
 {
@@ -131,12 +102,7 @@ bool FSlateTextRun::IsSameAs(const IRun& Other) const
 TSharedRef<const FShapedText> FSlateTextRun::Shape(const FTextRange& Stretch, float Scale, const FRunTextContext& TextContext) const
 {
 	const FStringView View = FStringView(*Text).Mid(Stretch.BeginIndex, Stretch.Len());
-	FShapedTextCache& Cache = GetShapedTextCache();
-	if (HasControls(View))
-	{
-		return Cache.Shape(BlankControls(View), Style.Font, Scale, TextContext.TextDirection, TextContext.TextShapingMethod);
-	}
-	return Cache.Shape(View, Style.Font, Scale, TextContext.TextDirection, TextContext.TextShapingMethod);
+	return GetShapedTextCache().Shape(View, Style.Font, Scale, TextContext.TextDirection, TextContext.TextShapingMethod);
 }
 
 void FSlateTextRun::OnPaint(const FRunPlacement& Placement, const FGeometry& TextGeometry, FSlateWindowElementList& OutDrawElements,
