@@ -1,16 +1,12 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Chat/ChatItemWidgets/SCodeWidget.h"
-#include "Chat/ChatItemWidgets/SMarkdownTextbox.h"
 #include "Chat/SChatItem.h"
-#include "Internationalization/Text.h"
 #include "MarkdownParser.h"
 #include "Styling/StyleSheets/VorelAIStyle.h"
 #include "Support/UserDriver.h"
 #include "Widgets.h"
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/SBoxPanel.h"
-#include "Widgets/Text/SMultiLineEditableText.h"
 #include <gtest/gtest.h>
 
 namespace
@@ -28,11 +24,6 @@ template struct TParserOf<&SChatItem::MarkdownParser>;
 TSharedRef<SChatItem> MakeItem(EChatRole Role, const TCHAR* Text)
 {
 	return SNew(SChatItem).Role(Role).Message(Text);
-}
-
-TSharedRef<SMultiLineEditableText> CodeBox(const TSharedRef<SWidget>& Root)
-{
-	return StaticCastSharedRef<SMultiLineEditableText>(FindOne(FindOne(Root, TEXT("SSCodeWidget")), TEXT("SMultiLineEditableText")));
 }
 
 } // namespace
@@ -126,67 +117,4 @@ TEST(ChatItem, IsLaidOutWithItsPaddings)
 	EXPECT_EQ(Body.GetAbsolutePosition(), FVector2D(10.0, 10.0 + Role.GetLocalSize().Y));
 	EXPECT_EQ(Body.GetLocalSize().X, 640.0);
 	EXPECT_EQ(Item->GetCachedGeometry().GetLocalSize().Y, 15.0 + Role.GetLocalSize().Y + Body.GetLocalSize().Y);
-}
-
-TEST(MarkdownTextbox, ShowsRunsOfAnyNameAndReplacesItsText)
-{
-	const TSharedRef<SMarkdownTextbox> Textbox =
-		SNew(SMarkdownTextbox).Text(FText::FromString(TEXT("<VorelMarkdown.Strong>a</> <Nobody.Knows>b</> c")));
-	EXPECT_EQ(ReadTexts(Textbox), "a b c");
-	Textbox->SetMarkdownText(TEXT("<CODE>x</> and <Code lang=\"cpp\">y</>"));
-	EXPECT_EQ(FindAll(Textbox, TEXT("SSCodeWidget")).size(), 2u);
-	Textbox->SetMarkdownText(FString());
-	EXPECT_EQ(ReadTexts(Textbox), "");
-}
-
-TEST(CodeWidget, TurnsPlaceholdersAndEscapesIntoLines)
-{
-	const TSharedRef<SMarkdownTextbox> Textbox =
-		SNew(SMarkdownTextbox).Text(FText::FromString(TEXT("<code>a__NL____nl__b << \"c\\nd\\Ne\"</>")));
-	EXPECT_EQ(ToUtf8(CodeBox(Textbox)->GetText().ToString()), "a\n\nb << \"c\nd\ne\"");
-	Textbox->SetMarkdownText(TEXT("<code></>"));
-	EXPECT_EQ(ToUtf8(CodeBox(Textbox)->GetText().ToString()), "");
-	EXPECT_EQ(FindAll(Textbox, TEXT("SButton")).size(), 1u);
-}
-
-TEST(CodeWidget, CopiesWhatItShows)
-{
-	const TSharedRef<SMarkdownTextbox> Textbox = SNew(SMarkdownTextbox).Text(FText::FromString(TEXT("<code>int i;__NL__i\\n++;</>")));
-	FUserDriver User(Textbox, FVector2D(660.0, 400.0));
-	User.SetClipboard(TEXT("before"));
-	User.Click(TEXT("Copy"));
-	EXPECT_EQ(ToUtf8(User.GetClipboard()), "int i;\ni\n++;");
-
-	Textbox->SetMarkdownText(TEXT("<code>__NL__</>"));
-	User.Frame();
-	User.Click(TEXT("Copy"));
-	EXPECT_EQ(ToUtf8(User.GetClipboard()), "\n");
-
-	Textbox->SetMarkdownText(TEXT("<code></>"));
-	User.Frame();
-	User.SetClipboard(TEXT("before"));
-	User.Click(TEXT("Copy"));
-	EXPECT_EQ(ToUtf8(User.GetClipboard()), "before");
-}
-
-TEST(CodeWidget, Is620WideAndDoesNotWrap)
-{
-	FString Long(TEXT("<code>"));
-	for (int32 Index = 0; Index < 100; ++Index)
-	{
-		Long += TEXT("word ");
-	}
-	const TSharedRef<SMarkdownTextbox> Textbox = SNew(SMarkdownTextbox).Text(FText::FromString(Long + TEXT("__NL__end</>")));
-	FUserDriver User(Textbox, FVector2D(900.0, 400.0));
-	User.Frame();
-	const FGeometry& Code = FindOne(Textbox, TEXT("SSCodeWidget"))->GetCachedGeometry();
-	EXPECT_EQ(Code.GetLocalSize().X, 620.0);
-	const double TwoLines = Code.GetLocalSize().Y;
-	Textbox->SetMarkdownText(TEXT("<code>a__NL__end</>"));
-	User.Frame();
-	EXPECT_EQ(FindOne(Textbox, TEXT("SSCodeWidget"))->GetCachedGeometry().GetLocalSize(), FVector2D(620.0, TwoLines));
-	const FGeometry& Button = FindOne(Textbox, TEXT("SButton"))->GetCachedGeometry();
-	const FGeometry& Block = FindOne(Textbox, TEXT("SSCodeWidget"))->GetCachedGeometry();
-	EXPECT_EQ(Button.GetAbsolutePosition().X + Button.GetLocalSize().X, Block.GetAbsolutePosition().X + 620.0 - 8.0);
-	EXPECT_EQ(Button.GetAbsolutePosition().Y, Block.GetAbsolutePosition().Y + 8.0);
 }

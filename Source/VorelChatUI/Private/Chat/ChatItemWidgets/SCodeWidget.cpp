@@ -5,6 +5,7 @@
 #include "HAL/PlatformApplicationMisc.h"
 #include "Styling/AppStyle.h"
 #include "Styling/StyleSheets/VorelAIStyle.h"
+#include "Syntax/CodeBlockMarshaller.h"
 #include "Widgets/Images/SImage.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Layout/SBorder.h"
@@ -15,6 +16,10 @@
 
 void SCodeWidget::Construct(const FArguments& InArgs)
 {
+	if (!CodeMarshaller)
+	{
+		CodeMarshaller = FCodeBlockMarshaller::Create();
+	}
 	CodeText = InArgs._Text;
 	// Works on the code as source text: an escape inside a string literal breaks the line too.
 	CodeText = FText::FromString(CodeText.ToString().Replace(TEXT("\\n"), TEXT("\n"), ESearchCase::IgnoreCase));
@@ -51,6 +56,7 @@ TSharedRef<SWidget> SCodeWidget::MakeCodeView()
 				SAssignNew(CodeTextBox, SMultiLineEditableText)
 				.TextStyle(&FVorelAIStyle::Get().GetWidgetStyle<FTextBlockStyle>("VorelAI.Typography.Console"))
 				.Text(CodeText)
+				.Marshaller(CodeMarshaller)
 				.AutoWrapText(false)
 				.IsReadOnly(true)
 				.TextShapingMethod(ETextShapingMethod::KerningOnly)

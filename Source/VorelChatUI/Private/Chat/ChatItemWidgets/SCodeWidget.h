@@ -7,9 +7,10 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
+class FCodeBlockMarshaller;
 class SMultiLineEditableText;
 
-// One code block inside a message: read-only code that does not wrap, with a copy button in the corner.
+// One code block inside a message: highlighted, read-only code that does not wrap, with a copy button in the corner.
 class VORELCHATUI_API SCodeWidget : public SCompoundWidget
 {
 public:
@@ -27,4 +28,5 @@ private:
 
 	FText CodeText;
 	TSharedPtr<SMultiLineEditableText> CodeTextBox;
+	TSharedPtr<FCodeBlockMarshaller> CodeMarshaller;
 };

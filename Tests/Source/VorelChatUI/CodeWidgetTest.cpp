@@ -1,0 +1,175 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Chat/ChatItemWidgets/SMarkdownTextbox.h"
+#include "Decorators/CodeBlockDecorator.h"
+#include "Framework/Text/SlateTextLayout.h"
+#include "Styling/SlateTypes.h"
+#include "Support/UserDriver.h"
+#include "Widgets.h"
+#include "Widgets/SNullWidget.h"
+#include "Widgets/Text/SMultiLineEditableText.h"
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace
+{
+
+// A message view in a window, and a user before it.
+class CodeWidget : public testing::Test
+{
+protected:
+	void Show(const FString& Markup)
+	{
+		Message->SetMarkdownText(Markup);
+		User.Frame();
+	}
+
+	TSharedRef<SMultiLineEditableText> GetView() const
+	{
+		return StaticCastSharedRef<SMultiLineEditableText>(FindOne(Message, TEXT("SMultiLineEditableText")));
+	}
+
+	TSharedRef<SWidget> GetBlock() const { return FindOne(Message, TEXT("SSCodeWidget")); }
+
+	std::string GetCode() const
+	{
+		return ToUtf8(
+			StaticCastSharedRef<SMultiLineEditableText>(FindOne(GetBlock(), TEXT("SMultiLineEditableText")))->GetText().ToString());
+	}
+
+	std::string CopyByButton()
+	{
+		User.SetClipboard(TEXT("before"));
+		User.Click(TEXT("Copy"));
+		return ToUtf8(User.GetClipboard());
+	}
+
+	TSharedRef<SMarkdownTextbox> Message = SNew(SMarkdownTextbox);
+	FUserDriver User{Message, FVector2D(900.0, 400.0)};
+};
+
+struct FPlace
+{
+	FVector2D TopLeft;
+	FVector2D Size;
+};
+
+FPlace PlaceOf(const TSharedRef<SWidget>& Widget)
+{
+	const FGeometry& Geometry = Widget->GetCachedGeometry();
+	return {Geometry.GetAbsolutePosition(), Geometry.GetLocalSize()};
+}
+
+} // namespace
+
+TEST_F(CodeWidget, StandsForAnyRunThatIsNamedCode)
+{
+	Show(TEXT("<VorelMarkdown.Strong>a</> <Nobody.Knows>b</> c"));
+	EXPECT_EQ(ReadTexts(Message), "a b c");
+	Show(TEXT("<CODE>x</> and <Code lang=\"cpp\">y</>"));
+	EXPECT_EQ(FindAll(Message, TEXT("SSCodeWidget")).size(), 2u);
+	Show(FString());
+	EXPECT_EQ(ReadTexts(Message), "");
+}
+
+TEST_F(CodeWidget, CopiesWhatItShows)
+{
+	const struct
+	{
+		const TCHAR* Markup;
+		const char* Code;
+	} Rows[] = {
+		{TEXT("a__NL____nl__b << \"c\\nd\\Ne\""), "a\n\nb << \"c\nd\ne\""},
+		{TEXT("\tint i;  __NL__i = '<';"), "\tint i;  \ni = '<';"},
+		{TEXT("__NL__"), "\n"},
+	};
+	for (const auto& Row : Rows)
+	{
+		Show(FString(TEXT("<code>")) + Row.Markup + TEXT("</>"));
+		EXPECT_EQ(GetCode(), Row.Code);
+		EXPECT_EQ(CopyByButton(), Row.Code);
+	}
+	Show(TEXT("<code></>"));
+	EXPECT_EQ(GetCode(), "");
+	EXPECT_EQ(CopyByButton(), "before");
+}
+
+TEST_F(CodeWidget, AClickOnAButtonThatIsReplacedMeanwhileDoesNothing)
+{
+	Show(TEXT("<code>old</>"));
+	const FPlace Button = PlaceOf(FindOne(Message, TEXT("SButton")));
+	User.SetClipboard(TEXT("before"));
+	User.MouseDown(Button.TopLeft + Button.Size / 2.0);
+	Show(TEXT("<code>new</>"));
+	User.MouseUp(Button.TopLeft + Button.Size / 2.0);
+	EXPECT_EQ(ToUtf8(User.GetClipboard()), "before");
+	EXPECT_EQ(CopyByButton(), "new");
+}
+
+TEST_F(CodeWidget, Is620WideWithItsButtonInTheCorner)
+{
+	Show(TEXT("<code>a__NL__end</>"));
+	const FPlace Short = PlaceOf(GetBlock());
+	const FPlace Code = PlaceOf(FindOne(GetBlock(), TEXT("SMultiLineEditableText")));
+	const FPlace Button = PlaceOf(FindOne(GetBlock(), TEXT("SButton")));
+	EXPECT_EQ(Short.TopLeft, FVector2D(4.0, 4.0));
+	EXPECT_EQ(Code.TopLeft - Short.TopLeft, FVector2D(10.0, 0.0));
+	EXPECT_EQ(Short.Size - Code.Size, FVector2D(20.0, 10.0));
+	EXPECT_EQ(Button.TopLeft.X + Button.Size.X, Short.TopLeft.X + 612.0);
+	EXPECT_EQ(Button.TopLeft.Y, Short.TopLeft.Y + 8.0);
+
+	for (const double Width : {900.0, 300.0})
+	{
+		User.Resize(FVector2D(Width, 400.0));
+		Show(FString(TEXT("<code>")) + FString::ChrN(500, TEXT('W')) + TEXT("__NL__end</>"));
+		EXPECT_EQ(PlaceOf(GetBlock()).Size, FVector2D(620.0, Short.Size.Y)) << Width;
+	}
+}
+
+TEST_F(CodeWidget, CutsLongLinesOffAtItsEdge)
+{
+	Show(FString(TEXT("<code>")) + FString::ChrN(500, TEXT('W')) + TEXT("</>"));
+	const QImage Picture = User.Picture();
+	const FPlace Code = PlaceOf(FindOne(GetBlock(), TEXT("SMultiLineEditableText")));
+	int LastLit = 0;
+	for (int Column = 0; Column < Picture.width(); ++Column)
+	{
+		const int Row = static_cast<int>(Code.TopLeft.Y + Code.Size.Y) - 6;
+		LastLit = qGray(Picture.pixel(Column, Row)) > 150 ? Column : LastLit;
+	}
+	EXPECT_LT(LastLit, Code.TopLeft.X + Code.Size.X);
+	EXPECT_GT(LastLit, Code.TopLeft.X + Code.Size.X - 20.0);
+}
+
+TEST_F(CodeWidget, IsOneInvisibleCharacterOfItsMessage)
+{
+	Show(TEXT("a <code>x</> b"));
+	User.ClickAt(FVector2D(6.0, PlaceOf(GetBlock()).Size.Y));
+	User.Press(TEXT("Ctrl+A"));
+	User.Press(TEXT("Ctrl+C"));
+	EXPECT_EQ(ToUtf8(User.GetClipboard()), "a \xE2\x80\x8B b");
+	User.Type(TEXT("typed"));
+	EXPECT_EQ(ReadTexts(GetView()).find("typed"), std::string::npos);
+}
+
+TEST_F(CodeWidget, IsMadeByTheDecoratorWithWhatTheMarkupSaid)
+{
+	const TSharedRef<SWidget> Owner = SNew(SMarkdownTextbox);
+	const TSharedRef<FSlateTextLayout> Layout = FSlateTextLayout::Create(*Owner, FTextBlockStyle::GetDefault());
+	const FString Markup(TEXT("cpp x__nl__y"));
+	FTextRunParseResults Result(TEXT("Code"), FTextRange(0, Markup.Len()), FTextRange(4, Markup.Len()));
+	Result.MetaData.Add(TEXT("lang"), FTextRange(0, 3));
+	const TSharedRef<FString> Model = MakeShared<FString>(TEXT("before "));
+
+	const TSharedRef<ITextDecorator> Decorator = FCodeBlockDecorator::Create();
+	EXPECT_TRUE(Decorator->Supports(Result, Markup));
+	EXPECT_FALSE(Decorator->Supports(FTextRunParseResults(TEXT("codes"), FTextRange(0, 1), FTextRange(0, 1)), Markup));
+	const TSharedRef<ISlateRun> Run = Decorator->Create(Layout, Result, Markup, Model, nullptr);
+	EXPECT_EQ(ToUtf8(*Model), "before \xE2\x80\x8B");
+	EXPECT_EQ(Run->GetTextRange(), FTextRange(7, 8));
+	EXPECT_EQ(ToUtf8(Run->GetRunInfo().Name), "Code");
+	ASSERT_NE(Run->GetRunInfo().MetaData.Find(TEXT("lang")), nullptr);
+	EXPECT_EQ(ToUtf8(*Run->GetRunInfo().MetaData.Find(TEXT("lang"))), "cpp");
+	EXPECT_EQ(Run->GetBaseLine(1.5f), 0);
+	EXPECT_EQ(ReadTexts(Run->GetWidget().ToSharedRef()), "x\ny");
+}
