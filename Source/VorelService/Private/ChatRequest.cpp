@@ -34,7 +34,6 @@ bool ReadContent(const json& Content, std::string& OutText)
 
 bool ReadMessages(const json& Messages, FChatRequest& OutRequest, std::string& OutError)
 {
-	bool bHasQuestion = false;
 	for (const json& Message : Messages)
 	{
 		std::string Text;
@@ -47,12 +46,15 @@ bool ReadMessages(const json& Messages, FChatRequest& OutRequest, std::string& O
 		OutRequest.PromptPieces += CutIntoPieces(Text).size();
 		if (Message["role"] == "user")
 		{
-			OutRequest.Question = std::move(Text);
-			bHasQuestion = true;
+			OutRequest.Questions.push_back(std::move(Text));
 		}
 	}
-	OutError = bHasQuestion ? "" : "\"messages\" holds no message of the role \"user\".";
-	return bHasQuestion;
+	if (OutRequest.Questions.empty())
+	{
+		OutError = "\"messages\" holds no message of the role \"user\".";
+		return false;
+	}
+	return true;
 }
 
 bool IsTrue(const json& Object, const char* Key)

@@ -4,12 +4,13 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 // What the service takes from the body of a chat-completions request.
 struct FChatRequest
 {
-	// Text of the last message of the user.
-	std::string Question;
+	// Texts of the user's messages, the one to answer last. Never empty.
+	std::vector<std::string> Questions;
 	bool bStream = false;
 	bool bIncludeUsage = false;
 	std::size_t PromptPieces = 0;

@@ -5,168 +5,137 @@
 #include "QuestionWords.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <map>
-#include <set>
-#include <sqlite3.h>
-#include <sstream>
+#include <cmath>
 
 namespace
 {
-struct FFinalize
-{
-	void operator()(sqlite3_stmt* Statement) const { sqlite3_finalize(Statement); }
-};
-using FStatement = std::unique_ptr<sqlite3_stmt, FFinalize>;
+// What a word in a running text proves, where one of the subject proves 1.
+constexpr double TextProof = 0.4;
 
-FStatement Prepare(sqlite3* Database, const char* Sql)
+constexpr double MinKnownShare = 0.5;
+
+// An article that scores less than this share of the best one is about something else.
+constexpr double MinScoreShare = 0.25;
+
+constexpr double InheritedInfluence = 0.5;
+
+// How far a chain of questions that refer back is followed.
+constexpr std::ptrdiff_t MaxQuestionsBack = 6;
+
+// As bm25 weighs a word that so many of all articles hold.
+double GetRarity(std::size_t Holders, std::size_t All)
 {
-	sqlite3_stmt* Statement = nullptr;
-	sqlite3_prepare_v2(Database, Sql, -1, &Statement, nullptr);
-	return FStatement(Statement);
+	return std::log(1.0 + (static_cast<double>(All - Holders) + 0.5) / (static_cast<double>(Holders) + 0.5));
 }
 
-void Bind(const FStatement& Statement, int Index, const std::string& Text)
+void AddAlternative(std::string& Expression, const std::string& Other)
 {
-	sqlite3_bind_text(Statement.get(), Index, Text.data(), static_cast<int>(Text.size()), SQLITE_TRANSIENT);
-}
-
-// Question words hold no double quotes.
-std::string Quote(const std::string& Word)
-{
-	return '"' + Word + '"';
-}
-
-// Takes the prefix off the front line of the text; the front line must begin with it.
-bool TakeLine(std::string& Text, const std::string& Prefix, std::string& OutRest)
-{
-	if (Text.compare(0, Prefix.size(), Prefix) != 0)
-	{
-		return false;
-	}
-	const std::size_t End = std::min(Text.find('\n'), Text.size());
-	OutRest = Text.substr(Prefix.size(), End - Prefix.size());
-	Text.erase(0, End);
-	Text.erase(0, Text.find_first_not_of('\n'));
-	return !OutRest.empty();
-}
-
-bool ReadArticle(const std::filesystem::path& File, FGuideArticle& OutArticle)
-{
-	std::ifstream Stream(File, std::ios::binary);
-	std::ostringstream Buffer;
-	Buffer << Stream.rdbuf();
-	OutArticle.Text = Buffer.str();
-	return TakeLine(OutArticle.Text, "# ", OutArticle.Title) && TakeLine(OutArticle.Text, "Keywords: ", OutArticle.Keywords);
-}
-
-std::vector<std::filesystem::path> ListArticleFiles(const std::string& Folder)
-{
-	std::vector<std::filesystem::path> Files;
-	std::error_code Error;
-	for (const std::filesystem::directory_entry& Entry : std::filesystem::directory_iterator(Folder, Error))
-	{
-		if (Entry.path().extension() == ".md")
-		{
-			Files.push_back(Entry.path());
-		}
-	}
-	std::sort(Files.begin(), Files.end());
-	return Files;
+	Expression += (Expression.empty() ? "" : " OR ") + Other;
 }
 } // namespace
 
-void FGuide::FCloseDatabase::operator()(sqlite3* Handle) const
+// What is known about a question so far.
+struct FGuide::FRating
 {
-	sqlite3_close(Handle);
-}
+	// By article.
+	std::vector<double> Scores;
 
-FGuide::FGuide(std::vector<FGuideArticle> InArticles, sqlite3* InDatabase)
+	// Weights of the question's words: those that the guide knows, and all of them.
+	double Known = 0.0;
+	double All = 0.0;
+
+	// Any of the words.
+	std::string Expression{};
+};
+
+FGuide::FGuide(std::vector<FGuideArticle> InArticles, std::unique_ptr<FGuideIndex> InIndex)
 	: Articles(std::move(InArticles))
-	, Database(InDatabase)
+	, Index(std::move(InIndex))
 {
 }
 
 std::unique_ptr<FGuide> FGuide::Load(const std::string& Folder, std::string& OutError)
 {
-	std::vector<FGuideArticle> Articles;
-	for (const std::filesystem::path& File : ListArticleFiles(Folder))
-	{
-		if (!ReadArticle(File, Articles.emplace_back()))
-		{
-			OutError = "The guide's article " + File.string() + " has no title or no keywords.";
-			return nullptr;
-		}
-	}
-	if (Articles.empty())
-	{
-		OutError = "The built-in guide has no articles in " + Folder + ".";
-		return nullptr;
-	}
-	sqlite3* Handle = nullptr;
-	sqlite3_open(":memory:", &Handle);
-	std::unique_ptr<FGuide> Guide(new FGuide(std::move(Articles), Handle));
-	return Guide->BuildIndex(OutError) ? std::move(Guide) : nullptr;
+	std::vector<FGuideArticle> Articles = ReadGuideArticles(Folder, OutError);
+	std::unique_ptr<FGuideIndex> Index = Articles.empty() ? nullptr : FGuideIndex::Build(Articles, OutError);
+	return Index ? std::unique_ptr<FGuide>(new FGuide(std::move(Articles), std::move(Index))) : nullptr;
 }
 
-bool FGuide::BuildIndex(std::string& OutError)
+std::vector<FGuideFinding> FGuide::Find(const std::vector<std::string>& Questions) const
 {
-	const char* Create = "CREATE VIRTUAL TABLE Article USING fts5(Title, Keywords, Text, tokenize = 'porter unicode61')";
-	bool bOk = sqlite3_exec(Database.get(), Create, nullptr, nullptr, nullptr) == SQLITE_OK;
-	for (std::size_t Index = 0; bOk && Index < Articles.size(); ++Index)
-	{
-		const FStatement Insert = Prepare(Database.get(), "INSERT INTO Article (rowid, Title, Keywords, Text) VALUES (?, ?, ?, ?)");
-		sqlite3_bind_int64(Insert.get(), 1, static_cast<sqlite3_int64>(Index));
-		Bind(Insert, 2, Articles[Index].Title);
-		Bind(Insert, 3, Articles[Index].Keywords);
-		Bind(Insert, 4, Articles[Index].Text);
-		bOk = sqlite3_step(Insert.get()) == SQLITE_DONE;
-	}
-	if (!bOk)
-	{
-		OutError = std::string("The built-in guide can't be indexed: ") + sqlite3_errmsg(Database.get()) + ".";
-	}
-	return bOk;
-}
-
-std::vector<std::int64_t> FGuide::Match(const std::string& Expression) const
-{
-	const FStatement Select =
-		Prepare(Database.get(), "SELECT rowid FROM Article WHERE Article MATCH ? ORDER BY bm25(Article, 10.0, 6.0, 1.0)");
-	Bind(Select, 1, Expression);
-	std::vector<std::int64_t> Rows;
-	while (sqlite3_step(Select.get()) == SQLITE_ROW)
-	{
-		Rows.push_back(sqlite3_column_int64(Select.get(), 0));
-	}
-	return Rows;
-}
-
-std::vector<const FGuideArticle*> FGuide::Find(const std::string& Question) const
-{
-	const std::vector<std::string> Words = GetQuestionWords(Question);
 	const std::lock_guard<std::mutex> Lock(Mutex);
-	std::set<std::int64_t> Subjects;
-	std::map<std::int64_t, std::size_t> WordsHit;
-	std::string AnyWord;
+	FRating Rating{.Scores = std::vector<double>(Articles.size())};
+	double Influence = 1.0;
+	const auto End = Questions.rbegin() + std::min(std::ssize(Questions), MaxQuestionsBack);
+	for (auto Question = Questions.rbegin(); Question != End; ++Question)
+	{
+		const FQuestionWords Words = GetQuestionWords(*Question);
+		Rate(Words.Words, Influence, Rating);
+		if (!Words.bRefersBack)
+		{
+			break;
+		}
+		Influence *= InheritedInfluence;
+	}
+	return Rating.Known > 0.0 && Rating.Known >= MinKnownShare * Rating.All ? Rank(Rating) : std::vector<FGuideFinding>();
+}
+
+void FGuide::Rate(const std::vector<std::string>& Words, double Influence, FRating& Rating) const
+{
+	std::vector<double> Covered(Articles.size());
+	std::vector<bool> IsSubject(Articles.size());
+	double All = 0.0;
+	std::string Expression;
 	for (const std::string& Word : Words)
 	{
-		AnyWord += (AnyWord.empty() ? "" : " OR ") + Quote(Word);
-		const std::vector<std::int64_t> InSubject = Match("{Title Keywords} : " + Quote(Word));
-		Subjects.insert(InSubject.begin(), InSubject.end());
-		for (const std::int64_t Row : Match(Quote(Word)))
+		const std::string InText = Index->GetExpression(Word);
+		const std::string InSubject = FGuideIndex::InSubject(InText);
+		const std::vector<FGuideIndex::FHit> TextHits = Index->FindArticles(InText);
+		const std::vector<FGuideIndex::FHit> SubjectHits = Index->FindArticles(InSubject);
+		const double Rarity = GetRarity((SubjectHits.empty() ? TextHits : SubjectHits).size(), Articles.size());
+		All += Rarity;
+		Rating.Known += Rarity * (!SubjectHits.empty() ? 1.0 : !TextHits.empty() ? TextProof : 0.0);
+		for (const FGuideIndex::FHit& Hit : TextHits)
 		{
-			++WordsHit[Row];
+			Covered[Hit.Index] += Rarity * TextProof;
 		}
+		for (const FGuideIndex::FHit& Hit : SubjectHits)
+		{
+			Covered[Hit.Index] += Rarity * (1.0 - TextProof);
+			IsSubject[Hit.Index] = true;
+		}
+		// Twice, so that a word that is the subject of few articles counts by that, however many texts hold it.
+		AddAlternative(Expression, InText + " OR " + InSubject);
+		AddAlternative(Rating.Expression, InText);
 	}
-	std::vector<const FGuideArticle*> Found;
-	for (const std::int64_t Row : Words.empty() ? std::vector<std::int64_t>() : Match(AnyWord))
+	Rating.All += All;
+	for (const FGuideIndex::FHit& Hit : Index->FindArticles(Expression))
 	{
-		if (Subjects.count(Row) || WordsHit[Row] * 3 >= Words.size() * 2)
+		Rating.Scores[Hit.Index] += IsSubject[Hit.Index] ? Influence * Hit.Score * Covered[Hit.Index] / All : 0.0;
+	}
+}
+
+std::vector<FGuideFinding> FGuide::Rank(const FRating& Rating) const
+{
+	std::vector<std::size_t> Order;
+	const double Least = MinScoreShare * *std::max_element(Rating.Scores.begin(), Rating.Scores.end());
+	for (std::size_t Article = 0; Article < Articles.size(); ++Article)
+	{
+		if (Rating.Scores[Article] > 0.0 && Rating.Scores[Article] >= Least)
 		{
-			Found.push_back(&Articles[static_cast<std::size_t>(Row)]);
+			Order.push_back(Article);
 		}
 	}
-	return Found;
+	std::stable_sort(Order.begin(), Order.end(), [&](std::size_t A, std::size_t B) { return Rating.Scores[A] > Rating.Scores[B]; });
+
+	std::vector<FGuideFinding> Findings;
+	for (const std::size_t Article : Order)
+	{
+		FGuideFinding& Finding = Findings.emplace_back(FGuideFinding{&Articles[Article], {}});
+		for (const FGuideIndex::FHit& Hit : Index->FindSections(Article, Rating.Expression))
+		{
+			Finding.Sections.push_back(Hit.Index);
+		}
+	}
+	return Findings;
 }

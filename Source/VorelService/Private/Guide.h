@@ -2,54 +2,52 @@
 
 #pragma once
 
-#include <cstdint>
+#include "GuideArticle.h"
+#include "GuideIndex.h"
+
 #include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
 
-struct sqlite3;
-
-struct FGuideArticle
+struct FGuideFinding
 {
-	std::string Title;
+	const FGuideArticle* Article;
 
-	// Words of the subject that people use and the text need not, separated by blanks. Never shown.
-	std::string Keywords;
-
-	// Markdown without the title line.
-	std::string Text;
+	// The article's sections that hold words of the question, best first, by their position.
+	std::vector<std::size_t> Sections;
 };
 
-// The bundled articles and a full-text index over them. Safe to ask from several threads.
+// The bundled articles and what they know about a question. Safe to ask from several threads.
 class FGuide
 {
 public:
-	// Reads every *.md of the folder: "# Title", then "Keywords: ...", then the text. Null with a sentence in OutError when there is no
-	// article or one of them has no title line.
+	// Null with a sentence in OutError when the articles can't be read or indexed.
 	static std::unique_ptr<FGuide> Load(const std::string& Folder, std::string& OutError);
 
 	// In the order of their file names.
 	const std::vector<FGuideArticle>& GetArticles() const { return Articles; }
 
-	// The articles that answer the question, best first. Empty when none is about it: a word in a running text alone proves little, so an
-	// article counts if a word hits its title or keywords, or if its text holds most of the question's words.
-	std::vector<const FGuideArticle*> Find(const std::string& Question) const;
+	// The articles that answer the last of a conversation's questions, best first. Empty when the guide is not about it.
+	//
+	// A word weighs by its rarity among the articles' subjects (titles, headings, keywords): what no article holds weighs most. The guide
+	// takes a question for its own when at least half of that weight is known to it; a word in running texts alone proves little and
+	// counts less. An article must have a word of the question among its subjects to be found. Articles are ranked by bm25 and by the
+	// share of the question that they cover. A question that refers back ("And how do I stop it?") inherits half of what the one before
+	// it was about.
+	std::vector<FGuideFinding> Find(const std::vector<std::string>& Questions) const;
 
 private:
-	struct FCloseDatabase
-	{
-		void operator()(sqlite3* Handle) const;
-	};
+	struct FRating;
 
-	FGuide(std::vector<FGuideArticle> InArticles, sqlite3* InDatabase);
+	FGuide(std::vector<FGuideArticle> InArticles, std::unique_ptr<FGuideIndex> InIndex);
 
-	bool BuildIndex(std::string& OutError);
-	std::vector<std::int64_t> Match(const std::string& Expression) const;
+	void Rate(const std::vector<std::string>& Words, double Influence, FRating& Rating) const;
+	std::vector<FGuideFinding> Rank(const FRating& Rating) const;
 
 	std::vector<FGuideArticle> Articles;
-	std::unique_ptr<sqlite3, FCloseDatabase> Database;
+	std::unique_ptr<FGuideIndex> Index;
 
-	// One statement at a time; a look-up takes well under a millisecond.
+	// One question at a time.
 	mutable std::mutex Mutex;
 };

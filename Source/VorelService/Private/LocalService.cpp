@@ -177,7 +177,7 @@ void FLocalService::FServer::ServeChat(const httplib::Request& Request, httplib:
 		Refuse(Response, 400, Error);
 		return;
 	}
-	const FChatReply Reply(Chat, ComposeGuideAnswer(*Guide, Chat.Question));
+	const FChatReply Reply(Chat, ComposeGuideAnswer(*Guide, Chat.Questions));
 	if (Chat.bStream)
 	{
 		Stream(Response, Reply.MakeEvents());

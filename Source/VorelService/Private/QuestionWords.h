@@ -5,6 +5,15 @@
 #include <string>
 #include <vector>
 
-// The words that a question is about: lower case, each once, in order, without those that any question may hold ("how", "use", "please").
-// Only the first 64 are taken, so that a pasted file costs no more than a question.
-std::vector<std::string> GetQuestionWords(const std::string& Question);
+struct FQuestionWords
+{
+	// What the question is about: lower case, each once, in order, without numbers and without what any question may hold ("how", "use",
+	// "please").
+	std::vector<std::string> Words;
+
+	// It leans on the question before it, by a word such as "it" or "and", or by having no words of its own.
+	bool bRefersBack = false;
+};
+
+// Only the first 64 words are taken, so that a pasted file costs no more than a question.
+FQuestionWords GetQuestionWords(const std::string& Question);
