@@ -2,6 +2,7 @@
 
 #include "MarkdownSource.h"
 
+#include "InlineLimits.h"
 #include "LinePrefix.h"
 #include "TableRow.h"
 #include <algorithm>
@@ -30,12 +31,13 @@ bool IsLowSurrogate(char32_t Unit)
 	return (Unit & 0xFC00) == 0xDC00;
 }
 
-// At the end of the text it may still become a pair or a fence, and behind a backslash it is text anyway.
-bool IsSingleTilde(FStringView Text, std::ptrdiff_t Position)
+// Noncharacters that stand for these.
+constexpr char32_t FirstVeil = 0xFDD0;
+constexpr std::u32string_view Veiled = U"~[:.";
+
+bool IsVeil(char32_t CodePoint)
 {
-	const TCHAR* At = Text.GetData() + Position;
-	const TCHAR Before = Position > 0 ? At[-1] : TCHAR(0);
-	return At + 1 != Text.end() && At[1] != '~' && Before != '~' && Before != '\\';
+	return CodePoint >= FirstVeil && CodePoint < FirstVeil + Veiled.size();
 }
 
 template <typename VisitorType>
@@ -151,8 +153,11 @@ void FMarkdownSource::Convert(FStringView Markdown)
 		++At;
 	}
 	Bytes.reserve(static_cast<size_t>(End - At) + static_cast<size_t>(End - At) / 8);
+	FInlineLimits Limits(Markdown);
+	Limits.BeginLine(0);
 	while (At != End)
 	{
+		const auto Position = static_cast<int32>(At - Markdown.begin());
 		char32_t CodePoint = *At++;
 		if (IsHighSurrogate(CodePoint) && At != End && IsLowSurrogate(*At))
 		{
@@ -162,8 +167,12 @@ void FMarkdownSource::Convert(FStringView Markdown)
 		{
 			++At;
 		}
-		const bool bSingleTilde = CodePoint == '~' && IsSingleTilde(Markdown, At - Markdown.begin() - 1);
-		AppendUtf8(Bytes, bSingleTilde ? TildeMark : Sanitize(CodePoint));
+		CodePoint = Limits.MustBeText(Position) ? FirstVeil + static_cast<char32_t>(Veiled.find(CodePoint)) : Sanitize(CodePoint);
+		AppendUtf8(Bytes, CodePoint);
+		if (CodePoint == '\n')
+		{
+			Limits.BeginLine(static_cast<int32>(At - Markdown.begin()));
+		}
 	}
 }
 
@@ -203,7 +212,12 @@ char32_t FMarkdownSource::Sanitize(char32_t CodePoint)
 	}
 	const bool bControl = CodePoint < 0x20 || (CodePoint >= 0x7F && CodePoint < 0xA0);
 	const bool bLoneSurrogate = CodePoint >= 0xD800 && CodePoint < 0xE000;
-	return bControl || bLoneSurrogate || CodePoint == TildeMark ? ReplacementCharacter : CodePoint;
+	return bControl || bLoneSurrogate || IsVeil(CodePoint) ? ReplacementCharacter : CodePoint;
+}
+
+char32_t FMarkdownSource::Unveil(char32_t CodePoint)
+{
+	return IsVeil(CodePoint) ? Veiled[CodePoint - FirstVeil] : CodePoint;
 }
 
 void FMarkdownSource::AppendUtf8(std::string& Out, char32_t CodePoint)

@@ -14,14 +14,14 @@ public:
 	// Stands before a character that must not begin a construct. It means nothing and is dropped when text is written.
 	static constexpr char GuardMark = '\x01';
 
-	// A noncharacter that stands for a single "~", which md4c 0.4.8 would take as the beginning or end of struck text wherever it is: "~5
-	// to ~10 minutes".
-	static constexpr char32_t TildeMark = 0xFDD0;
-
 	static constexpr char32_t ReplacementCharacter = 0xFFFD;
 
 	// What is written for a character: a newline for each kind of line end, the replacement character for what nobody can see.
 	static char32_t Sanitize(char32_t CodePoint);
+
+	// A character that must be text is veiled in the source, and becomes itself again when text is written.
+	static char32_t Unveil(char32_t CodePoint);
+
 	static void AppendUtf8(std::string& Out, char32_t CodePoint);
 
 	explicit FMarkdownSource(FStringView Markdown);

@@ -101,7 +101,7 @@ void AddText(FString& Out, std::string_view Utf8, AddAsciiType AddAscii)
 		if (static_cast<uint8>(Utf8[Position]) >= 0x80)
 		{
 			const char32_t CodePoint = ReadCodePoint(Utf8, Position);
-			Buffer.AddCodePoint(CodePoint == FMarkdownSource::TildeMark ? U'~' : CodePoint);
+			Buffer.AddCodePoint(FMarkdownSource::Unveil(CodePoint));
 			continue;
 		}
 		if (Utf8[Position] != FMarkdownSource::GuardMark)
