@@ -227,7 +227,9 @@ void FUserDriver::SetScale(float InScale)
 
 TSharedPtr<SWidget> FUserDriver::Find(const FString& Text) const
 {
-	return FindWidgetByText(Window->GetContent(), Text);
+	const TSharedPtr<SWidget> Popup = Window->GetPopup();
+	const TSharedPtr<SWidget> InPopup = Popup.IsValid() ? FindWidgetByText(Popup.ToSharedRef(), Text) : nullptr;
+	return InPopup.IsValid() ? InPopup : FindWidgetByText(Window->GetContent(), Text);
 }
 
 TSharedPtr<SWidget> FUserDriver::GetFocused() const

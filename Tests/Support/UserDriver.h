@@ -18,7 +18,7 @@ class SWindow;
  * A user before a window with a widget in it. The words act through input events alone; after each, frames run without time passing until
  * nothing is left to do. Places are in units from the window's top left corner. A text names the first widget, in the order of the tree,
  * that shows it, or has it as hint, accessible name or tag; an equal one comes before one that only contains it, and an inner one before
- * what it stands in. What cannot be done fails the test, and prints the tree.
+ * what it stands in; an open popup comes before the rest. What cannot be done fails the test, and prints the tree.
  *
  * There is one Slate application for all drivers that live at a time; the first chooses its fonts.
  */

@@ -96,6 +96,17 @@ bool SWidget::HasKeyboardFocus() const
 	return FSlateApplication::IsInitialized() && FSlateApplication::Get().GetKeyboardFocusedWidget().Get() == this;
 }
 
+bool SWidget::HasAnyUserFocusOrFocusedDescendants() const
+{
+	const TSharedPtr<SWidget> Focused = FSlateApplication::Get().GetKeyboardFocusedWidget();
+	const SWidget* Around = Focused.Get();
+	while (Around != nullptr && Around != this)
+	{
+		Around = Around->Parent;
+	}
+	return Around != nullptr;
+}
+
 bool SWidget::HasMouseCapture() const
 {
 	return FSlateApplication::IsInitialized() && FSlateApplication::Get().GetMouseCaptor().Get() == this;

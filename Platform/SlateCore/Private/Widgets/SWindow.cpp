@@ -3,8 +3,16 @@
 #include "Widgets/SWindow.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Layout/LayoutUtils.h"
+#include "Widgets/SPopupLayer.h"
 
-SWindow::SWindow() = default;
+SWindow::SWindow()
+	: Layers(*this)
+{
+	Layers.AddSlot(MakeUnique<FBasicLayoutSlot>());
+}
+
+SWindow::~SWindow() = default;
 
 void SWindow::Construct(const FArguments& InArgs)
 {
@@ -14,7 +22,72 @@ void SWindow::Construct(const FArguments& InArgs)
 
 void SWindow::SetContent(const TSharedRef<SWidget>& InContent)
 {
-	ChildSlot[InContent];
+	Layers[0].AttachWidget(InContent);
+}
+
+void SWindow::OpenPopup(const TSharedRef<SWidget>& Anchor, const TSharedRef<SWidget>& Popup, const FSimpleDelegate& OnClosed)
+{
+	ClosePopup();
+	FocusBeforePopup = FSlateApplication::Get().GetKeyboardFocusedWidget();
+	PopupLayer = SNew(SPopupLayer).Anchor(Anchor).OnDismissed(this, &SWindow::ClosePopup).OnClosed(OnClosed)[Popup];
+	Layers.AddSlot(MakeUnique<FBasicLayoutSlot>()).AttachWidget(PopupLayer.ToSharedRef());
+}
+
+void SWindow::ClosePopup()
+{
+	if (!PopupLayer.IsValid())
+	{
+		return;
+	}
+	const TSharedRef<SPopupLayer> Closed = PopupLayer.ToSharedRef();
+	PopupLayer.Reset();
+	const bool bHadFocus = Closed->HasAnyUserFocusOrFocusedDescendants();
+	Layers.RemoveAt(1);
+	Invalidate(EInvalidateWidgetReason::Layout);
+	if (bHadFocus)
+	{
+		FSlateApplication::Get().SetKeyboardFocus(FocusBeforePopup.Pin());
+	}
+	Closed->NotifyClosed();
+}
+
+TSharedPtr<SWidget> SWindow::GetPopup() const
+{
+	return PopupLayer.IsValid() ? TSharedPtr<SWidget>(PopupLayer->GetContent()) : nullptr;
+}
+
+void SWindow::UpdatePopup()
+{
+	if (PopupLayer.IsValid() && !PopupLayer->IsAnchored())
+	{
+		ClosePopup();
+	}
+	else if (PopupLayer.IsValid())
+	{
+		PopupLayer->FollowAnchor();
+	}
+}
+
+void SWindow::NoteFocusChanged()
+{
+	if (PopupLayer.IsValid() && !PopupLayer->HasAnyUserFocusOrFocusedDescendants())
+	{
+		ClosePopup();
+	}
+}
+
+FVector2D SWindow::ComputeDesiredSize(float) const
+{
+	return ComputeSlotDesiredSize(Layers[0]);
+}
+
+void SWindow::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const
+{
+	// A popup comes after the content, in which its anchor has its place by then.
+	for (int32 Index = 0; Index < Layers.Num(); ++Index)
+	{
+		ArrangeSingleChild(AllottedGeometry, ArrangedChildren, Layers[Index]);
+	}
 }
 
 void SWindow::SetClientArea(const FVector2D& SizeInPixels, float InScale)

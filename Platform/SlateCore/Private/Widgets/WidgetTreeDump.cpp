@@ -113,6 +113,10 @@ FString FWidgetTreeDump::Dump(const SWindow& Window)
 	FDumper Dumper(Window.GetDPIScaleFactor());
 	const TSharedRef<SWidget>& Content = Window.GetContent();
 	Dumper.Add(*Content, Content->GetCachedGeometry(), FSurroundings());
+	if (const TSharedPtr<SWidget> Popup = Window.GetPopup())
+	{
+		Dumper.Add(*Popup, Popup->GetCachedGeometry(), FSurroundings());
+	}
 	return Dumper.Text;
 }
 

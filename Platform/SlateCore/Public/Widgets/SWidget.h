@@ -106,6 +106,7 @@ public:
 	const FSlotBase* GetAssignedSlot() const { return AssignedSlot; }
 	bool IsHovered() const { return bIsHovered; }
 	bool HasKeyboardFocus() const;
+	bool HasAnyUserFocusOrFocusedDescendants() const;
 	bool HasMouseCapture() const;
 
 	// Seen from outside: the tree dump, tests, assistive technology

@@ -13,7 +13,8 @@ class SWindow;
  *   SType x,y wxh [collapsed] [hidden] [disabled] [focused] ["text"] [hint="..."] [name="..."] [tag=...]
  *
  * Positions and sizes are in units from the top left corner of the window's content, with at most two decimals. What is scrolled out of
- * view is listed where it would stand; collapsed widgets and what is in them stand at 0,0 with no size.
+ * view is listed where it would stand; an open popup follows the content as a further root; collapsed widgets and what is in them stand at
+ * 0,0 with no size.
  */
 class FWidgetTreeDump
 {

@@ -58,6 +58,17 @@ void FSlateApplication::RemoveWindow(const TSharedRef<SWindow>& Window)
 	Windows.Remove(Window);
 }
 
+TSharedPtr<SWindow> FSlateApplication::FindWidgetWindow(const TSharedRef<const SWidget>& Widget) const
+{
+	TSharedPtr<SWidget> Top = ConstCastSharedRef<SWidget>(Widget);
+	while (const TSharedPtr<SWidget> Around = Top->GetParentWidget())
+	{
+		Top = Around;
+	}
+	const TSharedRef<SWindow>* Window = Windows.FindByPredicate([&Top](const TSharedRef<SWindow>& Each) { return Top == Each; });
+	return Window != nullptr ? TSharedPtr<SWindow>(*Window) : nullptr;
+}
+
 void FSlateApplication::Tick(float DeltaTime)
 {
 	CurrentTime += DeltaTime;

@@ -39,6 +39,10 @@ void FSlateFocus::Set(const TSharedPtr<SWidget>& Widget, EFocusCause Cause)
 			Around->OnFocusChanging(Widget.ToSharedRef(), FFocusEvent(Cause));
 		}
 		Application.ProcessReply(Widget->OnFocusReceived(Widget->GetCachedGeometry(), FFocusEvent(Cause)));
+		if (const TSharedPtr<SWindow> Window = Application.FindWidgetWindow(Widget.ToSharedRef()))
+		{
+			Window->NoteFocusChanged();
+		}
 	}
 }
 
@@ -83,7 +87,9 @@ bool FSlateFocus::KeyDown(SWindow& Window, const FKeyEvent& Event)
 void FSlateFocus::Step(SWindow& Window, bool bForward)
 {
 	TArray<TSharedRef<SWidget>> Stops;
-	CollectFocusable(Window, Stops);
+	// Tab walks round in what is open above the rest.
+	const TSharedPtr<SWidget> Popup = Window.GetPopup();
+	CollectFocusable(Popup.IsValid() ? *Popup : Window, Stops);
 	if (Stops.IsEmpty())
 	{
 		return;

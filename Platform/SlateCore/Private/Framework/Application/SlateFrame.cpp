@@ -18,6 +18,7 @@ void FSlateFrame::Run(const TArray<TSharedRef<SWindow>>& Windows, double Current
 	{
 		ReadAttributes(*Window);
 		TickWidgets(*Window, CurrentTime, DeltaTime);
+		Window->UpdatePopup();
 		LayOut(*Window);
 		Paint(*Window);
 	}
@@ -120,6 +121,7 @@ void FSlateFrame::LayOut(SWindow& Window)
 		Window.Arrange(Geometry, Geometry.GetLayoutBoundingRect());
 		// What came into view just now has not been read in this frame.
 		ReadAttributes(Window);
+		Window.UpdatePopup();
 	}
 }
 

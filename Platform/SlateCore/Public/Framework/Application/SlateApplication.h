@@ -43,6 +43,9 @@ public:
 	void AddWindow(const TSharedRef<SWindow>& Window);
 	void RemoveWindow(const TSharedRef<SWindow>& Window);
 
+	/** Null for a widget that is part of none. */
+	TSharedPtr<SWindow> FindWidgetWindow(const TSharedRef<const SWidget>& Widget) const;
+
 	/** One frame of all windows. */
 	void Tick(float DeltaTime);
 	double GetCurrentTime() const { return CurrentTime; }
