@@ -5,22 +5,19 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Layout/LayoutUtils.h"
 #include "Styling/CoreStyle.h"
-
-namespace
-{
-constexpr float LengthTolerance = 0.01f;
-constexpr float MaxBarThickness = 12.0f;
-} // namespace
+#include "Widgets/Layout/ScrollBar.h"
 
 SScrollBox::SScrollBox()
 	: Children(*this)
 {
 }
 
+SScrollBox::~SScrollBox() = default;
+
 void SScrollBox::Construct(const FArguments& InArgs)
 {
-	BarStyle =
-		InArgs._ScrollBarStyle != nullptr ? InArgs._ScrollBarStyle : &FCoreStyle::Get().GetWidgetStyle<FScrollBarStyle>(TEXT("ScrollBar"));
+	Bar = MakeUnique<FScrollBar>(*this,
+		InArgs._ScrollBarStyle != nullptr ? *InArgs._ScrollBarStyle : FCoreStyle::Get().GetWidgetStyle<FScrollBarStyle>(TEXT("ScrollBar")));
 	for (FSlot::FSlotArguments& Slot : InArgs._Slots)
 	{
 		Children.AddSlot(Slot.StealSlot());
@@ -37,42 +34,27 @@ void SScrollBox::ScrollToEnd()
 void SScrollBox::SetScrollOffset(float NewOffset)
 {
 	bScrollToEnd = false;
-	const float Clamped = ClampOffset(NewOffset);
-	if (ScrollOffset != Clamped)
-	{
-		ScrollOffset = Clamped;
-		Invalidate(EInvalidateWidgetReason::Layout);
-	}
+	Bar->SetOffset(NewOffset);
+}
+
+float SScrollBox::GetScrollOffset() const
+{
+	return static_cast<float>(Bar->GetOffset());
+}
+
+float SScrollBox::GetScrollOffsetOfEnd() const
+{
+	return static_cast<float>(Bar->GetOffsetOfEnd());
 }
 
 void SScrollBox::ScrollDescendantIntoView(const TSharedRef<SWidget>& Widget)
 {
 	const FGeometry Room = Widget->ComputeGeometry();
 	const FGeometry& Own = GetCachedGeometry();
-	const float Top = static_cast<float>(Own.AbsoluteToLocal(Room.LocalToAbsolute(FVector2D(0.0, 0.0))).Y);
-	const float Bottom = static_cast<float>(Own.AbsoluteToLocal(Room.LocalToAbsolute(Room.GetLocalSize())).Y);
-	const float Beyond = FMath::Max(0.0f, Bottom - ViewLength);
-	SetScrollOffset(ScrollOffset + FMath::Min(Top, Beyond));
-}
-
-float SScrollBox::GetScrollOffsetOfEnd() const
-{
-	return FMath::Max(0.0f, ContentLength - ViewLength);
-}
-
-float SScrollBox::ClampOffset(float Offset) const
-{
-	return FMath::Clamp(Offset, 0.0f, GetScrollOffsetOfEnd());
-}
-
-bool SScrollBox::IsBarShown() const
-{
-	return ContentLength > ViewLength + LengthTolerance;
-}
-
-float SScrollBox::GetBarThickness() const
-{
-	return FMath::Min(BarStyle->Thickness, MaxBarThickness);
+	const double Top = Own.AbsoluteToLocal(Room.LocalToAbsolute(FVector2D(0.0, 0.0))).Y;
+	const double Bottom = Own.AbsoluteToLocal(Room.LocalToAbsolute(Room.GetLocalSize())).Y;
+	const double Beyond = FMath::Max(0.0, Bottom - Bar->GetViewLength());
+	SetScrollOffset(static_cast<float>(Bar->GetOffset() + FMath::Min(Top, Beyond)));
 }
 
 FVector2D SScrollBox::ComputeDesiredSize(float) const
@@ -88,29 +70,30 @@ FVector2D SScrollBox::ComputeDesiredSize(float) const
 
 void SScrollBox::OnArranged(const FGeometry& AllottedGeometry)
 {
-	ContentLength = static_cast<float>(GetDesiredSize().Y);
-	ViewLength = static_cast<float>(AllottedGeometry.GetLocalSize().Y);
+	Bar->SetLengths(GetDesiredSize().Y, AllottedGeometry.GetLocalSize().Y);
 	if (bScrollToEnd)
 	{
 		const uint64 Frame = FSlateApplication::Get().GetFrameNumber();
 		ScrollToEndFrame = ScrollToEndFrame == 0 ? Frame : ScrollToEndFrame;
 		bScrollToEnd = ScrollToEndFrame == Frame;
 	}
-	ScrollOffset = bScrollToEnd ? GetScrollOffsetOfEnd() : ClampOffset(ScrollOffset);
+	if (bScrollToEnd)
+	{
+		Bar->GoToEnd();
+	}
 }
 
 void SScrollBox::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const
 {
-	const float Width = static_cast<float>(AllottedGeometry.GetLocalSize().X) - (IsBarShown() ? GetBarThickness() : 0.0f);
-	float Offset = -ScrollOffset;
+	const double Width = FMath::Max(0.0, AllottedGeometry.GetLocalSize().X - Bar->GetThickness());
+	double Offset = -Bar->GetOffset();
 	for (int32 Index = 0; Index < Children.Num(); ++Index)
 	{
 		const FSlot& Slot = Children[Index];
 		const FVector2D Wish = ComputeSlotDesiredSize(Slot);
-		const FGeometry Room =
-			AllottedGeometry.MakeChild(FVector2D(FMath::Max(0.0f, Width), Wish.Y), FSlateLayoutTransform(FVector2D(0.0, Offset)));
+		const FGeometry Room = AllottedGeometry.MakeChild(FVector2D(Width, Wish.Y), FSlateLayoutTransform(FVector2D(0.0, Offset)));
 		ArrangeSingleChild(Room, ArrangedChildren, Slot);
-		Offset += static_cast<float>(Wish.Y);
+		Offset += Wish.Y;
 	}
 }
 
@@ -119,20 +102,6 @@ int32 SScrollBox::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeome
 {
 	const int32 MaxLayerId =
 		SPanel::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);
-	if (!IsBarShown())
-	{
-		return MaxLayerId;
-	}
-	const FVector2D Size = AllottedGeometry.GetLocalSize();
-	const auto DrawPart = [&](const FSlateBrush& Brush, const FThumb& Part)
-	{
-		const FSlateLayoutTransform Place(FVector2D(Size.X - GetBarThickness(), Part.Offset));
-		FSlateDrawElement::MakeBox(OutDrawElements, MaxLayerId,
-			AllottedGeometry.ToPaintGeometry(FVector2D(GetBarThickness(), Part.Length), Place), &Brush, ESlateDrawEffect::None,
-			InWidgetStyle.GetColorAndOpacityTint() * Brush.GetTint(InWidgetStyle));
-	};
-	DrawPart(BarStyle->VerticalBackgroundImage, {0.0f, ViewLength});
-	DrawPart(DragGrip.IsSet() ? BarStyle->DraggedThumbImage : (bBarHovered ? BarStyle->HoveredThumbImage : BarStyle->NormalThumbImage),
-		GetThumb());
+	Bar->Paint(AllottedGeometry, OutDrawElements, MaxLayerId, InWidgetStyle);
 	return MaxLayerId;
 }

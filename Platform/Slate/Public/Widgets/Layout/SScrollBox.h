@@ -6,6 +6,8 @@
 #include "Styling/SlateTypes.h"
 #include "Widgets/SPanel.h"
 
+class FScrollBar;
+
 enum class EAllowOverscroll : uint8
 {
 	Yes,
@@ -37,6 +39,7 @@ public:
 	SLATE_END_ARGS()
 
 	SScrollBox();
+	virtual ~SScrollBox() override;
 	void Construct(const FArguments& InArgs);
 
 	static FSlot::FSlotArguments Slot() { return FSlot::FSlotArguments(MakeUnique<FSlot>()); }
@@ -46,7 +49,7 @@ public:
 
 	/** Beyond the end counts as the end. */
 	void SetScrollOffset(float NewOffset);
-	float GetScrollOffset() const { return ScrollOffset; }
+	float GetScrollOffset() const;
 	float GetScrollOffsetOfEnd() const;
 
 	/** Scrolls no further than needed to see it; of what is longer than the view, the beginning. */
@@ -71,35 +74,12 @@ protected:
 		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
 
 private:
-	/** The scroll bar's parts along the box, in units. */
-	struct FThumb
-	{
-		float Offset = 0.0f;
-		float Length = 0.0f;
-	};
-
-	bool IsBarShown() const;
-	float GetBarThickness() const;
-	bool IsInBar(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) const;
-	FThumb GetThumb() const;
-	FReply ScrollByUser(float NewOffset);
-	void DragThumbTo(float LocalY);
-	void SetBarHovered(bool bInHovered);
-	float ClampOffset(float Offset) const;
+	FReply ScrollByUser(double NewOffset);
 
 	TPanelChildren<FSlot> Children;
-	const FScrollBarStyle* BarStyle = nullptr;
-
-	/** In units; of the last layout. */
-	float ContentLength = 0.0f;
-	float ViewLength = 0.0f;
-	float ScrollOffset = 0.0f;
+	TUniquePtr<FScrollBar> Bar;
 
 	/** ScrollToEnd was asked for; it holds for all layout passes of the frame in which it is first seen. */
 	bool bScrollToEnd = false;
 	uint64 ScrollToEndFrame = 0;
-
-	bool bBarHovered = false;
-	/** While the thumb is dragged: where in it the mouse took hold, in units. */
-	TOptional<float> DragGrip;
 };
