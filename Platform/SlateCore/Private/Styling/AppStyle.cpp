@@ -127,7 +127,7 @@ void FEditorStyle::SetComboBox()
 			FSlateRoundedBoxBrush(EditorTheme::FromScreen(EditorTheme::Dropdown), 4.0f, EditorTheme::FromScreen(EditorTheme::Hover2), 1.0f))
 		.SetMenuBorderPadding(FMargin(4.0f));
 	FComboBoxStyle ComboBox;
-	ComboBox.SetComboButtonStyle(ComboButton);
+	ComboBox.SetComboButtonStyle(ComboButton).SetMenuRowPadding(FMargin(8.0f, 4.0f, 8.0f, 4.0f));
 	Set(TEXT("SimpleComboBox"), ComboBox);
 }
 

@@ -21,6 +21,7 @@ private:
 	void SetText();
 	void SetButton();
 	void SetScrollBar();
+	void SetComboBoxRow();
 };
 } // namespace
 
@@ -30,6 +31,7 @@ FControlStyle::FControlStyle()
 	SetText();
 	SetButton();
 	SetScrollBar();
+	SetComboBoxRow();
 	FSlateStyleRegistry::RegisterSlateStyle(*this);
 }
 
@@ -71,6 +73,19 @@ void FControlStyle::SetScrollBar()
 		.SetDraggedThumbImage(MakeThumb(EditorTheme::Foreground))
 		.SetThickness(8.0f);
 	Set(TEXT("ScrollBar"), ScrollBar);
+}
+
+void FControlStyle::SetComboBoxRow()
+{
+	const auto MakeBrush = [](uint32 Digits)
+	{
+		return FSlateRoundedBoxBrush(EditorTheme::FromScreen(Digits), 2.0f);
+	};
+	FTableRowStyle Row;
+	Row.SetActiveBrush(MakeBrush(EditorTheme::Selection))
+		.SetActiveHoveredBrush(MakeBrush(EditorTheme::SelectionHover))
+		.SetInactiveHoveredBrush(MakeBrush(EditorTheme::Hover));
+	Set(TEXT("ComboBox.Row"), Row);
 }
 
 const ISlateStyle& FCoreStyle::Get()

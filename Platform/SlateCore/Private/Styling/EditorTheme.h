@@ -30,6 +30,7 @@ inline constexpr uint32 Hover2 = 0x4F5564;
 
 /** Behind selected text. */
 inline constexpr uint32 Selection = 0x264F8C;
+inline constexpr uint32 SelectionHover = 0x2A5699;
 
 inline constexpr uint32 AccentBlue = 0x2459C4;
 inline constexpr uint32 AccentRed = 0xB8262B;

@@ -19,6 +19,7 @@ SLATE_DEFINE_STYLE_TYPE(FButtonStyle)
 SLATE_DEFINE_STYLE_TYPE(FCheckBoxStyle)
 SLATE_DEFINE_STYLE_TYPE(FComboButtonStyle)
 SLATE_DEFINE_STYLE_TYPE(FComboBoxStyle)
+SLATE_DEFINE_STYLE_TYPE(FTableRowStyle)
 SLATE_DEFINE_STYLE_TYPE(FHyperlinkStyle)
 SLATE_DEFINE_STYLE_TYPE(FScrollBarStyle)
 
@@ -70,6 +71,13 @@ FComboButtonStyle::FComboButtonStyle()
 }
 
 FComboBoxStyle::FComboBoxStyle() = default;
+
+FTableRowStyle::FTableRowStyle()
+	: ActiveBrush(FSlateNoResource())
+	, ActiveHoveredBrush(FSlateNoResource())
+	, InactiveHoveredBrush(FSlateNoResource())
+{
+}
 
 FHyperlinkStyle::FHyperlinkStyle() = default;
 

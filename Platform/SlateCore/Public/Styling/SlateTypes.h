@@ -96,6 +96,19 @@ struct FComboBoxStyle : public FSlateWidgetStyle
 	SLATE_STYLE_FIELD(FComboBoxStyle, FMargin, MenuRowPadding)
 };
 
+/** Behind the row of a list; a brush that draws nothing for the others. */
+struct FTableRowStyle : public FSlateWidgetStyle
+{
+	FTableRowStyle();
+	SLATE_STYLE_TYPE(FTableRowStyle)
+
+	/** The selected row, and while it is highlighted. */
+	SLATE_STYLE_FIELD(FTableRowStyle, FSlateBrush, ActiveBrush)
+	SLATE_STYLE_FIELD(FTableRowStyle, FSlateBrush, ActiveHoveredBrush)
+	/** The row that the keyboard or the mouse is at. */
+	SLATE_STYLE_FIELD(FTableRowStyle, FSlateBrush, InactiveHoveredBrush)
+};
+
 struct FHyperlinkStyle : public FSlateWidgetStyle
 {
 	FHyperlinkStyle();

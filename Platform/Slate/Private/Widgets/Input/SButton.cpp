@@ -101,7 +101,8 @@ FReply SButton::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEve
 	{
 		return SBorder::OnKeyDown(MyGeometry, InKeyEvent);
 	}
-	SetPressed(true);
+	// A key that was held since before presses nothing.
+	SetPressed(bIsPressed || !InKeyEvent.IsRepeat());
 	return FReply::Handled();
 }
 

@@ -1,0 +1,68 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Widgets/Input/PrefixSearch.h"
+
+#include "Containers/Ticker.h"
+
+namespace
+{
+constexpr float SecondsToForget = 1.0f;
+/** A row takes some microseconds to build. */
+constexpr int32 MostReadsPerFrame = 256;
+} // namespace
+
+void FPrefixSearch::Type(TCHAR Character, int32 Highlighted, int32 InNumOptions)
+{
+	Prefix += Character;
+	FTSTicker::RemoveTicker(ForgetHandle);
+	ForgetHandle = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateSP(this, &FPrefixSearch::ForgetPrefix), SecondsToForget);
+
+	NumOptions = InNumOptions;
+	NumLeft = InNumOptions;
+	// A first letter leaves the option it is typed at, further ones may keep it.
+	Next = FMath::Max(0, Prefix.Len() == 1 ? Highlighted + 1 : Highlighted);
+	if (Continue(0.0f) && !bContinuing)
+	{
+		bContinuing = true;
+		FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateSP(this, &FPrefixSearch::Continue));
+	}
+}
+
+void FPrefixSearch::Reset()
+{
+	Prefix.Empty();
+	Texts.Empty();
+	NumLeft = 0;
+}
+
+bool FPrefixSearch::ForgetPrefix(float)
+{
+	Prefix.Empty();
+	return false;
+}
+
+bool FPrefixSearch::Continue(float)
+{
+	for (int32 Count = 0; Count < MostReadsPerFrame && NumLeft > 0; ++Count)
+	{
+		const int32 Index = Next % NumOptions;
+		Next = Index + 1;
+		--NumLeft;
+		if (GetText(Index).StartsWith(Prefix))
+		{
+			NumLeft = 0;
+			OnFound.ExecuteIfBound(Index);
+		}
+	}
+	bContinuing = bContinuing && NumLeft > 0;
+	return NumLeft > 0;
+}
+
+const FString& FPrefixSearch::GetText(int32 Index)
+{
+	if (const FString* Known = Texts.Find(Index))
+	{
+		return *Known;
+	}
+	return Texts.Add(Index, ReadOption.IsBound() ? ReadOption.Execute(Index) : FString());
+}

@@ -1,0 +1,27 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Widgets/Layout/SBorder.h"
+
+struct FTableRowStyle;
+
+/** One option in the list of a combo box. */
+class SComboRow final : public SBorder
+{
+public:
+	SLATE_BEGIN_ARGS(SComboRow) {}
+	SLATE_STYLE_ARGUMENT(FTableRowStyle, Style)
+	SLATE_ARGUMENT(FMargin, Padding)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_END_ARGS()
+
+	void Construct(const FArguments& InArgs);
+
+	void SetState(bool bInHighlighted, bool bInSelected);
+	bool IsSelected() const { return bSelected; }
+
+private:
+	const FTableRowStyle* Style = nullptr;
+	bool bSelected = false;
+};

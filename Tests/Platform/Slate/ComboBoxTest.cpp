@@ -1,0 +1,279 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Containers/Ticker.h"
+#include "Support/UserDriver.h"
+#include "Widgets/Input/SButton.h"
+#include "Widgets/Input/SComboBox.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/SWindow.h"
+#include "Widgets/Text/STextBlock.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+using FOption = TSharedPtr<FString>;
+using SOptionBox = SComboBox<FOption>;
+
+/** A box in the corner of a window of 200 by 300, over options "a 0", "b 1", "c 2", "a 3" and so on. Each row has a button "x<index>". */
+class ComboBox : public testing::Test
+{
+protected:
+	ComboBox() { Add(3); }
+
+	void Add(int32 Count)
+	{
+		for (int32 Last = Options.Num() + Count; Options.Num() < Last;)
+		{
+			const int32 Index = Options.Num();
+			Options.Add(MakeShared<FString>(FString::Printf(TEXT("%s %d"),
+				Index % 3 == 0   ? TEXT("a")
+				: Index % 3 == 1 ? TEXT("b")
+								 : TEXT("c"),
+				Index)));
+		}
+	}
+
+	void SetOptions(int32 Count)
+	{
+		Options.Empty();
+		Add(Count);
+		Box->RefreshOptions();
+		User.Frame();
+	}
+
+	TSharedRef<SWidget> MakeRow(FOption Option)
+	{
+		++NumRowsMade;
+		if (!Option.IsValid())
+		{
+			return SNew(STextBlock).Text(FText::FromString(TEXT("(none)")));
+		}
+		const FString Name = TEXT("x") + Option->RightChop(2);
+		// clang-format off
+		return SNew(SHorizontalBox)
+			+ SHorizontalBox::Slot().FillWidth(1.0f)[SNew(STextBlock).Text(FText::FromString(*Option))]
+			+ SHorizontalBox::Slot().AutoWidth()
+			[
+				SNew(SButton)
+				.Text(FText::FromString(Name))
+				.OnClicked_Lambda([this, Option]
+				{
+					Options.Remove(Option);
+					Box->RefreshOptions();
+					return FReply::Handled();
+				})
+			];
+		// clang-format on
+	}
+
+	void NoteSelection(FOption Option, ESelectInfo::Type SelectInfo)
+	{
+		const TCHAR* const Ways[] = {TEXT("key"), TEXT("navigation"), TEXT("click"), TEXT("code")};
+		Changes += (Option.IsValid() ? *Option : FString(TEXT("null"))) + TEXT(" by ") + Ways[SelectInfo] + TEXT(";");
+	}
+
+	FString TakeChanges()
+	{
+		FString Taken = MoveTemp(Changes);
+		Changes = FString();
+		return Taken;
+	}
+
+	/** Opens the list and presses keys, or types what begins with a quote; tells what Enter chooses then. */
+	FString ChooseBy(std::initializer_list<const TCHAR*> Keys)
+	{
+		Box->SetSelectedItem(nullptr);
+		User.Press(TEXT("Down"));
+		for (const TCHAR* Key : Keys)
+		{
+			Key[0] == u'\'' ? User.Type(Key + 1) : User.Press(Key);
+		}
+		TakeChanges();
+		User.Press(TEXT("Enter"));
+		User.Press(TEXT("Escape"));
+		return TakeChanges();
+	}
+
+	TArray<FOption> Options;
+	FString Changes;
+	int32 NumRowsMade = 0;
+	TSharedPtr<SOptionBox> Box;
+	TSharedPtr<SVerticalBox> Column;
+	// clang-format off
+	FUserDriver User{
+		SAssignNew(Column, SVerticalBox)
+		+ SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Left)
+		[
+			SAssignNew(Box, SOptionBox)
+			.OptionsSource(&Options)
+			.OnGenerateWidget_Lambda([this](FOption Option) { return MakeRow(Option); })
+			.OnSelectionChanged_Lambda([this](FOption Option, ESelectInfo::Type SelectInfo) { NoteSelection(Option, SelectInfo); })
+			[
+				SNew(STextBlock).Text(FText::FromString(TEXT("Pick")))
+			]
+		],
+		FVector2D(200.0, 300.0), 1.0f, EDriverFonts::Even};
+	// clang-format on
+};
+} // namespace
+
+TEST_F(ComboBox, AClickOpensItAClickChoosesAndTheSameAgainIsNotReported)
+{
+	User.Click(TEXT("Pick"));
+	EXPECT_TRUE(Box->IsOpen());
+	EXPECT_TRUE(User.Sees(TEXT("c 2")));
+	User.Click(TEXT("b 1"));
+	EXPECT_FALSE(Box->IsOpen());
+	EXPECT_EQ(TakeChanges(), TEXT("b 1 by click;"));
+	EXPECT_TRUE(Box->HasKeyboardFocus());
+
+	User.Click(TEXT("Pick"));
+	User.Click(TEXT("b 1"));
+	EXPECT_FALSE(Box->IsOpen());
+	EXPECT_EQ(TakeChanges(), FString());
+	Box->SetSelectedItem(Options[1]);
+	Box->SetSelectedItem(Options[2]);
+	EXPECT_EQ(TakeChanges(), TEXT("c 2 by code;"));
+	EXPECT_EQ(Box->GetSelectedItem(), Options[2]);
+}
+
+TEST_F(ComboBox, ClosesWithoutAChoice)
+{
+	User.Click(TEXT("Pick"));
+	User.ClickAt(FVector2D(10.0, 5.0));
+	EXPECT_FALSE(Box->IsOpen()) << "a click on the box itself closes it too";
+	User.Press(TEXT("Enter"));
+	EXPECT_TRUE(Box->IsOpen());
+	User.Press(TEXT("Down"));
+	User.Press(TEXT("Escape"));
+	EXPECT_FALSE(Box->IsOpen());
+	User.Press(TEXT("SpaceBar"));
+	EXPECT_TRUE(Box->IsOpen());
+	User.ClickAt(FVector2D(190.0, 290.0));
+	EXPECT_FALSE(Box->IsOpen());
+	EXPECT_EQ(TakeChanges(), FString());
+}
+
+TEST_F(ComboBox, KeysMoveTheHighlightAndEnterChooses)
+{
+	SetOptions(100);
+	User.Press(TEXT("Tab"));
+	EXPECT_EQ(ChooseBy({}), FString());
+	EXPECT_EQ(ChooseBy({TEXT("Down")}), TEXT("a 0 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("Down"), TEXT("Down"), TEXT("Down"), TEXT("Up")}), TEXT("b 1 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("Up")}), TEXT("a 99 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("End"), TEXT("Down")}), TEXT("a 99 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("End"), TEXT("Home"), TEXT("Up")}), TEXT("a 0 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("PageDown"), TEXT("PageDown"), TEXT("PageUp"), TEXT("PageUp")}), TEXT("a 0 by key;"));
+	User.Press(TEXT("Enter"));
+	User.Press(TEXT("PageDown"));
+	EXPECT_TRUE(User.Sees(TEXT("a 0"))) << "it moves the highlight within the view";
+	User.Press(TEXT("PageDown"));
+	EXPECT_FALSE(User.Sees(TEXT("a 0")));
+}
+
+TEST_F(ComboBox, TypingFindsAnOptionByItsBeginning)
+{
+	SetOptions(2000);
+	User.Press(TEXT("Tab"));
+	EXPECT_EQ(ChooseBy({TEXT("'B")}), TEXT("b 1 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("'c"), TEXT("' 5")}), TEXT("c 5 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("Down"), TEXT("'a")}), TEXT("a 3 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("End"), TEXT("'a")}), TEXT("a 0 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("'z")}), FString());
+	// Far options are found in the frames that follow.
+	User.Press(TEXT("Down"));
+	User.Type(TEXT("a 1998"));
+	for (int32 Count = 0; Count < 8; ++Count)
+	{
+		User.AdvanceTime(0.016f);
+	}
+	EXPECT_TRUE(User.Sees(TEXT("a 1998")));
+	User.AdvanceTime(1.1f);
+	User.Type(TEXT("b"));
+	User.Press(TEXT("Enter"));
+	EXPECT_EQ(TakeChanges(), TEXT("b 1999 by key;")) << "after a while, a letter begins anew";
+}
+
+TEST_F(ComboBox, OnlyRowsInViewAreMade)
+{
+	SetOptions(100'000);
+	Box->SetSelectedItem(Options[50'000]);
+	NumRowsMade = 0;
+	User.Click(TEXT("Pick"));
+	EXPECT_TRUE(User.Sees(TEXT("c 50000")));
+	User.Press(TEXT("End"));
+	EXPECT_TRUE(User.Sees(TEXT("a 99999")));
+	User.Press(TEXT("Home"));
+	EXPECT_TRUE(User.Sees(TEXT("a 0")));
+	EXPECT_LT(NumRowsMade, 100);
+	const int32 Before = NumRowsMade;
+	User.Wheel(TEXT("b 1"), -1.0f);
+	EXPECT_FALSE(User.Sees(TEXT("a 0")));
+	EXPECT_LT(NumRowsMade, Before + 5);
+	User.MouseDown(FVector2D(User.GetWindow()->GetPopup()->GetCachedGeometry().GetRenderBoundingRect().Right - 7.0, 290.0));
+	EXPECT_TRUE(User.Sees(TEXT("a 99999"))) << "dragged by its bar";
+}
+
+TEST_F(ComboBox, AButtonInARowIsTheButtonsAlone)
+{
+	User.Click(TEXT("Pick"));
+	User.Click(TEXT("x1"));
+	EXPECT_TRUE(Box->IsOpen());
+	EXPECT_FALSE(User.Sees(TEXT("b 1")));
+	EXPECT_EQ(TakeChanges(), FString());
+	User.Press(TEXT("Home"));
+	User.Press(TEXT("Tab"));
+	User.Press(TEXT("Enter"));
+	EXPECT_TRUE(Box->IsOpen()) << "the first row's button";
+	EXPECT_FALSE(User.Sees(TEXT("a 0")));
+	User.Press(TEXT("Enter"));
+	EXPECT_EQ(TakeChanges(), TEXT("c 2 by key;")) << "the list has the keys again";
+}
+
+TEST_F(ComboBox, ItsOptionsMayChangeWhileItIsOpen)
+{
+	User.Click(TEXT("Pick"));
+	SetOptions(1);
+	User.Click(TEXT("a 0"));
+	EXPECT_EQ(TakeChanges(), TEXT("a 0 by click;"));
+
+	User.Click(TEXT("Pick"));
+	User.Press(TEXT("End"));
+	Options.Empty();
+	User.Press(TEXT("Enter"));
+	EXPECT_EQ(TakeChanges(), FString()) << "also without a word";
+	EXPECT_TRUE(Box->IsOpen());
+	Options.Add(nullptr);
+	Box->RefreshOptions();
+	User.Click(TEXT("(none)"));
+	EXPECT_EQ(TakeChanges(), TEXT("null by click;"));
+	EXPECT_FALSE(Box->IsOpen());
+}
+
+TEST_F(ComboBox, DisabledOrGoneItsListCloses)
+{
+	User.Click(TEXT("Pick"));
+	Box->SetEnabled(false);
+	User.Frame();
+	EXPECT_FALSE(Box->IsOpen());
+	User.Click(TEXT("Pick"));
+	EXPECT_FALSE(Box->IsOpen());
+	Box->SetEnabled(true);
+	User.Click(TEXT("Pick"));
+	Column->ClearChildren();
+	Box.Reset();
+	User.Press(TEXT("Enter"));
+	User.ClickAt(FVector2D(50.0, 50.0));
+	EXPECT_FALSE(User.Sees(TEXT("a 0")));
+}
+
+TEST_F(ComboBox, OpensAboveWhereThereIsMoreRoom)
+{
+	Column->AddSlot(0).FillHeight(1.0f);
+	User.Frame();
+	User.Click(TEXT("Pick"));
+	const double BoxTop = Box->GetCachedGeometry().GetAbsolutePosition().Y;
+	EXPECT_LT(User.Find(TEXT("c 2"))->GetCachedGeometry().GetAbsolutePosition().Y, BoxTop);
+}
