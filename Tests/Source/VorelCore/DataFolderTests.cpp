@@ -1,7 +1,10 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "DataFolder.h"
-#include "FolderTest.h"
+#include "Support/Printers.h"
+#include "Support/TempFolder.h"
+#include <filesystem>
+#include <gtest/gtest.h>
 
 namespace
 {
@@ -25,10 +28,12 @@ private:
 	TOptional<std::string> OldValue;
 };
 
-class FDataFolderTest : public FFolderTest
+class FDataFolderTest : public testing::Test
 {
 protected:
 	~FDataFolderTest() override { FDataFolder::Set(FString()); }
+
+	FTempFolder Folder;
 };
 } // namespace
 
@@ -50,25 +55,25 @@ TEST_F(FDataFolderTest, FollowsTheBaseDirectoryConvention)
 
 TEST_F(FDataFolderTest, IsMadeOnDemandForItsOwnerAlone)
 {
-	FDataFolder::Set(InFolder("a/b/c"));
+	FDataFolder::Set(Folder.GetPath(TEXT("a/b/c")));
 	FString Error;
 	for (int32 Time = 0; Time < 2; ++Time)
 	{
 		EXPECT_TRUE(FDataFolder::Create(Error)) << Error;
 	}
 	using enum std::filesystem::perms;
-	EXPECT_EQ(std::filesystem::status(Folder / "a/b/c").permissions(), owner_all);
+	EXPECT_EQ(std::filesystem::status(TCHAR_TO_UTF8(FDataFolder::Get())).permissions(), owner_all);
 }
 
 TEST_F(FDataFolderTest, TellsWhyItCantBeMade)
 {
-	Write("file", "");
+	Folder.Write(TEXT("file"), "");
 	FString Error;
-	FDataFolder::Set(InFolder("file"));
+	FDataFolder::Set(Folder.GetPath(TEXT("file")));
 	EXPECT_FALSE(FDataFolder::Create(Error));
-	EXPECT_TRUE(Error.Contains(InFolder("file"))) << Error;
+	EXPECT_TRUE(Error.Contains(Folder.GetPath(TEXT("file")))) << Error;
 
-	FDataFolder::Set(InFolder("file/below"));
+	FDataFolder::Set(Folder.GetPath(TEXT("file/below")));
 	EXPECT_FALSE(FDataFolder::Create(Error));
 
 	FDataFolder::Set(FString());

@@ -1,13 +1,16 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "DataFolder.h"
-#include "FolderTest.h"
 #include "Modules/ModuleManager.h"
+#include "Support/LogCapture.h"
+#include "Support/Printers.h"
+#include "Support/TempFolder.h"
 #include "VorelUserSettings.h"
+#include <gtest/gtest.h>
 
 namespace
 {
-class FVorelUserSettingsTest : public FFolderTest
+class FVorelUserSettingsTest : public testing::Test
 {
 protected:
 	~FVorelUserSettingsTest() override { Settings->Load(FString()); }
@@ -15,21 +18,22 @@ protected:
 	// The warnings given, each without the path of the file.
 	TArray<FString> Load(std::string_view Text)
 	{
-		Write("settings.json", Text);
+		Folder.Write(TEXT("settings.json"), Text);
 		const FLogCapture Log;
-		Settings->Load(InFolder("settings.json"));
+		Settings->Load(Folder.GetPath(TEXT("settings.json")));
 		TArray<FString> Warnings;
 		for (const FLogCapture::FMessage& Message : Log.GetMessages())
 		{
 			EXPECT_EQ(Message.Category, FName(TEXT("LogVorel")));
 			EXPECT_EQ(Message.Verbosity, ELogVerbosity::Warning);
 			FString Warning = Message.Text;
-			EXPECT_TRUE(Warning.RemoveFromStart(InFolder("settings.json"))) << Warning;
+			EXPECT_TRUE(Warning.RemoveFromStart(Folder.GetPath(TEXT("settings.json")))) << Warning;
 			Warnings.Add(Warning);
 		}
 		return Warnings;
 	}
 
+	FTempFolder Folder;
 	const TObjectPtr<UVorelUserSettings> Settings = UVorelUserSettings::Get();
 };
 
@@ -39,7 +43,7 @@ using FWarnings = TArray<FString>;
 TEST_F(FVorelUserSettingsTest, DefaultsStandWhereThereIsNoFile)
 {
 	const FLogCapture Log;
-	Settings->Load(InFolder("missing.json"));
+	Settings->Load(Folder.GetPath(TEXT("missing.json")));
 	EXPECT_TRUE(Log.GetMessages().IsEmpty());
 	EXPECT_EQ(Settings->GetValues().ConnectTimeoutSeconds, 10.0);
 	EXPECT_EQ(Settings->GetValues().FirstByteTimeoutSeconds, 120.0);
@@ -103,14 +107,13 @@ TEST_F(FVorelUserSettingsTest, ABrokenFileIsReportedWithItsLineAndLeftAsItIs)
 	EXPECT_EQ(Load(Broken).Num(), 1);
 	EXPECT_TRUE(Settings->GetValues().AssistantUrl.IsEmpty());
 
-	std::ifstream File(Folder / "settings.json");
-	EXPECT_EQ(std::string(std::istreambuf_iterator<char>(File), {}), Broken);
+	EXPECT_EQ(Folder.Read(TEXT("settings.json")), Broken);
 }
 
 TEST_F(FVorelUserSettingsTest, TheModuleReadsTheFileOfTheDataFolder)
 {
-	Write("settings.json", R"({"assistantModel": "from the folder"})");
-	FDataFolder::Set(FString(Folder.c_str()));
+	Folder.Write(TEXT("settings.json"), R"({"assistantModel": "from the folder"})");
+	FDataFolder::Set(Folder.GetPath());
 	FModuleManager::Get().LoadModuleChecked(TEXT("VorelCore"));
 	EXPECT_EQ(Settings->GetValues().AssistantModel, TEXT("from the folder"));
 	FModuleManager::Get().UnloadModule(TEXT("VorelCore"));
