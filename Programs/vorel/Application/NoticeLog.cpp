@@ -20,10 +20,11 @@ FNoticeLog::~FNoticeLog()
 
 void FNoticeLog::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category)
 {
-	const bool bWanted = Category == FName(TEXT("LogDesktop")) || (bStartup && Category == FName(TEXT("LogVorel")));
+	const bool bWarns = Category == FName(TEXT("LogDesktop")) || (bStartup && Category == FName(TEXT("LogVorel")));
+	const bool bStoreTells = Category == FName(TEXT("LogVorelStore")) && Verbosity <= ELogVerbosity::Display;
 	// Other threads have no users.
 	const bool bGameThread = QThread::currentThread() == QCoreApplication::instance()->thread();
-	if (bWanted && bGameThread && Verbosity <= ELogVerbosity::Warning)
+	if (bGameThread && (bStoreTells || (bWarns && Verbosity <= ELogVerbosity::Warning)))
 	{
 		OnNotice(V);
 	}

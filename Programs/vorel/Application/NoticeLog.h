@@ -5,8 +5,8 @@
 #include "CoreMinimal.h"
 #include "Misc/OutputDevice.h"
 
-// Hears the log and hands on what a user should know of and no request will tell: what went wrong while the program started, and links that
-// could not be opened.
+// Hears the log and hands on what a user should know of and no request will tell: what went wrong while the program started, what the
+// store of conversations tells, and links that could not be opened.
 class FNoticeLog final : public FOutputDevice
 {
 public:

@@ -7,6 +7,7 @@
 #include "Account/LocalUserDataService.h"
 #include "Assistant/JsonText.h"
 #include "Chat/HttpChatService.h"
+#include "DataFolder.h"
 #include "LocalService.h"
 #include "LogVorel.h"
 #include "Misc/Paths.h"
@@ -55,7 +56,8 @@ FVorelClientServices::FVorelClientServices()
 	, UserDataService(MakeRooted<ULocalUserDataService>())
 	, UpdateService(MakeRooted<UInstalledUpdateService>())
 {
-	ChatService->Initialize(ChooseEndpoint(), ReadLimits());
+	const FString Folder = FDataFolder::Get();
+	ChatService->Initialize(ChooseEndpoint(), ReadLimits(), Folder.IsEmpty() ? FString() : Folder / FConversationStore::FileName);
 }
 
 FVorelClientServices::~FVorelClientServices()

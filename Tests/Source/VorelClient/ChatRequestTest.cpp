@@ -134,7 +134,7 @@ TEST_F(FChatRequestTest, PutsTextTogetherThatIsCutAnywhere)
 		});
 	Ask(TEXT("Hi"));
 	EXPECT_EQ(MaxChunksPerFrame, 1);
-	EXPECT_EQ(static_cast<UStoredMessage&>(*Service().GetCurrentConversation()->Messages.Last()).GetText(), TEXT("今😀 ok"));
+	EXPECT_EQ(Service().GetCurrentConversation()->Messages.Last()->Contents[0]->Text, TEXT("今😀 ok"));
 }
 
 TEST_F(FChatRequestTest, EndsAtTheEndMarkThoughTheConnectionStaysOpen)

@@ -33,7 +33,7 @@ bool PumpUntil(const TFunction<bool()>& bDone)
 
 bool WaitForFrameRequest()
 {
-	return RunEventLoopUntil([] { return FTSTicker::GetCoreTicker().GetTimeToNextTick().IsSet(); }, [] {});
+	return RunEventLoopUntil([] { return FTSTicker::GetCoreTicker().GetTimeToNextTick().Get(1.0f) <= 0.0f; }, [] {});
 }
 
 FChatClientTest::FChatClientTest()
@@ -44,10 +44,16 @@ FChatClientTest::FChatClientTest()
 
 FChatClientTest::~FChatClientTest()
 {
+	EndService();
+}
+
+void FChatClientTest::EndService()
+{
 	if (Made)
 	{
 		Made->Shutdown();
 		Made->RemoveFromRoot();
+		Made = nullptr;
 	}
 	CollectGarbage();
 }
@@ -58,7 +64,7 @@ UHttpChatService& FChatClientTest::Service()
 	{
 		Made = NewObject<UHttpChatService>();
 		Made->AddToRoot();
-		Made->Initialize(Endpoint, Limits);
+		Made->Initialize(Endpoint, Limits, StoreFile);
 		Made->OnRequestFailed.AddLambda([this](const FString& Error) { Record(TEXT("failed(") + Error + TEXT(")")); });
 		Made->OnRequestCompleted.AddLambda([this] { Record(TEXT("completed")); });
 		Made->OnChunkReceived.AddLambda(
@@ -77,11 +83,10 @@ UHttpChatService& FChatClientTest::Service()
 
 void FChatClientTest::RecordMessage(TObjectPtr<UMessage> Message)
 {
-	const UStoredMessage& Stored = static_cast<const UStoredMessage&>(*Message);
-	const TCHAR* const Kind = Stored.Role == EChatRole::User     ? TEXT("user")
-							  : Stored.End == EAnswerEnd::Failed ? TEXT("interrupted")
-																 : TEXT("answer");
-	Record(FString::Printf(TEXT("%s(%s)"), Kind, *Stored.GetText()));
+	FString Text = Message->Contents[0]->Text;
+	const bool bInterrupted = Text.RemoveFromEnd(GetAnswerNote(EAnswerEnd::Failed));
+	const TCHAR* const Kind = Message->Role == EChatRole::User ? TEXT("user") : bInterrupted ? TEXT("interrupted") : TEXT("answer");
+	Record(FString::Printf(TEXT("%s(%s)"), Kind, *Text));
 }
 
 void FChatClientTest::Record(const FString& Event)

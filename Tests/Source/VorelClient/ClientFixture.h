@@ -5,7 +5,7 @@
 #include "ScriptedServer.h"
 
 #include "Chat/HttpChatService.h"
-#include "Chat/StoredMessage.h"
+#include "Chat/AnswerNote.h"
 #include "Support/LogCapture.h"
 #include "Support/Printers.h"
 #include <gtest/gtest.h>
@@ -26,8 +26,11 @@ protected:
 	// Takes effect where it is called before the first use of the service.
 	FAssistantEndpoint Endpoint;
 	FRequestLimits Limits;
+	FString StoreFile;
 
 	UHttpChatService& Service();
+	// As at the end of the program; the next use begins anew.
+	void EndService();
 
 	// Sends and waits for the end; returns what was told since the last time.
 	FString Ask(const FString& Text);

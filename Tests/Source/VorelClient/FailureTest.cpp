@@ -213,7 +213,7 @@ TEST_F(FFailureTest, AnAddressThatIsNone)
 		Bad.Model = TEXT("m");
 		UHttpChatService* const Other = NewObject<UHttpChatService>();
 		Other->AddToRoot();
-		Other->Initialize(Bad, Limits);
+		Other->Initialize(Bad, Limits, FString());
 		FString Failure;
 		Other->OnRequestFailed.AddLambda([&Failure](const FString& Error) { Failure = Error; });
 		Other->SendMessage(TEXT("Hi"));

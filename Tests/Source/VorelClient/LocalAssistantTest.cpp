@@ -3,7 +3,9 @@
 #include "ClientFixture.h"
 
 #include "AuthenticationService.h"
+#include "DataFolder.h"
 #include "Modules/ModuleManager.h"
+#include "Support/TempFolder.h"
 #include "UserDataService.h"
 #include "VorelClient.h"
 #include "VorelClientOptions.h"
@@ -16,6 +18,7 @@ class FLocalAssistantTest : public testing::Test
 protected:
 	FLocalAssistantTest()
 	{
+		FDataFolder::Set(Folder.GetPath());
 		FVorelClientOptions::Set({.GuidePieceMilliseconds = 0});
 		FModuleManager::Get().LoadModuleChecked(TEXT("VorelClient"));
 	}
@@ -24,8 +27,11 @@ protected:
 	{
 		FModuleManager::Get().UnloadModule(TEXT("VorelClient"));
 		FVorelClientOptions::Set({});
+		FDataFolder::Set(FString());
 		CollectGarbage();
 	}
+
+	FTempFolder Folder;
 };
 
 TEST_F(FLocalAssistantTest, AnswersFromTheGuideWithoutConfiguration)

@@ -3,17 +3,9 @@
 #pragma once
 
 #include "Assistant/ServerSentEventParser.h"
+#include "ConversationRecord.h"
 #include <string>
 #include <string_view>
-
-enum class EAnswerEnd : uint8
-{
-	Complete,
-	// Complete as far as the protocol goes, but cut by the server.
-	LengthLimit,
-	ContentFilter,
-	Failed
-};
 
 struct FAnswerEnd
 {

@@ -12,6 +12,8 @@ FString GetAnswerNote(EAnswerEnd End)
 		return TEXT("\n\n") + LOCTEXT("LengthNote", "*The answer ends here because it reached the assistant's length limit.*").ToString();
 	case EAnswerEnd::ContentFilter:
 		return TEXT("\n\n") + LOCTEXT("FilterNote", "*The rest was withheld by the content rules of the assistant's provider.*").ToString();
+	case EAnswerEnd::Failed:
+		return TEXT("\n\n") + LOCTEXT("InterruptedNote", "*The answer was interrupted here.*").ToString();
 	default:
 		return FString();
 	}

@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "Assistant/AnswerReader.h"
+#include "ConversationRecord.h"
 
-// What is shown below an answer that the server cut, so that nobody takes it for whole. Markdown of our own, never sent to the assistant.
-// Empty for every other end.
+// What is shown below an answer that is not whole, so that nobody takes it for that. Markdown of our own, never sent to the assistant, and
+// stored nowhere. Empty for a complete one.
 FString GetAnswerNote(EAnswerEnd End);

@@ -14,7 +14,8 @@ FAnswerStream::FAnswerStream(FAssistantEndpoint& Endpoint, const FRequestLimits&
 	};
 	Call.OnEnded = [this](const FAnswerEnd& InEnd)
 	{
-		Waiting += GetAnswerNote(InEnd.Kind);
+		// An interrupted answer is shown anew, with its note.
+		Waiting += InEnd.Kind == EAnswerEnd::Failed ? FString() : GetAnswerNote(InEnd.Kind);
 		End = InEnd;
 		AskForFrame();
 	};

@@ -3,6 +3,7 @@
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QDateTime>
 #include <QLocale>
+#include <QUuid>
 
 #include "Chat/ConversationTitle.h"
 
@@ -12,10 +13,10 @@
 #include <unicode/uchar.h>
 #include <unicode/utf16.h>
 
+#define LOCTEXT_NAMESPACE "VorelClient"
+
 namespace
 {
-constexpr int32 MaxKeptLength = 400;
-
 // Where the character after the given number of them begins, at most the text's length.
 int32 FindEndOfCharacters(const FString& Text, int32 Count)
 {
@@ -29,10 +30,15 @@ int32 FindEndOfCharacters(const FString& Text, int32 Count)
 }
 } // namespace
 
+FString MakeConversationId()
+{
+	return ToFString(QUuid::createUuid().toString(QUuid::WithoutBraces));
+}
+
 FString MakeConversationTitle(const FString& FirstMessage)
 {
 	FString Title;
-	for (int32 Index = 0; Index < FirstMessage.Len() && Title.Len() < MaxKeptLength;)
+	for (int32 Index = 0; Index < FirstMessage.Len();)
 	{
 		UChar32 Character;
 		const int32 Start = Index;
@@ -47,6 +53,11 @@ FString MakeConversationTitle(const FString& FirstMessage)
 		}
 	}
 	return Title.TrimEnd();
+}
+
+FString GetShownTitle(const FString& Title)
+{
+	return Title.IsEmpty() ? LOCTEXT("Untitled", "Untitled").ToString() : Title;
 }
 
 FString ShortenTitle(const FString& Title, int32 MaxLength)
@@ -69,3 +80,5 @@ int64 GetCurrentTime()
 {
 	return QDateTime::currentMSecsSinceEpoch();
 }
+
+#undef LOCTEXT_NAMESPACE

@@ -4,8 +4,13 @@
 
 #include "CoreMinimal.h"
 
-// The message as one line without blanks at its ends, each white space within it as one blank; of a long message only the beginning.
+FString MakeConversationId();
+
+// The message as one line without blanks at its ends, each white space within it as one blank.
 FString MakeConversationTitle(const FString& FirstMessage);
+
+// What stands for a title that is empty, else the title.
+FString GetShownTitle(const FString& Title);
 
 // At most MaxLength characters as a reader counts them; what was cut ends with an ellipsis that counts too. Empty for a limit below 1.
 FString ShortenTitle(const FString& Title, int32 MaxLength);

@@ -8,27 +8,37 @@
 #include "Chat/StoredMessage.h"
 #include "LogVorel.h"
 
+// Half a second may be lost at most, and writing takes a moment.
+static constexpr float SecondsBetweenStores = 0.2f;
+
 UHttpChatService::~UHttpChatService()
 {
 	Shutdown();
 }
 
-void UHttpChatService::Initialize(const FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits)
+void UHttpChatService::Initialize(const FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits, const FString& StoreFile)
 {
 	check(!Current);
 	Endpoint = InEndpoint;
 	Limits = InLimits;
+	Conversations.OnForeignChange = [this]
+	{
+		HandleForeignChange();
+	};
+	Conversations.Open(StoreFile);
 	CurrentModeName = DefaultAgentChatModeName;
 	Current = Conversations.Create(CurrentModeName);
 }
 
 void UHttpChatService::Shutdown()
 {
-	if (Request && Request->Stream)
+	if (Request && !Request->bEnding && IsValid(Request->Conversation))
 	{
-		Request->Stream->Cancel();
+		Request->Answer += Request->Stream ? Request->Stream->Cancel() : FString();
+		StoreAnswer(EAnswerEnd::Failed);
 	}
 	Request.Reset();
+	Conversations.Close();
 	bShutDown = true;
 }
 
@@ -46,7 +56,7 @@ void UHttpChatService::SetCurrentChatMode(const FString& ModeName)
 {
 	if (const FChatMode* const Mode = FindChatMode(ModeName))
 	{
-		Current->ModeName = Mode->Name;
+		Conversations.SetMode(*Current, Mode->Name);
 		ChangeMode(Mode->Name);
 	}
 	else
@@ -96,9 +106,19 @@ void UHttpChatService::DeleteChatHistory(const FString& Id)
 	if (Current == Conversation)
 	{
 		CancelRequest(FailureText::ConversationDeleted());
-		Current = Conversations.Create(CurrentModeName);
 	}
-	Conversations.Remove(Id);
+	// A listener may have deleted it meanwhile, or opened another one.
+	if (!IsValid(Conversation))
+	{
+		return;
+	}
+	const bool bOpen = Current == Conversation;
+	Conversations.Remove(*Conversation);
+	if (bOpen)
+	{
+		Current = Conversations.Create(DefaultAgentChatModeName);
+		ChangeMode(DefaultAgentChatModeName);
+	}
 	TellHistoryChanged();
 }
 
@@ -122,8 +142,8 @@ void UHttpChatService::SendMessage(const FString& Text)
 	{
 		return;
 	}
-	UStoredMessage* const Message = UStoredMessage::Make(EChatRole::User, Text);
-	Conversations.Append(*Own->Conversation, Message);
+	UStoredMessage* const Message = UStoredMessage::Make({EChatRole::User, Text});
+	Conversations.Append(*Own->Conversation, Message, std::make_shared<int64>(0));
 	OnMessageAdded.Broadcast(Message);
 	if (Request == Own)
 	{
@@ -146,18 +166,16 @@ TArray<FChatMessage> UHttpChatService::MakeMessages() const
 	const UStoredConversation& Conversation = *Request->Conversation;
 	TArray<FChatMessage> Messages;
 	Messages.Add({EChatRole::System, FindChatMode(Conversation.ModeName)->Instructions});
-	for (const TObjectPtr<UMessage>& Message : Conversation.Messages)
+	for (const FMessageRecord& Message : Conversation.GetMessageRecords())
 	{
-		const UStoredMessage* const Stored = static_cast<const UStoredMessage*>(Message.Get());
-		FString Text = Stored->GetText();
-		Text.RemoveFromEnd(GetAnswerNote(Stored->End));
-		Messages.Add({Stored->Role, Text});
+		Messages.Add({Message.Role, Message.Text});
 	}
 	return Messages;
 }
 
 void UHttpChatService::StartAnswer()
 {
+	Request->Row = std::make_shared<int64>(0);
 	Request->Stream = MakeShared<FAnswerStream>(Endpoint, Limits);
 	Request->Stream->OnText = [this](const FString& Text)
 	{
@@ -173,18 +191,41 @@ void UHttpChatService::StartAnswer()
 void UHttpChatService::HandleText(const FString& Text)
 {
 	Request->Answer += Text;
+	if (!Request->Growth.IsValid())
+	{
+		Request->Growth = FTSTicker::GetCoreTicker().AddTicker(
+			FTickerDelegate::CreateUObject(this, &UHttpChatService::StoreGrowth), SecondsBetweenStores);
+	}
 	OnChunkReceived.Broadcast(Text);
+}
+
+bool UHttpChatService::StoreGrowth(float DeltaTime)
+{
+	Request->Growth.Reset();
+	Conversations.StoreGrowth(*Request->Conversation, Request->Answer, Request->Row);
+	return false;
+}
+
+// Null where nothing had arrived.
+UStoredMessage* UHttpChatService::StoreAnswer(EAnswerEnd End)
+{
+	if (Request->Answer.IsEmpty())
+	{
+		return nullptr;
+	}
+	FMessageRecord Record{EChatRole::Assistant, Request->Answer, End};
+	Record.Text.RemoveFromEnd(GetAnswerNote(End), ESearchCase::CaseSensitive);
+	UStoredMessage* const Answer = UStoredMessage::Make(Record);
+	Conversations.Append(*Request->Conversation, Answer, Request->Row);
+	return Answer;
 }
 
 void UHttpChatService::EndRequest(const FAnswerEnd& End)
 {
 	Request->bEnding = true;
 	bIsProcessingRequest = false;
-	if (!Request->Answer.IsEmpty())
+	if (UStoredMessage* const Answer = StoreAnswer(End.Kind))
 	{
-		UStoredMessage* const Answer = UStoredMessage::Make(EChatRole::Assistant, Request->Answer);
-		Answer->End = End.Kind;
-		Conversations.Append(*Request->Conversation, Answer);
 		OnMessageAdded.Broadcast(Answer);
 	}
 	// From here on the next message may be sent.
@@ -201,6 +242,10 @@ void UHttpChatService::EndRequest(const FAnswerEnd& End)
 	if (bHistoryChangeWaits)
 	{
 		TellHistoryChanged();
+	}
+	if (bForeignChangeWaits)
+	{
+		Conversations.MergeLater();
 	}
 }
 
@@ -220,9 +265,16 @@ void UHttpChatService::CancelRequest(const FText& Reason)
 void UHttpChatService::OpenConversation(UStoredConversation* Conversation)
 {
 	CancelRequest(FailureText::ConversationLeft());
+	UStoredConversation* const Left = Current;
+	Conversations.Load(*Conversation);
 	Current = Conversation;
 	ChangeMode(Conversation->ModeName);
 	TellHistoryChanged();
+	// A listener may have come back to it.
+	if (Left != Current && IsValid(Left))
+	{
+		Conversations.Release(*Left);
+	}
 }
 
 void UHttpChatService::ChangeMode(const FString& ModeName)
@@ -241,4 +293,19 @@ void UHttpChatService::TellHistoryChanged()
 	{
 		OnChatHistoryChanged.Broadcast();
 	}
+}
+
+void UHttpChatService::HandleForeignChange()
+{
+	bForeignChangeWaits = Request.IsValid();
+	if (bForeignChangeWaits || !Conversations.Merge(*Current))
+	{
+		return;
+	}
+	if (!IsValid(Current))
+	{
+		Current = Conversations.Create(DefaultAgentChatModeName);
+	}
+	ChangeMode(Current->ModeName);
+	TellHistoryChanged();
 }

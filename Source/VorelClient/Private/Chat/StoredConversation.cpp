@@ -5,22 +5,46 @@
 #include "Chat/ConversationTitle.h"
 #include "Chat/StoredMessage.h"
 
-#define LOCTEXT_NAMESPACE "VorelClient"
-
-UStoredMessage* UStoredMessage::Make(EChatRole InRole, const FString& Text)
+UStoredConversation* UStoredConversation::Make(const FConversationRecord& Record)
 {
-	UStoredMessage* const Message = NewObject<UStoredMessage>();
-	UMessageContent* const Content = NewObject<UMessageContent>(Message);
-	Content->Text = Text;
-	Message->Role = InRole;
-	Message->Contents.Add(Content);
-	return Message;
+	UStoredConversation* const Conversation = NewObject<UStoredConversation>();
+	Conversation->Id = Record.Id;
+	Conversation->SetRecord(Record);
+	return Conversation;
 }
 
-FString UStoredConversation::GetDisplayableTitle(bool bWithTime, int32 MaxLength)
+bool UStoredConversation::SetRecord(const FConversationRecord& Record)
 {
-	const FString Shown = ShortenTitle(Title.IsEmpty() ? LOCTEXT("Untitled", "Untitled").ToString() : Title, MaxLength);
-	return bWithTime ? FormatTimeOfUse(LastUsed, GetCurrentTime()) + TEXT(" ") + Shown : Shown;
+	const bool bSame = Title.Equals(Record.Title) && ModeName == Record.ModeName && LastUsed == Record.LastUsed;
+	Title = Record.Title;
+	ModeName = Record.ModeName;
+	Created = Record.Created;
+	LastUsed = Record.LastUsed;
+	return !bSame;
 }
 
-#undef LOCTEXT_NAMESPACE
+TArray<FMessageRecord> UStoredConversation::GetMessageRecords() const
+{
+	TArray<FMessageRecord> Records;
+	for (const TObjectPtr<UMessage>& Message : Messages)
+	{
+		Records.Add(static_cast<const UStoredMessage&>(*Message).GetRecord());
+	}
+	return Records;
+}
+
+void UStoredConversation::SetMessageRecords(const TArray<FMessageRecord>& Records)
+{
+	Messages.Reset();
+	Messages.Reserve(Records.Num());
+	for (const FMessageRecord& Record : Records)
+	{
+		Messages.Add(UStoredMessage::Make(Record));
+	}
+}
+
+FString UStoredConversation::GetDisplayableTitle(bool bShorten, int32 MaxLength)
+{
+	const FString Shown = ShortenTitle(GetShownTitle(Title), MaxLength);
+	return bShorten ? FormatTimeOfUse(LastUsed, GetCurrentTime()) + TEXT(" ") + Shown : Shown;
+}

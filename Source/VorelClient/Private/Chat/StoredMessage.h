@@ -2,16 +2,17 @@
 
 #pragma once
 
-#include "Assistant/AnswerReader.h"
-#include "Message.h"
+#include "ConversationRecord.h"
 
 class UStoredMessage final : public UMessage
 {
 public:
-	static UStoredMessage* Make(EChatRole InRole, const FString& Text);
+	// The shown text is the record's with the note that belongs to its end. An answer that grows in another program counts as complete.
+	static UStoredMessage* Make(const FMessageRecord& Record);
 
-	const FString& GetText() const { return Contents[0]->Text; }
+	// Without the note.
+	FMessageRecord GetRecord() const;
 
-	// How an answer ended. Failed: it was interrupted, and holds what had arrived by then.
+private:
 	EAnswerEnd End = EAnswerEnd::Complete;
 };

@@ -1,0 +1,19 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "Containers/Array.h"
+
+class FSqliteDatabase;
+class FString;
+
+// The statements that lead from each version of the store to the next; an empty file has version 0. A step that was ever published is never
+// changed.
+const TArray<const char*>& GetStoreMigrations();
+
+// Makes a connection ready for use: checks whose file it is and that it is whole, and runs the missing steps, each in a transaction of its
+// own. Unless it is new, the file is backed up before, beside it. Throws an FStoreError.
+void PrepareStore(FSqliteDatabase& Database, const FString& File, const TArray<const char*>& Migrations);
+
+// What every connection is set to.
+void ConfigureStore(FSqliteDatabase& Database);

@@ -1,0 +1,216 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "StoreFixture.h"
+
+#include "Store/SqliteDatabase.h"
+#include <fcntl.h>
+#include <fstream>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+// The rights of a user who is not root, until the end of the scope.
+class FPlainUserScope
+{
+public:
+	FPlainUserScope()
+	{
+		constexpr uid_t Nobody = 65534;
+		if (OldUser == 0)
+		{
+			check(::seteuid(Nobody) == 0);
+		}
+	}
+	~FPlainUserScope() { check(::seteuid(OldUser) == 0); }
+
+private:
+	const uid_t OldUser = ::geteuid();
+};
+
+class FStoreFailureTest : public FStoreTest
+{
+protected:
+	FStoreFailureTest()
+	{
+		::chmod(TCHAR_TO_UTF8(Folder.GetPath()), 0755);
+		FStoreError Error;
+		TArray<FMessageRecord> Messages;
+		for (int32 Number = 0; Number < 200; ++Number)
+		{
+			Messages.Add({EChatRole::User, FString::ChrN(500, TEXT('m'))});
+		}
+		const TUniquePtr<FConversationStore> Store = FConversationStore::Open(StoreFile, FConversationStore::EMissingFile::Create, Error);
+		check(!Store->AddConversation({TEXT("old"), TEXT("old"), TEXT("Ask"), 1, 1}, Messages));
+	}
+
+	std::string ReadStore() { return Folder.Read(FConversationStore::FileName); }
+	void WriteStore(std::string_view Bytes) { Folder.Write(FConversationStore::FileName, Bytes); }
+	void Execute(const char* Sql) { FSqliteDatabase(StoreFile, false).Execute(Sql); }
+
+	// The program starts, says this, and works as ever.
+	void ExpectWorksAndTells(const FString& Sentences, bool bOldThere = false)
+	{
+		EXPECT_EQ(GetTitles(Service()), bOldThere ? TEXT("old") : TEXT(""));
+		Server.Then(Answer("Fine"));
+		EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* chunk(Fine)* answer(Fine) completed"));
+		const FString Id = FirstId();
+		Service().CreateNewConversation(TEXT("Agent"));
+		Service().LoadConversation(Id);
+		EXPECT_EQ(GetTexts(Service()), TEXT("Hi|Fine"));
+		EXPECT_TRUE(PumpUntil([&] { return Log.Has(TEXT("LogVorelStore"), ELogVerbosity::Warning, Sentences); })) << Sentences << "\n"
+																												  << Log.Dump();
+	}
+
+	void ExpectLeftAlone(const TCHAR* Sentence)
+	{
+		const std::string Before = ReadStore();
+		ExpectWorksAndTells(FString(Sentence).Replace(TEXT("FILE"), *StoreFile) +
+							TEXT(" The conversations of this run are kept in memory, and end with it."));
+		EndService();
+		EXPECT_TRUE(ReadStore() == Before);
+	}
+};
+
+// Makes a small file system of its own in the folder; false where the machine doesn't allow that.
+bool MountSmallDisk(const FString& Folder)
+{
+	const std::string UserMap = "0 " + std::to_string(::getuid()) + " 1";
+	const std::string GroupMap = "0 " + std::to_string(::getgid()) + " 1";
+	if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
+	{
+		return false;
+	}
+	std::ofstream("/proc/self/uid_map") << UserMap;
+	std::ofstream("/proc/self/setgroups") << "deny";
+	std::ofstream("/proc/self/gid_map") << GroupMap;
+	return ::mount("none", TCHAR_TO_UTF8(Folder), "tmpfs", 0, "size=400k") == 0;
+}
+} // namespace
+
+TEST_F(FStoreFailureTest, AFileThatAnotherProgramHasLocked)
+{
+	FSqliteDatabase Holder(StoreFile, false);
+	Holder.Execute("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE");
+	ExpectLeftAlone(TEXT("Another program has locked FILE."));
+}
+
+TEST_F(FStoreFailureTest, AFileThatCantBeWrittenTo)
+{
+	const FPlainUserScope PlainUser;
+	::chmod(TCHAR_TO_UTF8(StoreFile), 0444);
+	ExpectLeftAlone(TEXT("FILE can't be written to."));
+}
+
+TEST_F(FStoreFailureTest, AFolderThatCantBeWrittenTo)
+{
+	::chmod(TCHAR_TO_UTF8(StoreFile), 0666);
+	::chmod(TCHAR_TO_UTF8(Folder.GetPath()), 0555);
+	const FPlainUserScope PlainUser;
+	ExpectLeftAlone(TEXT("FILE can't be written to."));
+}
+
+TEST_F(FStoreFailureTest, AFileOfANewerVersion)
+{
+	Execute("PRAGMA user_version = 99");
+	ExpectLeftAlone(TEXT("FILE was written by a newer version of this program."));
+}
+
+TEST_F(FStoreFailureTest, ADatabaseOfSomebodyElse)
+{
+	Execute("PRAGMA application_id = 7");
+	ExpectLeftAlone(TEXT("FILE holds something else than conversations."));
+}
+
+TEST_F(FStoreFailureTest, AFolderThatIsNotThere)
+{
+	StoreFile = Folder.GetPath(TEXT("nowhere/a.sqlite"));
+	ExpectLeftAlone(TEXT("There is no FILE."));
+}
+
+TEST_F(FStoreFailureTest, ADamagedFileIsSetAside)
+{
+	const std::string Whole = ReadStore();
+	std::string Rubbish = Whole;
+	Rubbish.replace(Whole.size() / 3, Whole.size() / 3, std::string(Whole.size() / 3, '\x5A'));
+	const std::pair<std::string, std::string> Rows[] = {
+		{Whole.substr(0, Whole.size() * 3 / 5), ""},
+		{Rubbish, ""},
+		{"this is no database, but what somebody wrote here", ""},
+		// An empty file is a new one, unless there is a log.
+		{"", "what was logged"},
+	};
+	for (const auto& [Bytes, LogBytes] : Rows)
+	{
+		SCOPED_TRACE(Bytes.size());
+		EndService();
+		WriteStore(Bytes);
+		if (!LogBytes.empty())
+		{
+			Folder.Write(TEXT("conversations.sqlite-wal"), LogBytes);
+		}
+		Log.Clear();
+		Service();
+		TakeEvents();
+		ASSERT_EQ(Log.CountAtLevel(TEXT("LogVorelStore"), ELogVerbosity::Warning), 1) << Log.Dump();
+		FString Before;
+		FString NewName;
+		Log.GetMessages().Last().Text.Split(TEXT(" as "), &Before, &NewName);
+		ASSERT_TRUE(NewName.RemoveFromEnd(TEXT(", and a new one was begun."))) << Log.Dump();
+		EXPECT_TRUE(Folder.Read(*NewName.RightChop(Folder.GetPath().Len() + 1)) == Bytes);
+		EXPECT_EQ(Folder.Read(*(NewName.RightChop(Folder.GetPath().Len() + 1) + TEXT("-wal"))), LogBytes);
+		ExpectWorksAndTells(StoreFile + TEXT(" is damaged. It was set aside as ") + NewName + TEXT(", and a new one was begun."));
+		EndService();
+		EXPECT_EQ(GetTitles(Service()), TEXT("Hi"));
+	}
+}
+
+TEST_F(FStoreFailureTest, AFileThatIsLockedForAWhileIsWrittenLater)
+{
+	Service();
+	{
+		FSqliteDatabase Holder(StoreFile, false);
+		Holder.Execute("BEGIN IMMEDIATE");
+		ExpectWorksAndTells(
+			TEXT("Another program has locked ") + StoreFile + TEXT(". What is new is kept in memory until it can be stored."), true);
+		EXPECT_EQ(ReadFile(FirstId()), TEXT(""));
+	}
+	EndService();
+	EXPECT_EQ(ReadFile(FirstId()), TEXT("user(Hi) complete(Fine)"));
+}
+
+TEST_F(FStoreFailureTest, AFullDiskLosesNothingOnceThereIsRoomAgain)
+{
+	GTEST_FLAG_SET(death_test_style, "threadsafe");
+	constexpr int NotAllowed = 77;
+	bool bAllowed = true;
+	const auto Succeeded = [&bAllowed](int Status)
+	{
+		bAllowed = WEXITSTATUS(Status) != NotAllowed;
+		return WIFEXITED(Status) && (WEXITSTATUS(Status) == 0 || !bAllowed);
+	};
+	EXPECT_EXIT(
+		{
+			if (!MountSmallDisk(Folder.GetPath()))
+			{
+				std::_Exit(NotAllowed);
+			}
+			Service();
+			Folder.Write(TEXT("filler"), std::string(1'000'000, 'x'));
+			ExpectWorksAndTells(
+				TEXT("The disk that holds ") + StoreFile + TEXT(" is full. What is new is kept in memory until it can be stored."));
+			::unlink(TCHAR_TO_UTF8(Folder.GetPath(TEXT("filler"))));
+			const FString Again = TEXT("All messages are stored again.");
+			EXPECT_TRUE(PumpUntil([&] { return Log.Has(TEXT("LogVorelStore"), ELogVerbosity::Display, Again); }));
+			EXPECT_EQ(ReadFile(FirstId()), TEXT("user(Hi) complete(Fine)"));
+			EndService();
+			std::_Exit(HasFailure() ? 1 : 0);
+		},
+		Succeeded, "");
+	if (!bAllowed)
+	{
+		GTEST_SKIP() << "This machine lets nobody mount a small disk.";
+	}
+}

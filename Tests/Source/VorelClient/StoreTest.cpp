@@ -1,0 +1,133 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "StoreFixture.h"
+
+#include "Store/SqliteDatabase.h"
+#include "Store/StoreSchema.h"
+#include <nlohmann/json.hpp>
+
+TEST_F(FStoreTest, BringsConversationsBack)
+{
+	Server.Then(Answer("Blue \\\"and\\\" 今😀"));
+	Ask(TEXT("  What\n\tcolour?  "));
+	Service().CreateNewConversation(TEXT("Review"));
+	Server.Then(
+		[](const FExchange& Exchange) {
+			Exchange.SendReply("200 OK", "text/event-stream", MakeDelta("Ab") + "data: {\"choices\":[{\"finish_reason\":\"length\"}]}\n\n");
+		});
+	Ask(TEXT("two"));
+	Service().SetCurrentChatMode(TEXT("Ask"));
+	EndService();
+	TakeEvents();
+
+	EXPECT_EQ(GetTitles(Service()), TEXT("two|What colour?"));
+	EXPECT_EQ(Service().GetCurrentChatModeName(), TEXT("Agent"));
+	const TArray<TObjectPtr<USerializableChatHistory>> List = Service().GetChatHistories();
+	EXPECT_TRUE(List[1]->IsValidHistory() && List[1]->Messages.IsEmpty());
+	Service().LoadConversation(List[1]->Id);
+	EXPECT_EQ(TakeEvents(), TEXT("history(2)"));
+	EXPECT_EQ(GetTexts(Service()), TEXT("  What\n\tcolour?  |Blue \"and\" 今😀"));
+	Service().LoadConversation(List[0]->Id);
+	EXPECT_EQ(TakeEvents(), TEXT("mode(Ask) history(2)"));
+	EXPECT_EQ(GetTexts(Service()), TEXT("two|Ab\n\n*The answer ends here because it reached the assistant's length limit.*"));
+	// The other one has let go of its messages, and the objects are the same for good.
+	EXPECT_TRUE(List[1]->Messages.IsEmpty());
+
+	Server.Then(Answer("Fine"));
+	Ask(TEXT("And?"));
+	EXPECT_EQ(nlohmann::json::parse(Server.GetExchanges().last().Body.toStdString())["messages"][2]["content"], "Ab");
+	Service().LoadConversation(List[1]->Id);
+	CollectGarbage();
+	EXPECT_TRUE(Service().GetChatHistories() == List);
+	Service().DeleteChatHistory(List[0]->Id);
+	EXPECT_FALSE(IsValid(List[0]));
+	EndService();
+	EXPECT_EQ(GetTitles(Service()), TEXT("What colour?"));
+}
+
+TEST_F(FStoreTest, StoresAnAnswerAsItGrows)
+{
+	Server.Then(Begin("Half"));
+	Service().SendMessage(TEXT("Hi"));
+	EXPECT_EQ(ReadFile(FirstId()), TEXT("user(Hi)"));
+	ASSERT_TRUE(PumpUntil([this] { return ReadFile(FirstId()) == TEXT("user(Hi) growing(Half)"); }));
+	Server.GetExchanges()[0].Send(MakeDelta(" way"));
+	ASSERT_TRUE(PumpUntil([this] { return ReadFile(FirstId()) == TEXT("user(Hi) growing(Half way)"); }));
+	Server.GetExchanges()[0].Send(MakeDelta(" there") + EndMark);
+	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
+	EXPECT_EQ(ReadFile(FirstId()), TEXT("user(Hi) complete(Half way there)"));
+}
+
+TEST_F(FStoreTest, MarksAsInterruptedWhatQuittingOrLeavingCutShort)
+{
+	Server.Then(Begin("One"));
+	Service().SendMessage(TEXT("first"));
+	ASSERT_TRUE(WaitForFrameRequest());
+	const FString First = FirstId();
+	Service().CreateNewConversation(TEXT("Agent"));
+	Server.Then(Begin("Two"));
+	Service().SendMessage(TEXT("second"));
+	ASSERT_TRUE(WaitForFrameRequest());
+	const FString Second = FirstId();
+	EndService();
+	EXPECT_EQ(ReadFile(First), TEXT("user(first) interrupted(One)"));
+	EXPECT_EQ(ReadFile(Second), TEXT("user(second) interrupted(Two)"));
+	Service().LoadConversation(Second);
+	EXPECT_EQ(GetTexts(Service()), TEXT("second|Two\n\n*The answer was interrupted here.*"));
+}
+
+TEST_F(FStoreTest, SharesTheFileWithAnotherProgram)
+{
+	const TObjectPtr<UHttpChatService> Other = StartOther();
+	Server.Then(Answer("1"));
+	Ask(TEXT("one"));
+	ASSERT_TRUE(PumpUntil([&] { return GetTitles(*Other) == TEXT("one"); }));
+	Other->LoadConversation(FirstId());
+	const TObjectPtr<USerializableChatHistory> Open = Other->GetCurrentConversation();
+	ASSERT_TRUE(PumpUntil([&] { return GetTexts(*Other) == TEXT("one|1"); }));
+
+	// What the one program writes shows in the open conversation of the other, and so does its mode.
+	Service().SetCurrentChatMode(TEXT("Review"));
+	Server.Then(Answer("2"));
+	Ask(TEXT("two"));
+	ASSERT_TRUE(PumpUntil([&] { return GetTexts(*Other) == TEXT("one|1|two|2") && Other->GetCurrentChatModeName() == TEXT("Review"); }));
+
+	// Between the events of a request nothing is told.
+	Server.Then(Begin("3"));
+	Other->SendMessage(TEXT("three"));
+	ASSERT_TRUE(PumpUntil([this] { return Server.GetExchanges().size() == 3; }));
+	int32 Changes = 0;
+	Other->OnChatHistoryChanged.AddLambda([&] { ++Changes; });
+	Service().DeleteChatHistory(Open->Id);
+	Service().CreateNewConversation(TEXT("Agent"));
+	Server.Then(Answer("4"));
+	Ask(TEXT("four"));
+	EXPECT_EQ(Changes, 0);
+	Server.GetExchanges()[2].Send(EndMark);
+	ASSERT_TRUE(PumpUntil([&] { return GetTitles(*Other) == TEXT("four"); }));
+	EXPECT_FALSE(IsValid(Open));
+	EXPECT_TRUE(Other->GetCurrentConversation()->Messages.IsEmpty());
+	EXPECT_EQ(Other->GetCurrentChatModeName(), TEXT("Agent"));
+	EXPECT_EQ(ReadFile(Open->Id), TEXT(""));
+}
+
+TEST_F(FStoreTest, MigratesStepByStepWithABackup)
+{
+	const TArray<const char*> Old = GetStoreMigrations();
+	TArray<const char*> Newer = Old;
+	Newer.Add("CREATE TABLE extra(a); INSERT INTO extra VALUES (7)");
+	TArray<const char*> Broken = Newer;
+	Broken.Add("DROP TABLE extra; nonsense");
+	const auto Prepare = [this](const TArray<const char*>& Migrations)
+	{
+		FSqliteDatabase Database(StoreFile, true);
+		PrepareStore(Database, StoreFile, Migrations);
+	};
+	Prepare(Old);
+	EXPECT_EQ(FSqliteDatabase(StoreFile, false).ReadNumber("PRAGMA user_version"), 1);
+	Prepare(Newer);
+	EXPECT_EQ(FSqliteDatabase(StoreFile + TEXT(".version-1"), false).ReadNumber("PRAGMA user_version"), 1);
+	EXPECT_THROW(Prepare(Broken), FStoreError);
+	EXPECT_EQ(FSqliteDatabase(StoreFile, false).ReadNumber("SELECT a FROM extra"), 7);
+	EXPECT_EQ(FSqliteDatabase(StoreFile, false).ReadNumber("PRAGMA user_version"), 2);
+}
