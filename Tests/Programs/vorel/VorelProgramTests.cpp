@@ -1,68 +1,13 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Programs/ProgramRun.h"
-#include "QtConversion.h"
-#include "Support/Printers.h"
-#include "Support/TempFolder.h"
+#include "Programs/vorel/VorelProgramTest.h"
 
-#include <QDir>
-#include <QFile>
-#include <QHash>
 #include <QImage>
+
+using VorelProgram = FVorelProgramTest;
 
 namespace
 {
-// The program in a folder of its own, as its users start it.
-class VorelProgram : public testing::Test
-{
-protected:
-	FProgramOutcome Run(const QStringList& Arguments, const QString& Display = QString())
-	{
-		FProgramRun Program{FProgramRun::FindProgram(QStringLiteral("vorel")), Arguments, ToQString(Folder.GetPath())};
-		if (!Display.isEmpty())
-		{
-			Program.Environment.insert(QStringLiteral("DISPLAY"), Display);
-		}
-		return Program.Run();
-	}
-
-	FProgramOutcome Play(const char* Text)
-	{
-		Write("a.play", Text);
-		return Run({QStringLiteral("--offscreen"), QStringLiteral("--data-dir"), QStringLiteral("data"), QStringLiteral("--play"),
-			QStringLiteral("a.play")});
-	}
-
-	void Write(const char* Name, const char* Text)
-	{
-		QFile File(GetPath(Name));
-		EXPECT_TRUE(File.open(QIODevice::WriteOnly) && File.write(Text) >= 0);
-	}
-
-	QByteArray Read(const char* Name)
-	{
-		QFile File(GetPath(Name));
-		EXPECT_TRUE(File.open(QIODevice::ReadOnly)) << Name;
-		return File.readAll();
-	}
-
-	QHash<QString, QByteArray> ReadFolder(const char* Name)
-	{
-		QHash<QString, QByteArray> Contents;
-		for (const QString& File : QDir(GetPath(Name)).entryList(QDir::Files))
-		{
-			Contents[File] = Read((QLatin1String(Name) + QLatin1Char('/') + File).toUtf8());
-		}
-		return Contents;
-	}
-
-	bool Exists(const char* Name) { return QFile::exists(GetPath(Name)); }
-
-	QString GetPath(const char* Name) { return ToQString(Folder.GetPath()) + QLatin1Char('/') + QLatin1String(Name); }
-
-	FTempFolder Folder;
-};
-
 void ExpectRefused(const FProgramOutcome& Outcome, const FString& Line)
 {
 	EXPECT_EQ(Outcome.ExitStatus, 2);
@@ -119,8 +64,7 @@ TEST_F(VorelProgram, PlaysEveryCommandTwiceWithTheSameFiles)
 	QHash<QString, QByteArray> First;
 	for (int Round = 0; Round < 2; ++Round)
 	{
-		const FProgramOutcome Outcome = Run({QStringLiteral("--offscreen"), QStringLiteral("--data-dir"), QStringLiteral("data"),
-			QStringLiteral("--play"), QStringLiteral(VOREL_PROJECT_FOLDER "/Docs/Samples/every-command.play")});
+		const FProgramOutcome Outcome = PlaySample("every-command.play");
 		ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
 		const QHash<QString, QByteArray> Saved = ReadFolder("every-command");
 		EXPECT_EQ(Saved.size(), 10);
