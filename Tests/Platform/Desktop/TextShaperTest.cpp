@@ -226,14 +226,38 @@ TEST(Fallback, PresentationDecidesBetweenTextAndEmoji)
 	EXPECT_FALSE(IsColored(TEXT("\u00a9")));
 }
 
-TEST(Fallback, AnEmojiSequenceIsOnePicture)
+TEST(Fallback, AnEmojiSequenceIsOneGlyphAndOneStepOfTheCaret)
 {
 	const float One = Shape(TEXT("\U0001F600"))->Width;
-	for (const TCHAR* Sequence :
-		{TEXT("\U0001F469\u200d\U0001F469\u200d\U0001F467"), TEXT("\U0001F1E9\U0001F1EA"), TEXT("\U0001F44D\U0001F3FD")})
+	for (const TCHAR* Sequence : {TEXT("\U0001F469\u200d\U0001F469\u200d\U0001F467"),
+			 TEXT("\U0001F468\u200d\U0001F469\u200d\U0001F467\u200d\U0001F466"), TEXT("\U0001F469\u200d\u2764\ufe0f\u200d\U0001F468"),
+			 TEXT("\U0001F3F3\ufe0f\u200d\U0001F308"), TEXT("\U0001F1E9\U0001F1EA"), TEXT("\U0001F44D\U0001F3FD"), TEXT("1\ufe0f\u20e3")})
 	{
-		EXPECT_FLOAT_EQ(Shape(Sequence)->Width, One) << QString::fromUtf16(Sequence).toStdString();
+		// Flags and keycaps are never read from the right.
+		const bool bNeutral = *Sequence != TEXT('1') && Sequence[1] != 0xDDE9;
+		for (const auto Direction : {LeftToRight, bNeutral ? RightToLeft : LeftToRight})
+		{
+			const TSharedRef<const FQtShapedText> Shaped = Shape(Sequence, Direction, 10.0f, 1.0f, ETextShapingMethod::Auto, TEXT("Mono"));
+			EXPECT_EQ(CountGlyphs(*Shaped), 1) << QString::fromUtf16(Sequence).toStdString();
+			EXPECT_FLOAT_EQ(Shaped->Width, One);
+			for (const float Offset : Shaped->CaretOffsets)
+			{
+				EXPECT_TRUE(Offset == 0.0f || Offset == Shaped->Width) << Offset;
+			}
+		}
 	}
+}
+
+TEST(Fallback, HanIsAsBoldAsTheFaceThatLacksIt)
+{
+	const auto StyleOf = [](const TCHAR* Face)
+	{
+		return Shape(TEXT("\u65e5"), LeftToRight, 10.0f, 1.0f, ETextShapingMethod::Auto, Face)->Runs[0].Glyphs.rawFont().styleName();
+	};
+	EXPECT_EQ(StyleOf(TEXT("Regular")), "Regular");
+	EXPECT_EQ(StyleOf(TEXT("Italic")), "Regular");
+	EXPECT_EQ(StyleOf(TEXT("Mono")), "Regular");
+	EXPECT_EQ(StyleOf(TEXT("Bold")), "Bold");
 }
 
 TEST(BadInput, IsShapedSomehow)

@@ -10,6 +10,7 @@
 
 static constexpr char16_t LeftToRightOverride = 0x202D;
 static constexpr char16_t RightToLeftOverride = 0x202E;
+static constexpr QChar EmojiSelector = QChar(0xFE0F);
 
 static float PixelSizeOf(const FSlateFontInfo& Font, float Scale)
 {
@@ -35,6 +36,32 @@ static bool NeedsOverride(const QString& Text, bool bRightToLeft)
 			return bRightToLeft ? bLeft : bRight;
 		});
 }
+
+/** A segment as it is laid out. */
+struct FSegmentText
+{
+	QString Text;
+	/** Where each unit of the segment is in it, and its end. */
+	QList<int> Places;
+
+	FSegmentText(QStringView Segment, bool bEmoji, bool bRightToLeft)
+	{
+		if (NeedsOverride(Segment.toString(), bRightToLeft))
+		{
+			Text.append(QChar(bRightToLeft ? RightToLeftOverride : LeftToRightOverride));
+		}
+		for (const QChar Unit : Segment)
+		{
+			Places.append(static_cast<int>(Text.size()));
+			// The emoji font has no picture of its own for the selector, whose search in other fonts would tear a sequence apart.
+			if (!bEmoji || Unit != EmojiSelector)
+			{
+				Text.append(Unit);
+			}
+		}
+		Places.append(static_cast<int>(Text.size()));
+	}
+};
 
 static void LayOut(QTextLayout& Layout, const QString& Text, bool bRightToLeft)
 {
@@ -70,25 +97,20 @@ TSharedRef<const FShapedText> FQtTextShaper::Shape(
 	{
 		QTextLayout& Layout =
 			Segment.bEmoji ? Faces.GetEmoji().GetLayout(EFontFeatures::All) : Face.GetLayout(FeaturesOf(Method, bRightToLeft));
-		QString SegmentText = QString::fromUtf16(Text.GetData() + Segment.Start, Segment.Length);
-		const bool bOverride = NeedsOverride(SegmentText, bRightToLeft);
-		if (bOverride)
-		{
-			SegmentText.prepend(QChar(bRightToLeft ? RightToLeftOverride : LeftToRightOverride));
-		}
-		LayOut(Layout, SegmentText, bRightToLeft);
-		AppendSegment(*Shaped, Segment, Layout, bOverride ? 1 : 0, PixelSize);
+		const FSegmentText SegmentText(QStringView(Text.GetData() + Segment.Start, Segment.Length), Segment.bEmoji, bRightToLeft);
+		LayOut(Layout, SegmentText.Text, bRightToLeft);
+		AppendSegment(*Shaped, Segment, Layout, SegmentText.Places, PixelSize);
 	}
 	return Shaped;
 }
 
 void FQtTextShaper::AppendSegment(
-	FQtShapedText& Shaped, const FPresentationSegment& Segment, const QTextLayout& Layout, int Skipped, float PixelSize)
+	FQtShapedText& Shaped, const FPresentationSegment& Segment, const QTextLayout& Layout, const QList<int>& Places, float PixelSize)
 {
 	const double Scale = static_cast<double>(PixelSize) / FFontFace::ShapingPixelSize;
 	const QTextLine Line = Layout.lineAt(0);
-	const double First = Line.cursorToX(Skipped);
-	const double Last = Line.cursorToX(Skipped + static_cast<int>(Segment.Length));
+	const double First = Line.cursorToX(Places.first());
+	const double Last = Line.cursorToX(Places.last());
 	const double LayoutLeft = qMin(First, Last);
 	const double Left = Shaped.Width;
 	Shaped.Width = static_cast<float>(Left + qAbs(Last - First) * Scale);
@@ -99,7 +121,7 @@ void FQtTextShaper::AppendSegment(
 	const int32 LastOwn = End == Shaped.CaretOffsets.Num() - 1 ? End : End - 1;
 	for (int32 Unit = Start; Unit <= LastOwn; ++Unit)
 	{
-		Shaped.CaretOffsets[Unit] = static_cast<float>(Left + (Line.cursorToX(Unit - Start + Skipped) - LayoutLeft) * Scale);
+		Shaped.CaretOffsets[Unit] = static_cast<float>(Left + (Line.cursorToX(Places[Unit - Start]) - LayoutLeft) * Scale);
 	}
 	for (QGlyphRun& Run : Layout.glyphRuns())
 	{

@@ -18,9 +18,9 @@ public:
 	FFontMetrics GetMetrics(const FSlateFontInfo& Font, float Scale) override;
 
 private:
-	/** Appends a laid-out segment to the right of what Shaped holds already. Skipped units at the start of the layout are not of the text.
-	 */
-	void AppendSegment(FQtShapedText& Shaped, const FPresentationSegment& Segment, const QTextLayout& Layout, int Skipped, float PixelSize);
+	/** Appends a laid-out segment to the right of what Shaped holds already; its units stand at `Places` in the layout. */
+	void AppendSegment(
+		FQtShapedText& Shaped, const FPresentationSegment& Segment, const QTextLayout& Layout, const QList<int>& Places, float PixelSize);
 
 	/** The font at another size, always the same object for the same two, so that its glyphs are drawn once. */
 	QRawFont Resize(const QRawFont& Font, float PixelSize);
