@@ -5,6 +5,7 @@
 #include "MarkdownParser.h"
 #include "OffscreenChat.h"
 #include "SampleText.h"
+#include "Widgets/Layout/SScrollBox.h"
 
 #include <benchmark/benchmark.h>
 
@@ -37,6 +38,20 @@ void LayOutMarkup(benchmark::State& State)
 }
 BENCHMARK(LayOutMarkup)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 
+void StreamText(FOffscreenChat& Chat, const FString& Markdown, int32 PieceLength, TArray<FFrameCost>& OutFrames)
+{
+	const TSharedRef<SChatItem> Answer = Chat.AddMessage(EChatRole::Assistant, FString());
+	for (int32 Position = 0; Position < Markdown.Len(); Position += PieceLength)
+	{
+		OutFrames.Add(Chat.RunFrame(
+			[&]
+			{
+				Answer->AddMessageContent(Markdown.Mid(Position, PieceLength));
+				Chat.GetScrollBox().ScrollToEnd();
+			}));
+	}
+}
+
 // An answer that arrives in pieces, one a frame. A frame counts from the arrival to the picture.
 void StreamAnswer(benchmark::State& State, FString (*MakeText)(int32 Length))
 {
@@ -46,11 +61,7 @@ void StreamAnswer(benchmark::State& State, FString (*MakeText)(int32 Length))
 	TArray<FFrameCost> Frames;
 	for (auto _ : State)
 	{
-		const TSharedRef<SChatItem> Answer = Chat.AddAnswer();
-		for (int32 Position = 0; Position < Markdown.Len(); Position += PieceLength)
-		{
-			Frames.Add(Chat.RunFrame([&] { Answer->AddMessageContent(Markdown.Mid(Position, PieceLength)); }));
-		}
+		StreamText(Chat, Markdown, PieceLength, Frames);
 	}
 	ReportFrames(State, Frames);
 }
@@ -64,4 +75,44 @@ void SetStreamArguments(benchmark::internal::Benchmark* Benchmark)
 BENCHMARK_CAPTURE(StreamAnswer, Answer, MakeSampleMarkdown)->Apply(SetStreamArguments);
 BENCHMARK_CAPTURE(StreamAnswer, OneParagraph, MakeSampleParagraph)->Apply(SetStreamArguments);
 BENCHMARK_CAPTURE(StreamAnswer, OneCodeBlock, MakeSampleCodeBlock)->Apply(SetStreamArguments);
+BENCHMARK_CAPTURE(StreamAnswer, SmallCodeBlocks, MakeSmallCodeBlocks)->Args({20'000, 20})->Iterations(1)->Unit(benchmark::kMillisecond);
+
+// A stored conversation: what it costs until its end is seen, and the frames after that, while the user jumps and rolls through it and
+// while another answer arrives. The arguments are the number of its messages and their length.
+void OpenConversation(benchmark::State& State, FString (*MakeText)(int32 Length))
+{
+	const auto NumMessages = static_cast<int32>(State.range(0));
+	const auto Length = static_cast<int32>(State.range(1));
+	const FString Text = MakeText(NumMessages * Length);
+	TArray<FFrameCost> Frames;
+	double OpenMilliseconds = 0.0;
+	for (auto _ : State)
+	{
+		FOffscreenChat Chat;
+		const auto AddMessages = [&]
+		{
+			for (int32 Index = 0; Index < NumMessages; ++Index)
+			{
+				Chat.AddMessage(Index % 2 == 0 ? EChatRole::User : EChatRole::Assistant, Text.Mid(Index * Length, Length));
+			}
+		};
+		OpenMilliseconds = Chat.RunFrame(AddMessages).GetTotal();
+		SScrollBox& ScrollBox = Chat.GetScrollBox();
+		const float End = ScrollBox.GetScrollOffsetOfEnd();
+		constexpr int32 NumPlaces = 50;
+		constexpr int32 NumSteps = 10;
+		constexpr float StepLength = 90.0f;
+		for (int32 Step = 0; Step < NumPlaces * NumSteps; ++Step)
+		{
+			const int32 Place = Step / NumSteps * 37 % NumPlaces;
+			const float Offset = End * static_cast<float>(Place) / NumPlaces + StepLength * static_cast<float>(Step % NumSteps);
+			Frames.Add(Chat.RunFrame([&] { ScrollBox.SetScrollOffset(Offset); }));
+		}
+		StreamText(Chat, MakeSampleMarkdown(10'000), 20, Frames);
+	}
+	State.counters["open_ms"] = OpenMilliseconds;
+	ReportFrames(State, Frames);
+}
+BENCHMARK_CAPTURE(OpenConversation, Text, MakeSampleParagraph)->Args({10'000, 300})->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(OpenConversation, Answers, MakeSampleMarkdown)->Args({10'000, 300})->Iterations(1)->Unit(benchmark::kMillisecond);
 } // namespace

@@ -65,10 +65,26 @@ FOffscreenChat::FOffscreenChat()
 
 FOffscreenChat::~FOffscreenChat() = default;
 
-TSharedRef<SChatItem> FOffscreenChat::AddAnswer()
+TSharedRef<SChatItem> FOffscreenChat::AddMessage(EChatRole Role, const FString& Text)
 {
-	const TSharedRef<SChatItem> Item = SNew(SChatItem).Role(EChatRole::Assistant);
-	Messages->AddSlot().AutoHeight()[Item];
+	const TSharedRef<SChatItem> Item = SNew(SChatItem).Role(Role).Message(Text);
+	// clang-format off
+	Messages->AddSlot()
+		.Padding(0.0f, 10.0f, 0.0f, 10.0f)
+		.AutoHeight()
+		[
+			SNew(SVerticalBox)
+			+ SVerticalBox::Slot()
+			.AutoHeight()
+			[
+				Item
+			]
+			+ SVerticalBox::Slot()
+			.AutoHeight()
+			.Padding(0.0f, 10.0f, 0.0f, 0.0f)
+		];
+	// clang-format on
+	ScrollBox->ScrollToEnd();
 	return Item;
 }
 
@@ -82,12 +98,7 @@ TSharedRef<SMarkdownTextbox> FOffscreenChat::AddTextbox()
 FFrameCost FOffscreenChat::RunFrame(TFunction<void()> ChangeContent)
 {
 	FFrameCost Cost;
-	Cost.Content = Measure(
-		[&]
-		{
-			ChangeContent();
-			ScrollBox->ScrollToEnd();
-		});
+	Cost.Content = Measure(ChangeContent);
 	Cost.Layout = Measure([] { FSlateApplication::Get().Tick(FrameSeconds); });
 	Cost.Paint = Measure([] { FDesktopApplication::Get().GetFrameLoop().OnShowFrame.Broadcast(); });
 	return Cost;

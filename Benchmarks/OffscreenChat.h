@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Message.h"
 
 class QSlateWidget;
 class SChatItem;
@@ -28,11 +29,14 @@ public:
 	FOffscreenChat();
 	~FOffscreenChat();
 
-	TSharedRef<SChatItem> AddAnswer();
+	// As the chat adds a message, with its room below.
+	TSharedRef<SChatItem> AddMessage(EChatRole Role, const FString& Text);
 	TSharedRef<SMarkdownTextbox> AddTextbox();
 
-	// Changes the content, scrolls to the end, as the chat does after each piece of text, lays out, and paints what has changed.
+	// Changes the content, lays out, and paints what has changed.
 	FFrameCost RunFrame(TFunction<void()> ChangeContent);
+
+	SScrollBox& GetScrollBox() { return *ScrollBox; }
 
 private:
 	TSharedPtr<SScrollBox> ScrollBox;

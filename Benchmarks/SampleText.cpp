@@ -48,3 +48,13 @@ FString MakeSampleCodeBlock(int32 Length)
 	}
 	return Text;
 }
+
+FString MakeSmallCodeBlocks(int32 Length)
+{
+	FString Text;
+	for (int32 Number = 1; Text.Len() < Length; ++Number)
+	{
+		Text.Appendf(TEXT("```\nint %d;\n```\n"), Number);
+	}
+	return Text;
+}

@@ -11,3 +11,6 @@ FString MakeSampleMarkdown(int32 Length);
 // The two shapes of a text that are hardest to keep up with while it grows: one paragraph without a line's end, and one block of code.
 FString MakeSampleParagraph(int32 Length);
 FString MakeSampleCodeBlock(int32 Length);
+
+// Nothing but blocks of one line of code.
+FString MakeSmallCodeBlocks(int32 Length);
