@@ -52,6 +52,31 @@ void StreamText(FOffscreenChat& Chat, const FString& Markdown, int32 PieceLength
 	}
 }
 
+// From a message to its picture, at once.
+void ShowMessage(benchmark::State& State, const TCHAR* Begin, const TCHAR* Piece, const TCHAR* End)
+{
+	FString Markdown(Begin);
+	for (int32 Index = 0; Index < State.range(0); ++Index)
+	{
+		Markdown += Piece;
+	}
+	Markdown += End;
+	for (auto _ : State)
+	{
+		FOffscreenChat Chat;
+		Chat.RunFrame([&] { Chat.AddMessage(EChatRole::Assistant, Markdown); });
+	}
+}
+BENCHMARK_CAPTURE(ShowMessage, LongWord, TEXT(""), TEXT("a"), TEXT(""))->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ShowMessage, LongLineOfCode, TEXT("```\n"), TEXT("a"), TEXT(""))->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ShowMessage, Han, TEXT(""), TEXT("\u4e2d"), TEXT(""))->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ShowMessage, CombiningMarks, TEXT("e"), TEXT("\u0301"), TEXT(""))->Arg(10'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ShowMessage, NestedQuotes, TEXT(""), TEXT(">"), TEXT("end"))->Arg(10'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ShowMessage, SmallCodeBlocks, TEXT(""), TEXT("```\nint x;\n```\n"), TEXT(""))->Arg(2'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ShowMessage, Table, TEXT("|a|b|\n|-|-|\n"), TEXT("|some words|more\n"), TEXT(""))
+	->Arg(10'000)
+	->Unit(benchmark::kMillisecond);
+
 // An answer that arrives in pieces, one a frame. A frame counts from the arrival to the picture.
 void StreamAnswer(benchmark::State& State, FString (*MakeText)(int32 Length))
 {
@@ -75,7 +100,7 @@ void SetStreamArguments(benchmark::internal::Benchmark* Benchmark)
 BENCHMARK_CAPTURE(StreamAnswer, Answer, MakeSampleMarkdown)->Apply(SetStreamArguments);
 BENCHMARK_CAPTURE(StreamAnswer, OneParagraph, MakeSampleParagraph)->Apply(SetStreamArguments);
 BENCHMARK_CAPTURE(StreamAnswer, OneCodeBlock, MakeSampleCodeBlock)->Apply(SetStreamArguments);
-BENCHMARK_CAPTURE(StreamAnswer, SmallCodeBlocks, MakeSmallCodeBlocks)->Args({20'000, 20})->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(StreamAnswer, SmallCodeBlocks, MakeSmallCodeBlocks)->Args({20'000, 400})->Args({40'000, 400})->Args({80'000, 400})->Iterations(1)->Unit(benchmark::kMillisecond);
 
 // A stored conversation: what it costs until its end is seen, and the frames after that, while the user jumps and rolls through it and
 // while another answer arrives. The arguments are the number of its messages and their length.

@@ -7,6 +7,7 @@
 #include "Styling/SlateTypes.h"
 #include "TextLine.h"
 #include "TextStylePool.h"
+#include "Widgets/Text/TextVisibility.h"
 #include "Widgets/SWidget.h"
 
 TSharedRef<FSlateTextLayout> FSlateTextLayout::Create(SWidget& InOwner, const FTextBlockStyle& InDefaultTextStyle)
@@ -74,27 +75,28 @@ void FSlateTextLayout::UpdateWidgetSizes()
 void FSlateTextLayout::ArrangeChildren(const FGeometry& TextGeometry, FArrangedChildren& ArrangedChildren) const
 {
 	const float Scale = TextGeometry.GetScale();
-	for (const FInlineWidget& Inline : InlineWidgets)
-	{
-		const TSharedRef<SWidget> Widget = Inline.Run->GetWidget().ToSharedRef();
-		if (ArrangedChildren.Accepts(Widget->GetVisibility()))
-		{
-			const FSlateRect Rect = Inline.Run->GetWidgetRect(FindPlacement(Inline), Scale);
-			ArrangedChildren.AddWidget(TextGeometry.MakeChild(Widget, Rect.GetTopLeft() / Scale, Rect.GetSize() / Scale));
-		}
-	}
-}
-
-FRunPlacement FSlateTextLayout::FindPlacement(const FInlineWidget& Inline) const
-{
-	const FTextLine& Line = *GetLines()[Inline.LineIndex];
-	const int32 Offset = Inline.Run->GetTextRange().BeginIndex;
-	const FWrappedLine& Wrapped = Line.WrappedLines[Line.FindWrapped(Offset)];
+	const FSlateRect VisibleArea = FindVisibleArea(TextGeometry, ArrangedChildren.GetViewRect());
 	TArray<FTextPiece> Pieces;
-	GetPieces(Line, Wrapped, Pieces);
-	const FTextPiece* Piece = Pieces.FindByPredicate([Offset](const FTextPiece& Candidate) { return Candidate.Range.Contains(Offset); });
-	check(Piece);
-	return MakePlacement(*Piece, Wrapped, GetTopLeft(Line, Wrapped));
+	ForEachVisibleLine(VisibleArea.Top, VisibleArea.Bottom,
+		[&](const FTextLine& Line, const FWrappedLine& Wrapped, const FVector2D& TopLeft)
+		{
+			if (!Line.bHasWidgets.Get(false))
+			{
+				return;
+			}
+			GetPieces(Line, Wrapped, Pieces);
+			for (const FTextPiece& Piece : Pieces)
+			{
+				const ISlateRun& Run = static_cast<const ISlateRun&>(*Line.Runs[Piece.RunIndex]);
+				const TSharedPtr<SWidget> Widget = Run.GetWidget();
+				if (Widget && ArrangedChildren.Accepts(Widget->GetVisibility()))
+				{
+					const FSlateRect Rect = Run.GetWidgetRect(MakePlacement(Piece, Wrapped, TopLeft), Scale);
+					ArrangedChildren.AddWidget(
+						TextGeometry.MakeChild(Widget.ToSharedRef(), Rect.GetTopLeft() / Scale, Rect.GetSize() / Scale));
+				}
+			}
+		});
 }
 
 FRunPlacement FSlateTextLayout::MakePlacement(const FTextPiece& Piece, const FWrappedLine& Wrapped, const FVector2D& TopLeft) const

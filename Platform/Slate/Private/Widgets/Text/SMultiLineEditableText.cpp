@@ -51,8 +51,11 @@ void SMultiLineEditableText::Construct(const FArguments& InArgs)
 	FTextBlockStyle Style = FindTextStyle(InArgs._TextStyle, InArgs._Font);
 	TextLayout = MakeLayout(InArgs, Style);
 	TextColor = Style.ColorAndOpacity;
-	Style.ColorAndOpacity = FSlateColor::UseSubduedForeground();
-	HintLayout = MakeLayout(InArgs, Style);
+	if (InArgs._HintText.IsSet())
+	{
+		Style.ColorAndOpacity = FSlateColor::UseSubduedForeground();
+		HintLayout = MakeLayout(InArgs, Style);
+	}
 
 	const TSharedRef<ITextLayoutMarshaller> Marshaller =
 		InArgs._Marshaller ? InArgs._Marshaller.ToSharedRef() : TSharedRef<ITextLayoutMarshaller>(FPlainTextLayoutMarshaller::Create());
@@ -120,7 +123,7 @@ void SMultiLineEditableText::SetCaretBlinking(bool bEnabled)
 
 bool SMultiLineEditableText::IsHintShown() const
 {
-	return Controller->GetText().IsEmpty() && !HintAttribute.Get().IsEmpty();
+	return HintLayout && Controller->GetText().IsEmpty() && !HintAttribute.Get().IsEmpty();
 }
 
 FChildren* SMultiLineEditableText::GetChildren()
@@ -155,7 +158,10 @@ void SMultiLineEditableText::OnArranged(const FGeometry& AllottedGeometry)
 	const float Width = static_cast<float>(AllottedGeometry.GetLocalSize().X) - GetCaretRoom();
 	const float Scale = AllottedGeometry.GetScale();
 	TextLayout->SetViewWidth(Width);
-	HintLayout->SetViewWidth(Width);
+	if (HintLayout)
+	{
+		HintLayout->SetViewWidth(Width);
+	}
 	if (Wrapping->bAutoWrapText && Wrapping->AllottedWidth != Width)
 	{
 		Wrapping->AllottedWidth = Width;

@@ -22,7 +22,7 @@ public:
 	FChildren& GetChildren() { return Children; }
 	/** Lays lines out anew whose widgets have changed their size. */
 	void UpdateWidgetSizes();
-	/** `TextGeometry` begins at the layout's top left corner. */
+	/** Adds the widgets that can be seen. `TextGeometry` begins at the layout's top left corner. */
 	void ArrangeChildren(const FGeometry& TextGeometry, FArrangedChildren& ArrangedChildren) const;
 
 	/** Draws the lines that meet `VisibleArea`, in device pixels of the layout, but not the widgets. */
@@ -45,7 +45,6 @@ private:
 
 	FSlateTextLayout(SWidget& InOwner, const FTextBlockStyle& InDefaultTextStyle);
 
-	FRunPlacement FindPlacement(const FInlineWidget& Inline) const;
 	FRunPlacement MakePlacement(const FTextPiece& Piece, const FWrappedLine& Wrapped, const FVector2D& TopLeft) const;
 
 	FSlotlessChildren Children;

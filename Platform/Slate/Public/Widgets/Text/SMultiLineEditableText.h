@@ -107,6 +107,7 @@ private:
 	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> TextAttribute;
 	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> HintAttribute;
 	TSharedPtr<FSlateTextLayout> TextLayout;
+	/** Null where no hint is given. */
 	TSharedPtr<FSlateTextLayout> HintLayout;
 	TUniquePtr<FTextWrapping> Wrapping;
 	TUniquePtr<FEditableTextController> Controller;
