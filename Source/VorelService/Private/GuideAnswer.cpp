@@ -18,9 +18,14 @@ constexpr std::size_t MaxSections = 3;
 std::string ComposeNothingFound(const FGuide& Guide)
 {
 	std::string Answer = "This is Vorel's **built-in guide**, not a language model. It has no article about that. It knows about:\n\n";
+	std::set<std::string> Titles;
 	for (const FGuideArticle& Article : Guide.GetArticles())
 	{
-		Answer += "- " + Article.Title + "\n";
+		Titles.insert(Article.Title);
+	}
+	for (const std::string& Title : Titles)
+	{
+		Answer += "- " + Title + "\n";
 	}
 	return Answer + "\nAsk about one of these, or start the program with `--assistant URL` to talk to a language model.\n";
 }
