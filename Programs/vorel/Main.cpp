@@ -2,6 +2,7 @@
 
 #include "Application/DisplayChoice.h"
 #include "Application/VorelProgram.h"
+#include "Conversations/ConversationCommands.h"
 #include "Options/CommandLine.h"
 #include "Play/PlayScript.h"
 
@@ -47,6 +48,10 @@ int main(int ArgumentCount, char** Arguments)
 	{
 		std::fputs(Line->bHelp ? TCHAR_TO_UTF8(FCommandLine::GetHelp()) : "vorel " VOREL_VERSION "\n", stdout);
 		return 0;
+	}
+	if (!Line->Command.IsEmpty())
+	{
+		return RunConversationCommand(*Line);
 	}
 	const bool bPlays = !Line->PlayFile.IsEmpty();
 	const TOptional<FPlayScript> Script = bPlays ? FPlayScript::Load(Line->PlayFile, Error) : NullOpt;

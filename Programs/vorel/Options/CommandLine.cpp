@@ -45,6 +45,12 @@ bool SetAssistantUrl(FCommandLine& Line, const FString& Value)
 	return bWeb && SetText(Line.AssistantUrl, Value);
 }
 
+bool SetFormat(FCommandLine& Line, const FString& Value)
+{
+	Line.ExportFormat = Value == TEXT("json") ? EExportFormat::Json : EExportFormat::Markdown;
+	return Value == TEXT("json") || Value == TEXT("md");
+}
+
 // clang-format off
 const FOption Options[] = {
 	{TEXT("--offscreen"), nullptr, TEXT("Use no display."),
@@ -61,12 +67,30 @@ const FOption Options[] = {
 		[](FCommandLine& Line, const FString& Value) { return SetText(Line.Model, Value); }, TEXT("a name")},
 	{TEXT("--play"), TEXT("FILE"), TEXT("Do what a play file says, and end."),
 		[](FCommandLine& Line, const FString& Value) { return SetText(Line.PlayFile, Value); }, TEXT("a file")},
+	{TEXT("--format"), TEXT("md|json"), TEXT("What conversations export writes (md)."), &SetFormat, TEXT("md or json")},
 	{TEXT("--help"), nullptr, TEXT("Print this text, and end."),
 		[](FCommandLine& Line, const FString&) { return Line.bHelp = true; }},
 	{TEXT("--version"), nullptr, TEXT("Print the version, and end."),
 		[](FCommandLine& Line, const FString&) { return Line.bVersion = true; }},
 };
 // clang-format on
+
+// Of "conversations".
+struct FCommand
+{
+	const TCHAR* Name;
+	// Null for one that takes none.
+	const TCHAR* Argument;
+	const TCHAR* Help;
+};
+
+const FCommand Commands[] = {
+	{TEXT("list"), nullptr, TEXT("One a line, newest first: id, time, mode and title, separated by tabs.")},
+	{TEXT("show"), TEXT("ID"), TEXT("Print a conversation.")},
+	{TEXT("export"), TEXT("ID"), TEXT("Print it as Markdown, or as JSON with --format json.")},
+	{TEXT("import"), TEXT("FILE"), TEXT("Add a conversation from such JSON, and print its id; a taken id gives way to a new one.")},
+	{TEXT("delete"), TEXT("ID"), TEXT("Delete a conversation.")},
+};
 
 const FOption* FindOption(const FString& Name)
 {
@@ -101,32 +125,78 @@ FString ReadOption(const TArray<FString>& Arguments, int32& Index, FCommandLine&
 	}
 	return Option->Set(Line, Value) ? FString() : FString::Printf(TEXT("%s needs %s"), *Name, Option->Needs);
 }
+
+// Takes the words that are no options. Returns what is wrong with them, or nothing.
+FString ReadCommand(const TArray<FString>& Words, FCommandLine& Line)
+{
+	if (Words.IsEmpty())
+	{
+		return FString();
+	}
+	if (!Words[0].Equals(TEXT("conversations")))
+	{
+		return FString::Printf(TEXT("there is no option %s, see --help"), *Words[0]);
+	}
+	Line.Command = Words;
+	Line.Command.RemoveAt(0);
+	for (const FCommand& Command : Commands)
+	{
+		if (!Line.Command.IsEmpty() && Line.Command[0].Equals(Command.Name))
+		{
+			const int32 NumWanted = Command.Argument ? 2 : 1;
+			const TCHAR* const Argument = Command.Argument ? Command.Argument : TEXT("nothing");
+			return Line.Command.Num() == NumWanted ? FString()
+												   : FString::Printf(TEXT("conversations %s takes %s, see --help"), Command.Name, Argument);
+		}
+	}
+	return TEXT("conversations needs list, show, export, import or delete, see --help");
+}
+
+FString MakeHelpLine(const TCHAR* Name, const TCHAR* Value, const TCHAR* Help)
+{
+	const FString Form = FString(Name) + (Value ? FString(TEXT(" ")) + Value : FString());
+	return FString::Printf(TEXT("  %s%s%s\n"), *Form, *FString::ChrN(20 - Form.Len(), TEXT(' ')), Help);
+}
 } // namespace
 
 TOptional<FCommandLine> FCommandLine::Parse(const TArray<FString>& Arguments, FString& OutError)
 {
 	FCommandLine Line;
+	TArray<FString> Words;
 	for (int32 Index = 0; Index < Arguments.Num(); ++Index)
 	{
+		if (!Arguments[Index].StartsWith(TEXT("-")))
+		{
+			Words.Add(Arguments[Index]);
+			continue;
+		}
 		OutError = ReadOption(Arguments, Index, Line);
 		if (!OutError.IsEmpty())
 		{
 			return NullOpt;
 		}
 	}
-	return Line;
+	OutError = Line.bHelp ? FString() : ReadCommand(Words, Line);
+	return OutError.IsEmpty() ? TOptional<FCommandLine>(Line) : NullOpt;
 }
 
 FString FCommandLine::GetHelp()
 {
-	FString Help = TEXT("Usage: vorel [options]\n\nOpens the editor window with the assistant's tab in its Tools menus.\n\n");
+	FString Help = TEXT("Usage: vorel [options]\n"
+						"       vorel [options] conversations COMMAND\n\n"
+						"Opens the editor window with the assistant's tab in its Tools menus, or works on the stored conversations.\n\n");
 	for (const FOption& Option : Options)
 	{
-		const FString Form = FString(Option.Name) + (Option.ValueName ? FString(TEXT(" ")) + Option.ValueName : FString());
-		Help += FString::Printf(TEXT("  %s%s%s\n"), *Form, *FString::ChrN(20 - Form.Len(), TEXT(' ')), Option.Help);
+		Help += MakeHelpLine(Option.Name, Option.ValueName, Option.Help);
 	}
-	return Help + TEXT("\nWithout --assistant and without such an entry in the settings, the built-in guide answers. A server's key is "
-					   "taken from the\n"
-					   "environment variable VOREL_ASSISTANT_KEY.\n"
-					   "Exit status: 0, or 1 where a step of a play file failed, or 2 where an option or a file can't be read.\n");
+	Help += TEXT("\nCommands, which need no display:\n\n");
+	for (const FCommand& Command : Commands)
+	{
+		Help += MakeHelpLine(Command.Name, Command.Argument, Command.Help);
+	}
+	return Help +
+		   TEXT("\nWithout --assistant and without such an entry in the settings, the built-in guide answers. A server's key is "
+				"taken from the\n"
+				"environment variable VOREL_ASSISTANT_KEY.\n"
+				"Exit status: 0, or 1 where a step of a play file or a command failed, or 2 where an option or a file can't be read.\n");
 }

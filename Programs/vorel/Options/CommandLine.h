@@ -4,6 +4,12 @@
 
 #include "Options/ReadNumber.h"
 
+enum class EExportFormat : uint8
+{
+	Markdown,
+	Json
+};
+
 // What the program was asked for on its command line.
 struct FCommandLine
 {
@@ -19,8 +25,12 @@ struct FCommandLine
 	FString Model;
 	FString PlayFile;
 
-	// Unset, with one sentence for the user, where there is something wrong with an option. An option's value follows it, or stands behind
-	// its equals sign; of an option given twice the last counts.
+	// What to do on the stored conversations, with its argument where it takes one; empty where the window is wanted.
+	TArray<FString> Command;
+	EExportFormat ExportFormat = EExportFormat::Markdown;
+
+	// Unset, with one sentence for the user, where there is something wrong with the command or an option. Options stand before, behind or
+	// within the command. An option's value follows it, or stands behind its equals sign; of an option given twice the last counts.
 	static TOptional<FCommandLine> Parse(const TArray<FString>& Arguments, FString& OutError);
 
 	static FString GetHelp();

@@ -39,4 +39,7 @@ struct FConversationRecord
 	FString ModeName;
 	int64 Created = 0;
 	int64 LastUsed = 0;
+
+	// One that is nobody's.
+	static FString MakeId();
 };

@@ -73,6 +73,10 @@ TEST(CommandLine, SaysWhatIsWrong)
 		{{TEXT("--model=")}, TEXT("--model needs a name")},
 		{{TEXT("--data-dir=")}, TEXT("--data-dir needs a folder")},
 		{{TEXT("--play")}, TEXT("--play needs a file")},
+		{{TEXT("--format=xml")}, TEXT("--format needs md or json")},
+		{{TEXT("conversations")}, TEXT("conversations needs list, show, export, import or delete, see --help")},
+		{{TEXT("conversations"), TEXT("show")}, TEXT("conversations show takes ID, see --help")},
+		{{TEXT("conversations"), TEXT("list"), TEXT("all")}, TEXT("conversations list takes nothing, see --help")},
 	};
 	for (const FBadLine& Line : Lines)
 	{
@@ -86,7 +90,8 @@ TEST(CommandLine, HelpNamesEveryOption)
 {
 	const FString Help = FCommandLine::GetHelp();
 	for (const TCHAR* const Option : {TEXT("--offscreen"), TEXT("--size WxH"), TEXT("--scale F"), TEXT("--data-dir DIR"),
-			 TEXT("--assistant URL"), TEXT("--model NAME"), TEXT("--play FILE"), TEXT("--help"), TEXT("--version")})
+			 TEXT("--assistant URL"), TEXT("--model NAME"), TEXT("--play FILE"), TEXT("--help"), TEXT("--version"),
+			 TEXT("--format md|json"), TEXT("list"), TEXT("show ID"), TEXT("export ID"), TEXT("import FILE"), TEXT("delete ID")})
 	{
 		EXPECT_TRUE(Help.Contains(FString(TEXT("\n  ")) + Option + TEXT(" "))) << FString(Option);
 	}

@@ -34,7 +34,7 @@ void FConversationRepository::Close()
 UStoredConversation* FConversationRepository::Create(const FString& ModeName)
 {
 	UStoredConversation* const Conversation = NewObject<UStoredConversation>();
-	Conversation->Id = MakeConversationId();
+	Conversation->Id = FConversationRecord::MakeId();
 	Conversation->ModeName = ModeName;
 	Conversation->bLoaded = true;
 	return Conversation;

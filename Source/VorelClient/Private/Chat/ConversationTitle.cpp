@@ -3,7 +3,6 @@
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QDateTime>
 #include <QLocale>
-#include <QUuid>
 
 #include "Chat/ConversationTitle.h"
 
@@ -29,11 +28,6 @@ int32 FindEndOfCharacters(const FString& Text, int32 Count)
 	return End == icu::BreakIterator::DONE ? Text.Len() : End;
 }
 } // namespace
-
-FString MakeConversationId()
-{
-	return ToFString(QUuid::createUuid().toString(QUuid::WithoutBraces));
-}
 
 FString MakeConversationTitle(const FString& FirstMessage)
 {

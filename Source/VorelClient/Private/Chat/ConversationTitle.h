@@ -4,8 +4,6 @@
 
 #include "CoreMinimal.h"
 
-FString MakeConversationId();
-
 // The message as one line without blanks at its ends, each white space within it as one blank.
 FString MakeConversationTitle(const FString& FirstMessage);
 
