@@ -1,23 +1,14 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Chat/ChatPanelActions.h"
 #include "Chat/SChatPanel.h"
 #include "Support/FakeClient/FakeClient.h"
 #include "Support/UserDriver.h"
 #include "Widgets.h"
+#include "Widgets/SWindow.h"
 #include <gtest/gtest.h>
 
 namespace
 {
-
-// What fires most of the actions is not on screen yet, so the tests take hold of the panel's record.
-template <TSharedPtr<FChatPanelActions> SChatPanel::*Member>
-struct TActionsOf
-{
-	friend FChatPanelActions& GetActions(const SChatPanel& Panel) { return *(Panel.*Member); }
-};
-FChatPanelActions& GetActions(const SChatPanel& Panel);
-template struct TActionsOf<&SChatPanel::PanelActions>;
 
 class ChatPanel : public testing::Test
 {
@@ -31,14 +22,43 @@ protected:
 			.UpdateService(Client.Update);
 	}
 
-	FChatPanelActions& Actions() const { return GetActions(*Panel); }
 	std::string Toast() const { return ReadTexts(FindOne(Panel, TEXT("SNotification"))); }
 	std::string List() const { return ReadList(Panel); }
 	std::string TakeCalls() const { return ToUtf8(Client.Calls->Take()); }
 
+	// What the bottom bar says of the mode, in brackets while it is locked.
+	std::string Mode()
+	{
+		const TSharedRef<SWidget> Picker = FindOne(Panel, TEXT("SComboBox"), 1);
+		return Picker->IsEnabled() ? ReadTexts(Picker) : "[" + ReadTexts(Picker) + "]";
+	}
+
+	// The rows of the open conversation picker.
+	std::string Rows()
+	{
+		User.Click(TEXT("History"));
+		const std::string Result = ReadTexts(User.GetWindow()->GetPopup().ToSharedRef());
+		User.Press(TEXT("Escape"));
+		return Result;
+	}
+
+	void PickMode(const TCHAR* ModeName)
+	{
+		User.Frame();
+		User.ClickAt(FindOne(Panel, TEXT("SComboBox"), 1)->GetCachedGeometry().LocalToAbsolute(FVector2D(8.0, 8.0)));
+		User.Click(ModeName);
+	}
+
+	void PickConversation(const TCHAR* Title)
+	{
+		User.Click(TEXT("History"));
+		User.Click(Title);
+	}
+
 	FFakeClient Client;
 	FLogCapture Log;
 	TSharedRef<SChatPanel> Panel = MakePanel();
+	FUserDriver User{Panel, FVector2D(1000.0, 800.0)};
 };
 
 const char* const OneHistory = "Log: Refreshing chat history widget with 1 histories\n";
@@ -56,7 +76,6 @@ TEST_F(ChatPanel, BuildingItChecksForUpdatesOnce)
 TEST_F(ChatPanel, AMessageGoesFromTheBoxToTheService)
 {
 	Client.Calls->Allow(TEXT("SendMessage"), [this](const FString& Text) { Client.StartTurn(Text); });
-	FUserDriver User(Panel, FVector2D(1000.0, 800.0));
 	User.Click(TEXT("Type your message here..."));
 	User.Type(TEXT("How?"));
 	User.Press(TEXT("Enter"));
@@ -71,30 +90,30 @@ TEST_F(ChatPanel, AMessageGoesFromTheBoxToTheService)
 
 TEST_F(ChatPanel, RefusesWhileTheAssistantAnswers)
 {
+	Client.MakeHistory(TEXT("other"));
+	Client.Chat->OnChatHistoryChanged.Broadcast();
 	Client.StartTurn(TEXT("q"));
 	TakeCalls();
-	TakeLog(Log);
-	Actions().OnNewChatRequested.Execute();
+	User.Click(TEXT("NewChat"));
 	EXPECT_EQ(Toast(), "Please wait | AI is still responding. Let it finish before starting a new chat.");
-	Actions().OnChatHistorySelected.Execute(Client.Chat->CurrentConversation);
+	PickConversation(TEXT("other"));
 	EXPECT_EQ(Toast(), "Please wait | AI is still responding. Let it finish before switching conversation.");
-	Actions().OnChatModeSelected.Execute(FFakeClient::AutopilotMode);
+	PickMode(FFakeClient::AutopilotMode);
 	EXPECT_EQ(Toast(), "Please wait | AI is still responding. Let it finish before switching to Agent mode.");
 	EXPECT_EQ(TakeCalls(), "");
-	EXPECT_EQ(TakeLog(Log), "");
 
 	// A mode that is no agent and a deletion go through.
 	Client.Calls->Allow(TEXT("SetCurrentChatMode"));
 	Client.Calls->Allow(TEXT("DeleteChatHistory"));
-	Actions().OnChatModeSelected.Execute(FFakeClient::ReagentMode);
-	Actions().OnChatDeleted.Execute(Client.Chat->CurrentConversation);
+	PickMode(FFakeClient::ReagentMode);
+	User.Click(TEXT("History"));
+	User.Click(TEXT("Delete"));
 	EXPECT_EQ(TakeCalls(), "SetCurrentChatMode(Reagent Lab) DeleteChatHistory(first)");
 }
 
 TEST_F(ChatPanel, ShowsTheToastsOfItsChildren)
 {
 	Client.StartTurn(TEXT("q"));
-	FUserDriver User(Panel, FVector2D(1000.0, 800.0));
 	User.Click(TEXT("Type your message here..."));
 	User.Type(TEXT("again"));
 	User.Press(TEXT("Enter"));
@@ -108,33 +127,32 @@ TEST_F(ChatPanel, ANewChatOpensInTheDefaultAgentMode)
 {
 	Client.AddMessage(EChatRole::User, TEXT("old"));
 	Client.Calls->Allow(TEXT("CreateNewConversation"), [this](const FString&) { Client.OpenHistory(TEXT("second")); });
-	int32 NumAnnounced = 0;
-	Actions().OnChatHistoriesRefreshed.BindLambda(
-		[&NumAnnounced](const TArray<TObjectPtr<USerializableChatHistory>>& Histories) { NumAnnounced = Histories.Num(); });
 	TakeCalls();
 	TakeLog(Log);
-	Actions().OnNewChatRequested.Execute();
+	User.Click(TEXT("NewChat"));
 	EXPECT_EQ(TakeCalls(), "CreateNewConversation(Default Agent)");
 	EXPECT_EQ(TakeLog(Log), std::string("Log: New chat requested\n") + TwoHistories);
 	EXPECT_EQ(List(), "");
-	EXPECT_EQ(NumAnnounced, 2);
+	EXPECT_EQ(Rows(), "first | second");
 }
 
-TEST_F(ChatPanel, SelectingAndDeletingNeedAValidConversation)
+TEST_F(ChatPanel, ADeletionOpensTheFirstThatIsLeft)
 {
-	TakeCalls();
+	Client.MakeHistory(TEXT("other"));
 	Client.Calls->Allow(TEXT("LoadConversation"));
-	Client.Calls->Allow(TEXT("DeleteChatHistory"));
-	const TObjectPtr<UFakeChatHistory> Other = Client.MakeHistory(TEXT("other"));
-	Actions().OnChatHistorySelected.Execute(Other);
-	Actions().OnChatDeleted.Execute(Other);
-	EXPECT_EQ(TakeCalls(), "LoadConversation(other) DeleteChatHistory(other)");
-	Other->MarkAsGarbage();
-	Actions().OnChatHistorySelected.Execute(Other);
-	Actions().OnChatDeleted.Execute(Other);
-	Actions().OnChatHistorySelected.Execute(nullptr);
-	Actions().OnChatDeleted.Execute(nullptr);
-	EXPECT_EQ(TakeCalls(), "");
+	Client.Calls->Allow(TEXT("DeleteChatHistory"),
+		[this](const FString&)
+		{
+			Client.Chat->ChatHistories.RemoveAt(1);
+			Client.Chat->OnChatHistoryChanged.Broadcast();
+		});
+	Client.Chat->OnChatHistoryChanged.Broadcast();
+	PickConversation(TEXT("other"));
+	EXPECT_EQ(TakeCalls(), "CheckForUpdates() LoadConversation(other)");
+	User.Click(TEXT("History"));
+	User.ClickAt(
+		FindOne(User.GetWindow()->GetPopup().ToSharedRef(), TEXT("SButton"), 1)->GetCachedGeometry().LocalToAbsolute(FVector2D(8.0, 8.0)));
+	EXPECT_EQ(TakeCalls(), "DeleteChatHistory(other) LoadConversation(first)");
 }
 
 TEST_F(ChatPanel, AnAgentModeOpensANewConversation)
@@ -145,13 +163,22 @@ TEST_F(ChatPanel, AnAgentModeOpensANewConversation)
 		[this](const FString& ModeName)
 		{
 			Client.OpenHistory(TEXT("agent"));
+			Client.Chat->CurrentChatModeName = ModeName;
 			Client.Chat->OnChatModeChanged.Broadcast(ModeName);
 			Client.Chat->OnChatHistoryChanged.Broadcast();
 		});
-	Actions().OnChatModeSelected.Execute(FFakeClient::AutopilotMode);
+	PickMode(FFakeClient::AutopilotMode);
 	EXPECT_EQ(TakeCalls(), "CreateNewConversation(Autopilot)");
-	EXPECT_EQ(TakeLog(Log), std::string("Log: called HandleChatModeChangedInternal with mode: Autopilot\n") + TwoHistories);
+	EXPECT_EQ(TakeLog(Log), std::string("Log: Chat mode changed to: Autopilot\n"
+										"Log: called HandleChatModeChangedInternal with mode: Autopilot\n") +
+								TwoHistories);
 	EXPECT_EQ(Toast(), "You're now in Agent mode | Your previous conversation is safe in chat history.");
+	EXPECT_EQ(Mode(), "Autopilot");
+	Client.AddMessage(EChatRole::User, TEXT("q"));
+	EXPECT_EQ(Mode(), "[Autopilot]") << "it has begun";
+	Client.Chat->CurrentConversation = nullptr;
+	Client.Chat->OnChatModeChanged.Broadcast(TEXT("Autopilot"));
+	EXPECT_EQ(Mode(), "Autopilot") << "none is as good as an empty one";
 }
 
 TEST_F(ChatPanel, AConversationBecomesAnAgentsByTheWordInItsModesName)
@@ -172,6 +199,20 @@ TEST_F(ChatPanel, AConversationBecomesAnAgentsByTheWordInItsModesName)
 	Client.Chat->OnChatHistoryChanged.Broadcast();
 }
 
+TEST_F(ChatPanel, PassesUserDataOnAndTellsOfItsFailure)
+{
+	Client.SetUserData(TEXT("Kim"), 1500);
+	User.AdvanceTime(0.0f);
+	EXPECT_TRUE(User.Sees(TEXT("Credits: 1,500")));
+	EXPECT_TRUE(User.Sees(TEXT("Licenced to: Kim")));
+	EXPECT_NE(ReadTexts(MakePanel()).find("Licenced to: Kim"), std::string::npos) << "a new panel knows at once";
+	Client.SetUserData(TEXT("Kim"), 1500, false);
+	User.AdvanceTime(0.0f);
+	EXPECT_EQ(Toast(), "Unexpected Error! | Failed to retrieve user information");
+	EXPECT_EQ(ReadTexts(FindOne(Panel, TEXT("SBottomBar"))).find("Kim"), std::string::npos);
+	EXPECT_TRUE(User.Sees(TEXT("Credits: 0")));
+}
+
 TEST_F(ChatPanel, TellsOfLoginNewVersionAndNothingOnLogout)
 {
 	Client.Auth->bIsAuthenticated = false;
@@ -183,14 +224,13 @@ TEST_F(ChatPanel, TellsOfLoginNewVersionAndNothingOnLogout)
 
 	Client.Update->OnLatestVersionReceived.Broadcast(TEXT("9.9"));
 	EXPECT_EQ(Toast(), "New version available! | A new version of Vorel is available. | Download");
-	FUserDriver User(Panel, FVector2D(1000.0, 800.0));
 	User.Click(TEXT("Download"));
 	EXPECT_TRUE(User.TakeLaunchedURLs().EndsWith(TEXT("/plugin")));
 
 	TakeCalls();
 	Client.Calls->Allow(TEXT("Logout"));
-	Actions().OnLogoutClicked.Execute();
-	EXPECT_EQ(TakeCalls(), "Logout()");
+	User.Click(TEXT("Logout"));
+	EXPECT_EQ(TakeCalls(), "Logout() Logout()") << "by the bar and by the panel";
 }
 
 TEST_F(ChatPanel, AMissingServiceCostsItsEventsAndIsLogged)
@@ -219,8 +259,10 @@ TEST_F(ChatPanel, UnregisterEventsUndoesRegisterEvents)
 	Client.Update->OnLatestVersionReceived.Broadcast(TEXT("9.9"));
 	EXPECT_EQ(TakeLog(Log), "");
 	EXPECT_EQ(Toast(), "");
-	EXPECT_FALSE(Actions().OnSendMessage.IsBound());
-	EXPECT_FALSE(Actions().OnNewChatRequested.IsBound());
+	Client.SetUserData(TEXT("Kim"), 1, false);
+	EXPECT_EQ(Toast(), "");
+	User.Click(TEXT("NewChat"));
+	EXPECT_EQ(TakeLog(Log), "");
 }
 
 TEST_F(ChatPanel, APanelThatHasGoneHearsNothing)
@@ -238,7 +280,6 @@ TEST_F(ChatPanel, APanelThatHasGoneHearsNothing)
 TEST_F(ChatPanel, TheColumnIs700WideAndTheToastPushesItDown)
 {
 	Client.AddMessage(EChatRole::Assistant, TEXT("Hello"));
-	FUserDriver User(Panel, FVector2D(1000.0, 800.0));
 	User.Frame();
 	const auto Rect = [this](const TCHAR* TypeName, size_t Index = 0)
 	{
@@ -247,14 +288,16 @@ TEST_F(ChatPanel, TheColumnIs700WideAndTheToastPushesItDown)
 		return ToUtf8(
 			FString::Printf(TEXT("%.0f,%.0f %.0fx%.0f"), Position.X, Position.Y, Geometry.GetLocalSize().X, Geometry.GetLocalSize().Y));
 	};
-	// 60 for the input area, whose box is 40 high; the rest is the view's.
-	EXPECT_EQ(Rect(TEXT("SInputArea")), "160,740 680x60");
-	EXPECT_EQ(Rect(TEXT("SChatView")), "160,0 680x740");
-	EXPECT_EQ(Rect(TEXT("SScrollBox")), "170,0 660x740");
-	EXPECT_TRUE(Rect(TEXT("SChatItem")).starts_with("170,10 660x"));
+	// 60 for the input area, whose box is 40 high, 40 for the bar below it, 56 for the bar above; the rest is the view's.
+	EXPECT_EQ(Rect(TEXT("STopBar")), "0,0 1000x56");
+	EXPECT_EQ(Rect(TEXT("SBottomBar")), "160,760 680x40");
+	EXPECT_EQ(Rect(TEXT("SInputArea")), "160,700 680x60");
+	EXPECT_EQ(Rect(TEXT("SChatView")), "160,56 680x644");
+	EXPECT_EQ(Rect(TEXT("SScrollBox")), "170,56 660x644");
+	EXPECT_TRUE(Rect(TEXT("SChatItem")).starts_with("170,66 660x"));
 
 	Client.Auth->OnAuthenticationStateChanged.Broadcast();
 	User.Frame();
-	EXPECT_EQ(Rect(TEXT("SNotification")), "0,0 1000x45");
-	EXPECT_EQ(Rect(TEXT("SChatView")), "160,45 680x695");
+	EXPECT_EQ(Rect(TEXT("SNotification")), "0,56 1000x45");
+	EXPECT_EQ(Rect(TEXT("SChatView")), "160,101 680x599");
 }

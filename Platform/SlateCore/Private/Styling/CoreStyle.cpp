@@ -84,7 +84,7 @@ void FControlStyle::SetComboBoxRow()
 	FTableRowStyle Row;
 	Row.SetActiveBrush(MakeBrush(EditorTheme::Selection))
 		.SetActiveHoveredBrush(MakeBrush(EditorTheme::SelectionHover))
-		.SetInactiveHoveredBrush(MakeBrush(EditorTheme::Hover));
+		.SetInactiveHoveredBrush(MakeBrush(EditorTheme::Secondary));
 	Set(TEXT("ComboBox.Row"), Row);
 }
 

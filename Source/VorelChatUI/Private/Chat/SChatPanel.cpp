@@ -4,9 +4,11 @@
 
 #include "AuthenticationService.h"
 #include "Chat/ChatPanelActions.h"
+#include "Chat/SBottomBar.h"
 #include "Chat/SChatView.h"
 #include "Chat/SInputArea.h"
 #include "Chat/SNotification.h"
+#include "Chat/STopBar.h"
 #include "ChatService.h"
 #include "LogVorel.h"
 #include "SerializableChatHistory.h"
@@ -16,7 +18,6 @@
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/SBoxPanel.h"
-#include "Widgets/SNullWidget.h"
 #include "Widgets/SOverlay.h"
 
 namespace
@@ -77,12 +78,13 @@ TSharedRef<SWidget> SChatPanel::ConstructInterface()
 }
 // clang-format on
 
+// clang-format off
 TSharedRef<SWidget> SChatPanel::ConstructTopBar()
 {
-	return SNullWidget::NullWidget;
+	return SAssignNew(TopBar, STopBar)
+		.PanelActions(PanelActions);
 }
 
-// clang-format off
 TSharedRef<SWidget> SChatPanel::ConstructChatArea()
 {
 	const TSharedRef<SWidget> ChatViewWidget = ConstructChatView();
@@ -139,12 +141,22 @@ TSharedRef<SWidget> SChatPanel::ConstructInputArea()
 		.UserDataService(UserDataService)
 		.Notification(Notification);
 }
-// clang-format on
 
 TSharedRef<SWidget> SChatPanel::ConstructBottomBar()
 {
-	return SNullWidget::NullWidget;
+	// What the service holds at this moment; HandleUserDataChanged corrects it.
+	const FVorelUserData UserData = UserDataService ? UserDataService->UserData : FVorelUserData();
+	return SAssignNew(BottomBar, SBottomBar)
+		.AuthService(AuthService)
+		.UserDataService(UserDataService)
+		.ChatModes(ChatModes)
+		.CurrentChatMode(ChatService->GetCurrentChatModeName())
+		.PanelActions(PanelActions)
+		.Notification(Notification)
+		.UserName(UserData.UserName)
+		.Credits(UserData.Credits);
 }
+// clang-format on
 
 void SChatPanel::RegisterEvents()
 {
@@ -191,6 +203,11 @@ void SChatPanel::RegisterEvents()
 	{
 		UE_LOG(LogVorel, Error, TEXT("UpdateService is not valid in SChatPanel::RegisterEvents"));
 	}
+
+	if (IsValid(UserDataService))
+	{
+		UserDataService->OnUserDataChanged.Add(FOnUserDataChanged::FDelegate::CreateSP(this, &SChatPanel::HandleUserDataChanged));
+	}
 }
 
 void SChatPanel::UnregisterEvents()
@@ -217,6 +234,10 @@ void SChatPanel::UnregisterEvents()
 	if (IsValid(UpdateService))
 	{
 		UpdateService->OnLatestVersionReceived.RemoveAll(this);
+	}
+	if (IsValid(UserDataService))
+	{
+		UserDataService->OnUserDataChanged.RemoveAll(this);
 	}
 }
 
@@ -298,6 +319,12 @@ void SChatPanel::HandleChatModeChanged(const FString& ModeName)
 void SChatPanel::HandleChatModeChangedInternal(const FString& ModeName)
 {
 	UE_LOG(LogVorel, Log, TEXT("called HandleChatModeChangedInternal with mode: %s"), *ModeName);
+	if (!BottomBar)
+	{
+		return;
+	}
+	const TObjectPtr<USerializableChatHistory> Conversation = ChatService->GetCurrentConversation();
+	BottomBar->UpdateSelectedMode(ModeName, !IsValid(Conversation) || Conversation->Messages.IsEmpty());
 }
 
 void SChatPanel::HandleChatHistoryChanged()
@@ -348,18 +375,38 @@ void SChatPanel::HandleLatestVersionReceived(const FString& Version) const
 	}
 }
 
+void SChatPanel::HandleUserDataChanged(const FVorelUserData& Data, bool bSuccess)
+{
+	if (bSuccess)
+	{
+		BottomBar->UpdateUserData(Data.UserName, Data.Credits);
+		return;
+	}
+	if (Notification)
+	{
+		Notification->PushError(TEXT("Unexpected Error!"), TEXT("Failed to retrieve user information"));
+	}
+	BottomBar->UpdateUserData(FString(), 0);
+}
+
 void SChatPanel::RefreshBottomBarWidget()
 {
-	if (!IsValid(ChatService))
+	if (!IsValid(ChatService) || !BottomBar)
 	{
 		return;
 	}
+	bool bIsEmptyConversation = true;
 	const FString ModeName = ChatService->GetCurrentChatModeName();
 	const TObjectPtr<USerializableChatHistory> Conversation = ChatService->GetCurrentConversation();
-	if (IsValid(Conversation) && !Conversation->Messages.IsEmpty() && ModeName.Contains(TEXT("AGENT"), ESearchCase::IgnoreCase))
+	if (IsValid(Conversation))
 	{
-		Conversation->bIsAgentConversation = true;
+		bIsEmptyConversation = Conversation->Messages.IsEmpty();
+		if (!bIsEmptyConversation && ModeName.Contains(TEXT("AGENT"), ESearchCase::IgnoreCase))
+		{
+			Conversation->bIsAgentConversation = true;
+		}
 	}
+	BottomBar->UpdateSelectedMode(ModeName, bIsEmptyConversation);
 }
 
 void SChatPanel::RefreshChatHistoryWidget()

@@ -7,9 +7,11 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
+class SBottomBar;
 class SChatView;
 class SInputArea;
 class SNotification;
+class STopBar;
 class UAuthenticationService;
 class UChatService;
 class UMessage;
@@ -17,6 +19,7 @@ class USerializableChatHistory;
 class UUserDataService;
 class UVorelUpdateService;
 struct FChatPanelActions;
+struct FVorelUserData;
 
 // Coordinates everything in the chat tab. Its children fire the delegates of PanelActions; the panel decides, calls the services and pushes
 // fresh state into the children. It is the one place that refuses an action while the assistant is answering.
@@ -59,6 +62,7 @@ private:
 	void HandleMessageAdded(TObjectPtr<UMessage> Message);
 	void HandleNewChatRequested();
 	void HandleSendMessage(const FString& Text);
+	void HandleUserDataChanged(const FVorelUserData& Data, bool bSuccess);
 
 	void RefreshBottomBarWidget();
 	void RefreshChatHistoryWidget();
@@ -71,9 +75,11 @@ private:
 	TObjectPtr<UAuthenticationService> AuthService;
 	TObjectPtr<UUserDataService> UserDataService;
 	TObjectPtr<UVorelUpdateService> UpdateService;
+	TSharedPtr<STopBar> TopBar;
 	TSharedPtr<SNotification> Notification;
 	TSharedPtr<SChatView> ChatView;
 	TSharedPtr<SInputArea> InputArea;
+	TSharedPtr<SBottomBar> BottomBar;
 
 	// Read once, when the panel is built.
 	TArray<FString> ChatModes;
