@@ -5,6 +5,7 @@
 #include "CoreMinimal.h"
 #include "LinePrefix.h"
 #include "MarkdownReader.h"
+#include "MarkdownSource.h"
 #include "TableRow.h"
 #include <algorithm>
 #include <string>
@@ -29,6 +30,12 @@ size_t SkipPrefix(std::string_view Line)
 std::string_view TrimEnd(std::string_view Text)
 {
 	return Text.substr(0, Text.find_last_not_of(" \t") + 1);
+}
+
+// A delimiter row with too few columns as yet is guarded.
+std::string_view SkipGuard(std::string_view Content)
+{
+	return Content.substr(Content.starts_with(FMarkdownSource::GuardMark) ? 1 : 0);
 }
 
 constexpr size_t FenceLength = 3;
@@ -107,7 +114,7 @@ size_t GetSettledSize(std::string_view Source)
 	const size_t LineStart = Source.rfind('\n') + 1;
 	const std::string_view Line = TrimEnd(Source.substr(LineStart));
 	const size_t PrefixSize = SkipPrefix(Line);
-	const std::string_view Content = Line.substr(PrefixSize);
+	const std::string_view Content = SkipGuard(Line.substr(PrefixSize));
 	const bool bFirstLine = LineStart == 0;
 
 	const bool bFence = MayOpenFence(Content) && !(bFirstLine && Content.size() < FenceLength);
