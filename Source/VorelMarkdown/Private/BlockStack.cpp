@@ -7,7 +7,7 @@ namespace
 constexpr std::string_view Bullet = "\u2022";
 
 constexpr int32 MarkerIndent = 2;
-constexpr int32 NestedQuoteIndent = 4;
+constexpr int32 QuoteIndent = 4;
 
 // However deep the nesting, lines stay readable and the markup in proportion to its source.
 constexpr int32 MaxIndent = 40;
@@ -33,10 +33,7 @@ void FBlockStack::EnterQuote()
 {
 	FContainer& Quote = Push();
 	Quote.TextBlock = EMarkupBlock::Paragraph;
-	if (Quote.QuoteDepth > 0)
-	{
-		Quote.Indent = FMath::Min(Quote.Indent + NestedQuoteIndent, MaxIndent);
-	}
+	Quote.Indent = FMath::Min(Quote.Indent + QuoteIndent, MaxIndent);
 	Quote.QuoteDepth = FMath::Min<uint8>(Quote.QuoteDepth + 1, FMarkupStyle::MaxQuoteDepth);
 }
 
@@ -106,6 +103,11 @@ void FBlockStack::EndHeading()
 	Containers.Last().bBehindHeading = true;
 }
 
+void FBlockStack::EndCode()
+{
+	Gap = EGap::EmptyLine;
+}
+
 void FBlockStack::OpenLine(const FMarkupStyle& Style)
 {
 	if (Gap == EGap::None)
@@ -133,7 +135,6 @@ void FBlockStack::OpenCodeLine()
 	}
 	else if (Gap == EGap::Line)
 	{
-		// The box has no margin of its own, and would touch a heading or a tight item above it.
 		Gap = EGap::EmptyLine;
 	}
 	CloseGap();

@@ -37,6 +37,9 @@ public:
 	void EndLine() { Gap = Gap == EGap::None ? EGap::Line : EGap::EmptyLine; }
 	void EndHeading();
 
+	// The box has no margin of its own, and would touch what stands above and below it.
+	void EndCode();
+
 	// Goes to the line that the next text belongs to, if it is not there already.
 	void OpenLine(const FMarkupStyle& Style);
 

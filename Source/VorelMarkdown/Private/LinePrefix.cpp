@@ -30,3 +30,13 @@ size_t SkipListMarker(std::string_view Line, size_t Position)
 	const bool bBlankBehind = Behind == ' ' || Behind == '\t' || Behind == '\n';
 	return bBlankBehind ? std::min(End + 2, Line.size()) : Position;
 }
+
+size_t SkipLinePrefix(std::string_view Line)
+{
+	size_t Position = SkipBlanksAndQuotes(Line, 0);
+	for (size_t Behind; (Behind = SkipListMarker(Line, Position)) != Position;)
+	{
+		Position = SkipBlanksAndQuotes(Line, Behind);
+	}
+	return Position;
+}

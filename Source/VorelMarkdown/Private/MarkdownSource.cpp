@@ -4,6 +4,7 @@
 
 #include "InlineLimits.h"
 #include "LinePrefix.h"
+#include "TableRepair.h"
 #include "TableRow.h"
 #include <algorithm>
 
@@ -16,7 +17,7 @@ constexpr size_t MaxListColumn = 256;
 constexpr uint64 MaxReferenceSteps = 50'000'000;
 
 // Each row of a table costs a step per column, however short it is.
-constexpr size_t MaxColumns = 64;
+constexpr size_t MaxColumns = 32;
 
 // Looking for code in a longer one would take too long.
 constexpr size_t MaxTableHeadSize = 10'000;
@@ -142,6 +143,7 @@ FMarkdownSource::FMarkdownSource(FStringView Markdown)
 {
 	Convert(Markdown);
 	GuardLineStarts();
+	RepairTables(Bytes);
 }
 
 void FMarkdownSource::Convert(FStringView Markdown)

@@ -10,9 +10,9 @@ namespace
 constexpr std::string_view OpenTask = "\u2610";
 constexpr std::string_view DoneTask = "\u2611";
 
-// Twenty em dashes; the glyphs touch and make a line.
-constexpr std::string_view Rule = "\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014"
-								  "\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014\u2014";
+// The glyphs of this one touch and make a line.
+constexpr std::string_view RuleGlyph = "\u2500";
+constexpr int32 RuleLength = 40;
 
 EMarkupWord GetWord(MD_SPANTYPE Type)
 {
@@ -92,7 +92,8 @@ void FMarkupRenderer::EnterBlock(MD_BLOCKTYPE Type, const void* Detail)
 		return EnterRow();
 	case MD_BLOCK_TH:
 	case MD_BLOCK_TD:
-		return EnterCell();
+		++EndedCells;
+		return;
 	}
 }
 
@@ -113,9 +114,12 @@ void FMarkupRenderer::LeaveBlock(MD_BLOCKTYPE Type)
 	case MD_BLOCK_CODE:
 		bInCodeBlock = false;
 		CodeBlock.End();
-		return Blocks.EndBlock();
+		return Blocks.EndCode();
 	case MD_BLOCK_HTML:
 		bInHtmlBlock = false;
+		return Blocks.EndBlock();
+	case MD_BLOCK_TR:
+		EndCells();
 		return Blocks.EndBlock();
 	case MD_BLOCK_TABLE:
 		return LeaveTable();
@@ -136,16 +140,17 @@ void FMarkupRenderer::EnterHeading(unsigned Level)
 void FMarkupRenderer::EnterRow()
 {
 	Blocks.OpenLine(GetBlockStyle());
-	bRowHasCell = false;
+	// The first one begins without an end before it.
+	EndedCells = -1;
 }
 
-void FMarkupRenderer::EnterCell()
+void FMarkupRenderer::EndCells()
 {
-	if (bRowHasCell)
+	if (EndedCells > 0)
 	{
-		Writer.EndCell(GetBlockStyle());
+		Writer.EndCells(GetBlockStyle(), EndedCells);
 	}
-	bRowHasCell = true;
+	EndedCells = 0;
 }
 
 void FMarkupRenderer::LeaveTable()
@@ -161,7 +166,10 @@ void FMarkupRenderer::AddRule()
 	FMarkupStyle Style = Blocks.GetTextStyle();
 	Style.Block = EMarkupBlock::HorizontalRule;
 	Blocks.OpenLine(Style);
-	Writer.Text(Style, Rule);
+	for (int32 Index = 0; Index < RuleLength; ++Index)
+	{
+		Writer.Text(Style, RuleGlyph);
+	}
 }
 
 void FMarkupRenderer::EnterCode()
@@ -230,6 +238,7 @@ void FMarkupRenderer::AddText(const FMarkupStyle& Style, std::string_view Text)
 		return;
 	}
 	Blocks.OpenLine(GetBlockStyle());
+	EndCells();
 	Addresses.AddLinkText(Text);
 	bImageHasText = true;
 	Writer.Text(Style, Text);

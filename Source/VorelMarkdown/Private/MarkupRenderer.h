@@ -29,7 +29,7 @@ private:
 	void EnterHeading(unsigned Level);
 	void AddRule();
 	void EnterRow();
-	void EnterCell();
+	void EndCells();
 	void LeaveTable();
 	void AddHtml(std::string_view Text);
 	void AddInlineCode(std::string_view Text);
@@ -50,7 +50,9 @@ private:
 	// Set in a heading or a table, whose text has its style whatever is around it.
 	TOptional<EMarkupBlock> OwnBlock;
 	bool bInTableHead = false;
-	bool bRowHasCell = false;
+
+	// Cells of the row that have ended since its last text, of which a row can have very many.
+	int32 EndedCells = 0;
 	bool bInHtmlBlock = false;
 
 	FSpanStack Spans;

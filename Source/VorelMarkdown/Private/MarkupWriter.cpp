@@ -124,10 +124,13 @@ void FMarkupWriter::Text(const FMarkupStyle& Style, std::string_view Utf8)
 	}
 }
 
-void FMarkupWriter::EndCell(const FMarkupStyle& Style)
+void FMarkupWriter::EndCells(const FMarkupStyle& Style, int32 Count)
 {
 	BeginRun(Style);
-	Out += TEXT('\t');
+	for (; Count > 0; --Count)
+	{
+		Out += TEXT('\t');
+	}
 }
 
 void FMarkupWriter::BeginRun(const FMarkupStyle& Style)

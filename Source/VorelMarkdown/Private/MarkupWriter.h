@@ -19,8 +19,8 @@ public:
 	// All of & < > " are escaped, and a tab becomes a blank, since a tab ends a cell.
 	void Text(const FMarkupStyle& Style, std::string_view Utf8);
 
-	// The one tab between two cells of a table.
-	void EndCell(const FMarkupStyle& Style);
+	// One tab each between cells of a table.
+	void EndCells(const FMarkupStyle& Style, int32 Count);
 	void EndLine();
 
 	// A code run is raw but for "&" and the closing form.

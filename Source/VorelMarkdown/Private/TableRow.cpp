@@ -64,6 +64,21 @@ size_t CountDeclaredColumns(std::string_view Line)
 	return IsDelimiterCell(Line) ? Columns : 0;
 }
 
+bool HasShortCell(std::string_view DelimiterRow)
+{
+	constexpr size_t MinSize = 3;
+	for (size_t Position = 0; (Position = DelimiterRow.find_first_of(":-", Position)) != std::string_view::npos;)
+	{
+		const size_t End = std::min(DelimiterRow.find_first_not_of(":-", Position), DelimiterRow.size());
+		if (End - Position < MinSize)
+		{
+			return true;
+		}
+		Position = End;
+	}
+	return false;
+}
+
 size_t CountCells(std::string_view Line)
 {
 	Line = TrimBlanks(Line);

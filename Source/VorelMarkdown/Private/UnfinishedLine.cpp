@@ -2,9 +2,8 @@
 
 #include "UnfinishedLine.h"
 
-#include "CoreMinimal.h"
+#include "BlockProbe.h"
 #include "LinePrefix.h"
-#include "MarkdownReader.h"
 #include "MarkdownSource.h"
 #include "TableRow.h"
 #include <algorithm>
@@ -15,16 +14,6 @@ namespace
 bool ConsistsOf(std::string_view Text, char Character)
 {
 	return Text.find_first_not_of(Character) == std::string_view::npos;
-}
-
-size_t SkipPrefix(std::string_view Line)
-{
-	size_t Position = SkipBlanksAndQuotes(Line, 0);
-	for (size_t Behind; (Behind = SkipListMarker(Line, Position)) != Position;)
-	{
-		Position = SkipBlanksAndQuotes(Line, Behind);
-	}
-	return Position;
 }
 
 std::string_view TrimEnd(std::string_view Text)
@@ -60,7 +49,7 @@ bool MayUnderlineHeading(std::string_view Content)
 bool MayDeclareColumns(std::string_view Content, std::string_view Head)
 {
 	const bool bBeginning = !Content.empty() && Content.find_first_not_of("|:- \t") == std::string_view::npos;
-	return bBeginning && Head.find('|') != std::string_view::npos && CountDeclaredColumns(Content) != CountCells(Head);
+	return bBeginning && Head.find('|') != std::string_view::npos && CountDeclaredColumns(Content) < CountCells(Head);
 }
 
 std::string_view GetLineBefore(std::string_view Source, size_t LineStart)
@@ -69,43 +58,13 @@ std::string_view GetLineBefore(std::string_view Source, size_t LineStart)
 	return Before.substr(Before.rfind('\n') + 1);
 }
 
-// Learns in what kind of block one character of the source stands.
-class FVerbatimProbe : public IMarkdownHandler
-{
-public:
-	explicit FVerbatimProbe(const char* InCharacter)
-		: Character(InCharacter)
-	{
-	}
-
-	bool bInVerbatim = false;
-
-	void EnterBlock(MD_BLOCKTYPE Type, const void*) override { Block = Type; }
-	void LeaveBlock(MD_BLOCKTYPE) override {}
-	void EnterSpan(MD_SPANTYPE) override {}
-	void LeaveSpan(MD_SPANTYPE, const void*) override {}
-
-	void Text(MD_TEXTTYPE, std::string_view Text) override
-	{
-		if (Character >= Text.data() && Character < Text.data() + Text.size())
-		{
-			bInVerbatim = Block == MD_BLOCK_CODE || Block == MD_BLOCK_HTML;
-		}
-	}
-
-private:
-	const char* const Character;
-	MD_BLOCKTYPE Block = MD_BLOCK_DOC;
-};
-
 // Whether code or HTML goes on behind the text, which ends where a line's content begins.
 bool EndsInVerbatim(std::string_view Text)
 {
-	std::string Probed(Text);
-	Probed.push_back('x');
-	FVerbatimProbe Probe(&Probed.back());
-	ReadMarkdown(Probed, Probe);
-	return Probe.bInVerbatim;
+	const std::string Probed = std::string(Text) + "x";
+	TArray<FProbedStretch> End = {{Text.size(), Probed.size()}};
+	ProbeBlocks(Probed, End);
+	return End[0].Block == MD_BLOCK_CODE || End[0].Block == MD_BLOCK_HTML;
 }
 } // namespace
 
@@ -113,7 +72,7 @@ size_t GetSettledSize(std::string_view Source)
 {
 	const size_t LineStart = Source.rfind('\n') + 1;
 	const std::string_view Line = TrimEnd(Source.substr(LineStart));
-	const size_t PrefixSize = SkipPrefix(Line);
+	const size_t PrefixSize = SkipLinePrefix(Line);
 	const std::string_view Content = SkipGuard(Line.substr(PrefixSize));
 	const bool bFirstLine = LineStart == 0;
 

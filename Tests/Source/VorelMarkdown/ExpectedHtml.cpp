@@ -152,7 +152,7 @@ private:
 		else if (Name == "hr")
 		{
 			Block = "HorizontalRule";
-			Text(Repeat("\u2014", 20));
+			Text(Repeat("\u2500", 40));
 			Block.clear();
 		}
 		else if (Name == "th")
