@@ -4,7 +4,7 @@
 
 #include <QColor>
 #include <QImage>
-#include <QRect>
+#include <QRectF>
 #include <QRegularExpression>
 
 namespace
@@ -13,21 +13,71 @@ class SamplePlay : public FVorelProgramTest
 {
 protected:
 	// The first widget with this in its line of a saved tree.
-	QRect FindInTree(const char* TreeFile, const char* Pattern)
+	QRectF FindInTree(const char* TreeFile, const char* Pattern)
 	{
-		static const QRegularExpression Geometry(QStringLiteral(R"((-?\d+),(-?\d+) (\d+)x(\d+))"));
+		static const QRegularExpression Geometry(QStringLiteral(R"(([-.\d]+),([-.\d]+) ([.\d]+)x([.\d]+))"));
 		for (const QByteArray& Line : Read(TreeFile).split('\n'))
 		{
 			if (Line.contains(Pattern))
 			{
 				const QRegularExpressionMatch Match = Geometry.match(QString::fromUtf8(Line));
-				return QRect(Match.captured(1).toInt(), Match.captured(2).toInt(), Match.captured(3).toInt(), Match.captured(4).toInt());
+				return QRectF(
+					Match.captured(1).toDouble(), Match.captured(2).toDouble(), Match.captured(3).toDouble(), Match.captured(4).toDouble());
 			}
 		}
 		ADD_FAILURE() << TreeFile << " has no " << Pattern;
-		return QRect();
+		return QRectF();
 	}
 };
+
+// What a saved tree shows of the conversations.
+struct FConversationsShown
+{
+	// Titles in the open list of conversations, without the times before them.
+	QStringList Rows;
+	QString Mode;
+	bool bModeLocked = false;
+	// The user's message in the view; empty for a new chat.
+	QString Question;
+};
+
+QString GetQuoted(const QByteArray& Line)
+{
+	const qsizetype Begin = Line.indexOf('"') + 1;
+	return QString::fromUtf8(Line.mid(Begin, Line.indexOf('"', Begin) - Begin));
+}
+
+FConversationsShown ReadConversations(const QByteArray& Tree)
+{
+	static const QRegularExpression Time(QStringLiteral(R"(^(\d\d:\d\d|\d+ \w+) )"));
+	FConversationsShown Shown;
+	QByteArray Around;
+	for (const QByteArray& Line : Tree.split('\n'))
+	{
+		const QByteArray Type = Line.trimmed().split(' ').first();
+		if (Type == "SBottomBar" || Type == "SComboList" || Type == "SChatItem" || Type == "SInputArea")
+		{
+			Around = Type;
+		}
+		else if (Type == "SComboBox" && Around == "SBottomBar")
+		{
+			Shown.bModeLocked = Line.endsWith(" disabled");
+		}
+		else if (Type == "STextBlock" && Around == "SBottomBar" && Shown.Mode.isEmpty())
+		{
+			Shown.Mode = GetQuoted(Line);
+		}
+		else if (Type == "STextBlock" && Around == "SComboList")
+		{
+			Shown.Rows.append(GetQuoted(Line).remove(Time));
+		}
+		else if (Type == "SMultiLineEditableText" && Around == "SChatItem" && Shown.Question.isEmpty())
+		{
+			Shown.Question = GetQuoted(Line);
+		}
+	}
+	return Shown;
+}
 
 // The N-th block of code of an article, from 0.
 QByteArray ReadGuideBlock(const char* Article, int Number)
@@ -86,8 +136,9 @@ TEST_F(SamplePlay, CopiesEachBlockOfCodeAsTheGuideHasIt)
 	}
 
 	const QImage Picture(GetPath("code-and-copy/1-colors.png"));
-	const QRect Box = FindInTree("code-and-copy/1-colors.txt", "SSCodeWidget ");
-	const QRect Visible = Box.intersected(Picture.rect());
+	const QRectF Box = FindInTree("code-and-copy/1-colors.txt", "SSCodeWidget ");
+	// Without the pixels that it covers in part.
+	const QRect Visible = Box.intersected(FindInTree("code-and-copy/1-colors.txt", "SScrollBox ")).toRect().adjusted(0, 1, 0, -1);
 	for (const char* const Color : {"#FFDAAA", "#BCF3AA", "#BCDAF3"})
 	{
 		EXPECT_GT(CountPixels(Picture, Visible, QColor(QLatin1String(Color))), 20) << Color;
@@ -95,5 +146,57 @@ TEST_F(SamplePlay, CopiesEachBlockOfCodeAsTheGuideHasIt)
 	constexpr int Padding = 10;
 	const QRect RightEdge(Visible.right() + 1 - Padding, Visible.top(), Padding, Visible.height());
 	EXPECT_EQ(CountPixels(Picture, RightEdge, QColor(0x16, 0x18, 0x1C)), Padding * Visible.height());
-	EXPECT_EQ(FindInTree("code-and-copy/1-colors.txt", "name=\"Copy\"").topRight(), Box.topRight() + QPoint(-8, 8));
+	EXPECT_EQ(FindInTree("code-and-copy/1-colors.txt", "name=\"Copy\"").topRight(), Box.topRight() + QPointF(-8, 8));
+}
+
+TEST_F(SamplePlay, KeepsConversationsOverThreeRuns)
+{
+	for (const char* const Name : {"history-1-create.play", "history-2-return.play", "history-3-new-chat.play"})
+	{
+		const FProgramOutcome Outcome = PlaySample(Name);
+		ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
+	}
+
+	const QString Timer = QStringLiteral("How do I set a timer?");
+	const QString Interfaces = QStringLiteral("Explain interfaces");
+	const QString Replicate = QStringLiteral("Replicate a variable");
+	const QString Pointers = QStringLiteral("Explain smart pointers");
+	const QString TimerRow = QStringLiteral("How do I set a time…");
+	const QString PointersRow = QStringLiteral("Explain smart point…");
+	const QStringList Modes = {QStringLiteral("Agent"), QStringLiteral("Ask"), QStringLiteral("Review")};
+	constexpr bool bLocked = true;
+	const std::pair<const char*, FConversationsShown> Steps[] = {
+		{"1-empty", {{}, Modes[0], false, {}}},
+		{"1-agent", {{}, Modes[0], bLocked, Timer}},
+		{"1-new", {{}, Modes[0], false, {}}},
+		{"1-modes", {Modes, Modes[0], false, {}}},
+		{"1-ask", {{}, Modes[1], false, Interfaces}},
+		{"1-rows", {{Replicate, Interfaces, TimerRow}, Modes[0], bLocked, Replicate}},
+		{"2-rows", {{Replicate, Interfaces, TimerRow}, Modes[0], false, {}}},
+		{"2-ask", {{}, Modes[1], false, Interfaces}},
+		{"2-agent", {{}, Modes[0], bLocked, Timer}},
+		{"2-deleted", {{Replicate, TimerRow}, Modes[0], bLocked, Replicate}},
+		{"3-rows", {{Replicate, TimerRow}, Modes[0], false, {}}},
+		{"3-opened", {{}, Modes[0], bLocked, Replicate}},
+		{"3-new", {{}, Modes[0], false, {}}},
+		{"3-still-two", {{Replicate, TimerRow}, Modes[0], false, {}}},
+		{"3-three", {{PointersRow, Replicate, TimerRow}, Modes[0], bLocked, Pointers}},
+	};
+	for (const auto& [Name, Expected] : Steps)
+	{
+		const FConversationsShown Shown = ReadConversations(Read((QByteArray("history/") + Name + ".txt").constData()));
+		EXPECT_EQ(Shown.Rows, Expected.Rows) << Name << ": " << Shown.Rows.join(QStringLiteral(", ")).toStdString();
+		EXPECT_EQ(Shown.Mode, Expected.Mode) << Name;
+		EXPECT_EQ(Shown.bModeLocked, Expected.bModeLocked) << Name;
+		EXPECT_EQ(Shown.Question, Expected.Question) << Name << ": " << Shown.Question.toStdString();
+	}
+
+	// The third row was the one chosen before the second was deleted, and then the first is.
+	const QRectF Row = FindInTree("history/2-deleted.txt", "SComboRow ");
+	const QPoint FirstRow = (Row.topLeft() + QPointF(3, 3)).toPoint();
+	const QPoint ThirdRow = FirstRow + QPoint(0, qRound(2 * Row.height()));
+	const QImage Before(GetPath("history/2-before-deletion.png"));
+	const QImage After(GetPath("history/2-deleted.png"));
+	EXPECT_EQ(After.pixelColor(FirstRow), Before.pixelColor(ThirdRow));
+	EXPECT_NE(After.pixelColor(FirstRow), Before.pixelColor(FirstRow));
 }
