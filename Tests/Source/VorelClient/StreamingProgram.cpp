@@ -2,6 +2,7 @@
 
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include "ScriptedServer.h"
@@ -44,8 +45,10 @@ public:
 		Service->OnChunkReceived.AddLambda([this](const FString& Chunk) { HandleChunk(Chunk); });
 		Service->OnRequestCompleted.AddLambda([this] { QTimer::singleShot(0, [this] { AskNext(); }); });
 		QObject::connect(&Pieces, &QTimer::timeout, [this] { SendPiece(); });
-		QObject::connect(&Frames, &QTimer::timeout, [] { FTSTicker::GetCoreTicker().Tick(0.005f); });
+		QObject::connect(
+			&Frames, &QTimer::timeout, [this] { FTSTicker::GetCoreTicker().Tick(static_cast<float>(SinceLastFrame.restart()) / 1000.0f); });
 		Frames.start(5);
+		SinceLastFrame.start();
 		AskNext();
 	}
 
@@ -93,6 +96,7 @@ private:
 	FScriptedServer Server;
 	TObjectPtr<UHttpChatService> Service = NewObject<UHttpChatService>();
 	QTimer Frames;
+	QElapsedTimer SinceLastFrame;
 	QTimer Pieces;
 	FExchange Asker;
 	int32 Number;

@@ -1,11 +1,10 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 // Qt's headers come before the engine's, whose macros they don't survive.
-#include <QFileSystemWatcher>
+#include "Store/StoreWatch.h"
 
 #include "Store/ConversationArchive.h"
 
-#include "Assistant/QtText.h"
 #include "Containers/Ticker.h"
 #include "Store/LogVorelStore.h"
 #include "Store/StoreWriter.h"
@@ -49,6 +48,7 @@ struct FConversationArchive::FParts
 		: File(InFile)
 		, Reader(::MoveTemp(InReader))
 		, Writer(::MoveTemp(InWritten))
+		, Watch(InFile)
 	{
 	}
 
@@ -71,7 +71,7 @@ struct FConversationArchive::FParts
 	FString File;
 	TUniquePtr<FConversationStore> Reader;
 	FStoreWriter Writer;
-	QFileSystemWatcher Watcher;
+	FStoreWatch Watch;
 	FTSTicker::FDelegateHandle Frame;
 };
 
@@ -106,10 +106,10 @@ FConversationArchive::FConversationArchive(TUniquePtr<FParts> InParts)
 	{
 		RepeatForeignChange();
 	};
-	// Its index file says nothing, since it is written without the system's knowledge.
-	Parts->Watcher.addPaths({ToQString(Parts->File), ToQString(Parts->File + TEXT("-wal"))});
-	QObject::connect(
-		&Parts->Watcher, &QFileSystemWatcher::fileChanged, &Parts->Watcher, [this] { Parts->Writer.LookForForeignChange(false); });
+	Parts->Watch.OnLook = [this]
+	{
+		Parts->Writer.LookForForeignChange(false);
+	};
 	if (Parts->Reader->InterruptGrowingAnswers())
 	{
 		Parts->Write([](FConversationStore& Store) { return Store.InterruptGrowingAnswers(); });

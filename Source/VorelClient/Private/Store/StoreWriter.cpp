@@ -94,7 +94,10 @@ void FStoreWriter::RunFirstWrite(std::unique_lock<std::mutex>& Lock)
 	Lock.lock();
 	// No later try would end otherwise.
 	const bool bHopeless = Error.Problem == EStoreProblem::Conflict;
-	UE_CLOG(bHopeless, LogVorelStore, Error, TEXT("A change could not be stored: %s"), *Error.Detail);
+	if (bHopeless)
+	{
+		PostToGameThread([Detail = Error.Detail] { UE_LOG(LogVorelStore, Error, TEXT("A change could not be stored: %s"), *Detail); });
+	}
 	bLastFailed = Error && !bHopeless;
 	if (!bLastFailed)
 	{
