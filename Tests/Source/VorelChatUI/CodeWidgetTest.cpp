@@ -96,14 +96,29 @@ TEST_F(CodeWidget, CopiesWhatItShows)
 
 TEST_F(CodeWidget, AClickOnAButtonThatIsReplacedMeanwhileDoesNothing)
 {
-	Show(TEXT("<code>old</>"));
-	const FPlace Button = PlaceOf(FindOne(Message, TEXT("SButton")));
-	User.SetClipboard(TEXT("before"));
-	User.MouseDown(Button.TopLeft + Button.Size / 2.0);
-	Show(TEXT("<code>new</>"));
-	User.MouseUp(Button.TopLeft + Button.Size / 2.0);
-	EXPECT_EQ(ToUtf8(User.GetClipboard()), "before");
-	EXPECT_EQ(CopyByButton(), "new");
+	for (const bool bFrameBetween : {true, false})
+	{
+		Show(TEXT("<code>old</>"));
+		const FPlace Button = PlaceOf(FindOne(Message, TEXT("SButton")));
+		User.SetClipboard(TEXT("before"));
+		User.MouseDown(Button.TopLeft + Button.Size / 2.0);
+		Message->SetMarkdownText(TEXT("<code>new</>"));
+		if (bFrameBetween)
+		{
+			User.Frame();
+		}
+		User.MouseUp(Button.TopLeft + Button.Size / 2.0);
+		EXPECT_EQ(ToUtf8(User.GetClipboard()), "before");
+		EXPECT_EQ(CopyByButton(), "new");
+	}
+}
+
+TEST_F(CodeWidget, TurnsTheWheelOverATextThatIsNotYetLaidOut)
+{
+	Show(TEXT("old"));
+	Message->SetMarkdownText(TEXT("new"));
+	User.WheelAt(FVector2D(20.0, 10.0), -1.0f);
+	EXPECT_EQ(ReadTexts(Message), "new");
 }
 
 TEST_F(CodeWidget, Is620WideWithItsButtonInTheCorner)

@@ -164,7 +164,6 @@ void FEditableTextController::OnCaretMoved()
 	{
 		Blinker.Restart(Owner.AsShared());
 	}
-	Text.GetLayout().UpdateIfNeeded();
 	if (Scroller.BringIntoView(GetCaretArea()))
 	{
 		OnScrolled();
@@ -173,6 +172,7 @@ void FEditableTextController::OnCaretMoved()
 
 FSlateRect FEditableTextController::GetCaretArea() const
 {
+	Text.GetLayout().UpdateIfNeeded();
 	FSlateRect Area = Text.GetLayout().GetCaretRect(Text.GetCaret());
 	const float Scale = Owner.GetCachedGeometry().GetScale();
 	Area.Left = FMath::RoundToFloat(Area.Left);

@@ -74,11 +74,7 @@ void FSlateMouse::Leave(SWindow& Window)
 
 void FSlateMouse::Refresh()
 {
-	const TSharedPtr<SWidget> OldCaptor = GetCaptor();
-	if (OldCaptor.IsValid() && !FSlateFocus::IsReachable(*OldCaptor))
-	{
-		ReleaseCapture();
-	}
+	DropLostCaptor();
 	const TSharedPtr<SWidget> Window = RestingIn.Pin();
 	if (Window.IsValid() && LastMove.IsSet())
 	{
@@ -108,8 +104,18 @@ void FSlateMouse::ReleaseCapture()
 	}
 }
 
+void FSlateMouse::DropLostCaptor()
+{
+	const TSharedPtr<SWidget> Former = GetCaptor();
+	if (Former.IsValid() && !FSlateFocus::IsReachable(*Former))
+	{
+		ReleaseCapture();
+	}
+}
+
 TArray<FArrangedWidget> FSlateMouse::FindTargets(SWindow& Window, const FPointerEvent& Event)
 {
+	DropLostCaptor();
 	RestingIn = Window.AsShared();
 	LastMove = Event;
 	TArray<FArrangedWidget> Path = FSlateHitTest::FindPath(Window, Event.GetScreenSpacePosition());

@@ -40,6 +40,8 @@ public:
 private:
 	/** Widgets are asked from the uppermost down until one takes the event; the captor alone is asked while there is one. */
 	FReply Route(const TArray<FArrangedWidget>& Path, const FPointerEvent& Event, const FHandler& Handler);
+	/** A captor that is no longer part of its window gets nothing more. */
+	void DropLostCaptor();
 	TArray<FArrangedWidget> FindTargets(SWindow& Window, const FPointerEvent& Event);
 	void UpdateHover(TArray<FArrangedWidget> Path, const FPointerEvent& Event);
 	void UpdateCursor(const TArray<FArrangedWidget>& Path, const FPointerEvent& Event);
