@@ -12,7 +12,7 @@ constexpr std::string_view DoneTask = "\u2611";
 
 // The glyphs of this one touch and make a line.
 constexpr std::string_view RuleGlyph = "\u2500";
-constexpr int32 RuleLength = 40;
+constexpr int32 RuleLength = 24;
 
 EMarkupWord GetWord(MD_SPANTYPE Type)
 {
@@ -57,19 +57,10 @@ void FMarkupRenderer::EnterBlock(MD_BLOCKTYPE Type, const void* Detail)
 	case MD_BLOCK_DOC:
 		return;
 	case MD_BLOCK_QUOTE:
-		return Blocks.EnterQuote();
 	case MD_BLOCK_UL:
-		return Blocks.EnterBulletList(static_cast<const MD_BLOCK_UL_DETAIL*>(Detail)->is_tight);
 	case MD_BLOCK_OL:
-	{
-		const auto& List = *static_cast<const MD_BLOCK_OL_DETAIL*>(Detail);
-		return Blocks.EnterNumberedList(List.is_tight, List.start, List.mark_delimiter);
-	}
 	case MD_BLOCK_LI:
-	{
-		const auto& Item = *static_cast<const MD_BLOCK_LI_DETAIL*>(Detail);
-		return Blocks.EnterItem(!Item.is_task ? "" : Item.task_mark == ' ' ? OpenTask : DoneTask);
-	}
+		return EnterContainer(Type, Detail);
 	case MD_BLOCK_HR:
 		return AddRule();
 	case MD_BLOCK_H:
@@ -81,19 +72,8 @@ void FMarkupRenderer::EnterBlock(MD_BLOCKTYPE Type, const void* Detail)
 		return Blocks.BeginBlock();
 	case MD_BLOCK_P:
 		return Blocks.BeginBlock();
-	case MD_BLOCK_TABLE:
-		OwnBlock = EMarkupBlock::Table;
-		return Blocks.BeginBlock();
-	case MD_BLOCK_THEAD:
-	case MD_BLOCK_TBODY:
-		bInTableHead = Type == MD_BLOCK_THEAD;
-		return;
-	case MD_BLOCK_TR:
-		return EnterRow();
-	case MD_BLOCK_TH:
-	case MD_BLOCK_TD:
-		++EndedCells;
-		return;
+	default:
+		return EnterTablePart(Type);
 	}
 }
 
@@ -115,33 +95,71 @@ void FMarkupRenderer::LeaveBlock(MD_BLOCKTYPE Type)
 		bInCodeBlock = false;
 		CodeBlock.End();
 		return Blocks.EndCode();
+	case MD_BLOCK_DOC:
+	case MD_BLOCK_HR:
 	case MD_BLOCK_HTML:
+	case MD_BLOCK_P:
 		bInHtmlBlock = false;
 		return Blocks.EndBlock();
-	case MD_BLOCK_TR:
-		EndCells();
-		return Blocks.EndBlock();
-	case MD_BLOCK_TABLE:
-		return LeaveTable();
-	case MD_BLOCK_TH:
-	case MD_BLOCK_TD:
-		return;
 	default:
-		return Blocks.EndBlock();
+		return LeaveTablePart(Type);
 	}
 }
 
-void FMarkupRenderer::EnterHeading(unsigned Level)
+void FMarkupRenderer::EnterContainer(MD_BLOCKTYPE Type, const void* Detail)
 {
-	Blocks.BeginBlock();
-	OwnBlock = static_cast<EMarkupBlock>(static_cast<uint8>(EMarkupBlock::Header1) + Level - 1);
+	if (Type == MD_BLOCK_QUOTE)
+	{
+		Blocks.EnterQuote();
+	}
+	else if (Type == MD_BLOCK_UL)
+	{
+		Blocks.EnterBulletList(static_cast<const MD_BLOCK_UL_DETAIL*>(Detail)->is_tight);
+	}
+	else if (Type == MD_BLOCK_OL)
+	{
+		const auto& List = *static_cast<const MD_BLOCK_OL_DETAIL*>(Detail);
+		Blocks.EnterNumberedList(List.is_tight, List.start, List.mark_delimiter);
+	}
+	else
+	{
+		const auto& Item = *static_cast<const MD_BLOCK_LI_DETAIL*>(Detail);
+		Blocks.EnterItem(!Item.is_task ? "" : Item.task_mark == ' ' ? OpenTask : DoneTask);
+	}
 }
 
-void FMarkupRenderer::EnterRow()
+void FMarkupRenderer::EnterTablePart(MD_BLOCKTYPE Type)
 {
-	Blocks.OpenLine(GetBlockStyle());
-	// The first one begins without an end before it.
-	EndedCells = -1;
+	switch (Type)
+	{
+	case MD_BLOCK_TABLE:
+		OwnBlock = EMarkupBlock::Table;
+		return Blocks.BeginBlock();
+	case MD_BLOCK_THEAD:
+	case MD_BLOCK_TBODY:
+		bInTableHead = Type == MD_BLOCK_THEAD;
+		return;
+	case MD_BLOCK_TR:
+		// The first cell begins without an end before it.
+		EndedCells = -1;
+		return Blocks.OpenLine(GetBlockStyle());
+	default:
+		++EndedCells;
+	}
+}
+
+void FMarkupRenderer::LeaveTablePart(MD_BLOCKTYPE Type)
+{
+	if (Type == MD_BLOCK_TR)
+	{
+		EndCells();
+		Blocks.EndBlock();
+	}
+	else if (Type == MD_BLOCK_TABLE)
+	{
+		OwnBlock.Reset();
+		bInTableHead = false;
+	}
 }
 
 void FMarkupRenderer::EndCells()
@@ -153,11 +171,10 @@ void FMarkupRenderer::EndCells()
 	EndedCells = 0;
 }
 
-void FMarkupRenderer::LeaveTable()
+void FMarkupRenderer::EnterHeading(unsigned Level)
 {
-	OwnBlock.Reset();
-	bInTableHead = false;
-	Blocks.EndBlock();
+	Blocks.BeginBlock();
+	OwnBlock = static_cast<EMarkupBlock>(static_cast<uint8>(EMarkupBlock::Header1) + Level - 1);
 }
 
 void FMarkupRenderer::AddRule()

@@ -25,12 +25,13 @@ public:
 	void Text(MD_TEXTTYPE Type, std::string_view Text) override;
 
 private:
+	void EnterContainer(MD_BLOCKTYPE Type, const void* Detail);
+	void EnterTablePart(MD_BLOCKTYPE Type);
+	void LeaveTablePart(MD_BLOCKTYPE Type);
 	void EnterCode();
 	void EnterHeading(unsigned Level);
 	void AddRule();
-	void EnterRow();
 	void EndCells();
-	void LeaveTable();
 	void AddHtml(std::string_view Text);
 	void AddInlineCode(std::string_view Text);
 

@@ -17,14 +17,8 @@ std::string ExpectBounded(const std::string& Markdown)
 	constexpr size_t LongestRunTags = 160;
 	const std::string Markup = RenderMarkup(Markdown);
 	EXPECT_LT(Markup.size(), Markdown.size() * LongestRunTags + 1000) << Markdown.substr(0, 40);
-	const std::vector<FShownRun> Runs = ReadMarkup(Markup);
-	EXPECT_EQ(FindMarkupError(Runs).substr(0, 200), "") << Markdown.substr(0, 40);
-	std::string Shown;
-	for (const FShownRun& Run : Runs)
-	{
-		Shown += Run.Text;
-	}
-	return Shown;
+	EXPECT_EQ(FindMarkupError(ReadMarkup(Markup)).substr(0, 200), "") << Markdown.substr(0, 40);
+	return GetShownText(Markup);
 }
 
 size_t CountLetters(std::string_view Text, char Letter)

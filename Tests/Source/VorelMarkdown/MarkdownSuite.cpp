@@ -38,9 +38,14 @@ void ReadExample(std::istream& Lines, FSuiteExample& Example)
 }
 } // namespace
 
+std::string GetSuitePath(std::string_view Name)
+{
+	return VOREL_SUITES_FOLDER "/" + std::string(Name) + ".txt";
+}
+
 std::string LoadSuiteText(std::string_view Name)
 {
-	const std::string Path = std::string(VOREL_SUITES_FOLDER "/") += std::string(Name) += ".txt";
+	const std::string Path = GetSuitePath(Name);
 	std::ifstream File(Path);
 	EXPECT_TRUE(File.is_open()) << "The examples of " << Name << " are missing, which ./test.sh fetches: there is no " << Path;
 	std::stringstream Text;

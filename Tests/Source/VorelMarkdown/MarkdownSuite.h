@@ -17,7 +17,16 @@ struct FSuiteExample
 	std::string Html;
 };
 
+std::string GetSuitePath(std::string_view Name);
+
 // The text of "commonmark" or "gfm", which is a Markdown document itself. Fails the test, and says what to do, where it is missing.
 std::string LoadSuiteText(std::string_view Name);
 
 std::vector<FSuiteExample> ReadSuite(std::string_view Text);
+
+// What a reader of a message sees of an example, told from its HTML: each run's name in brackets before its text, without white space but
+// in code. Marks of lists and tasks, rules and the addresses of links are added as messages show them.
+std::string DescribeExpected(const FSuiteExample& Example);
+
+// The same of markup. Addresses are compared as if nothing in them were encoded.
+std::string DescribeMarkup(const std::string& Markup);

@@ -38,16 +38,11 @@ FShownRun ReadRun(const FString& Text, const FTextRunParseResults& Run)
 	return {Name, TCHAR_TO_UTF8(Content)};
 }
 
-bool IsControl(char Character)
+bool HasMisplacedControl(const FShownRun& Run)
 {
-	const auto Byte = static_cast<unsigned char>(Character);
-	return Byte < 0x20 || Byte == 0x7F;
-}
-
-bool IsMisplacedControl(const FShownRun& Run, char Character)
-{
-	const bool bAllowed = Character == '\t' || (Character == '\n' && (Run.Name.empty() || Run.Name == "code"));
-	return IsControl(Character) && !bAllowed;
+	const bool bLines = Run.Name.empty() || Run.Name == "code";
+	return std::ranges::any_of(
+		Run.Text, [bLines](unsigned char Byte) { return (Byte < 0x20 && Byte != '\t' && !(Byte == '\n' && bLines)) || Byte == 0x7F; });
 }
 } // namespace
 
@@ -84,15 +79,13 @@ std::vector<FShownRun> ReadMarkup(std::string_view Markup)
 	std::vector<FShownRun> Runs;
 	for (const FTextLineParseResults& Line : Lines)
 	{
-		if (!Runs.empty())
-		{
-			Runs.push_back({"", "\n"});
-		}
 		for (const FTextRunParseResults& Run : Line.Runs)
 		{
 			Runs.push_back(ReadRun(Text, Run));
 		}
+		Runs.push_back({"", "\n"});
 	}
+	Runs.pop_back();
 	return Runs;
 }
 
@@ -105,7 +98,7 @@ std::string FindMarkupError(const std::vector<FShownRun>& Runs)
 		{
 			return "the run <" + Run.Name + "> of: " + Run.Text;
 		}
-		if (std::ranges::any_of(Run.Text, [&Run](char Character) { return IsMisplacedControl(Run, Character); }))
+		if (HasMisplacedControl(Run))
 		{
 			return "a control character in: " + Run.Text;
 		}
@@ -113,15 +106,14 @@ std::string FindMarkupError(const std::vector<FShownRun>& Runs)
 	return {};
 }
 
-std::string ResolveReferences(std::string_view Text)
+std::string GetShownText(std::string_view Markup)
 {
-	FString Resolved = FromUtf8(Text);
-	for (const auto& [Name, Character] :
-		{std::pair{TEXT("&lt;"), TEXT("<")}, {TEXT("&gt;"), TEXT(">")}, {TEXT("&quot;"), TEXT("\"")}, {TEXT("&amp;"), TEXT("&")}})
+	std::string Text;
+	for (const FShownRun& Run : ReadMarkup(Markup))
 	{
-		Resolved.ReplaceInline(Name, Character, ESearchCase::CaseSensitive);
+		Text += Run.Text;
 	}
-	return TCHAR_TO_UTF8(Resolved);
+	return Text;
 }
 
 std::string Repeat(std::string_view Text, size_t Count)

@@ -27,5 +27,5 @@ std::vector<FShownRun> ReadMarkup(std::string_view Markup);
 // Empty for well-formed markup, else what is wrong: all text stands in runs, and their names are "code" or those of the style set.
 std::string FindMarkupError(const std::vector<FShownRun>& Runs);
 
-std::string ResolveReferences(std::string_view Text);
+std::string GetShownText(std::string_view Markup);
 std::string Repeat(std::string_view Text, size_t Count);

@@ -2,7 +2,6 @@
 
 #include "MarkupTestSupport.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 
 // What the public suites do not tell: lines, gaps and indents, and what is left of a text that goes beyond the styles.
@@ -96,47 +95,6 @@ TEST(Markup, OfMoreThanThreeWordsTheInnermostStay)
 								"<Paragraph.Emphasis.Strong.Strikethrough>c </><Paragraph.Strong.Strikethrough.InlineCode>d</>"},
 		{"*a **b _c_***", "<Paragraph.Emphasis>a </><Paragraph.Emphasis.Strong>b </><Paragraph.Strong.Emphasis>c</>"},
 	});
-}
-
-namespace
-{
-// Puts the text into the formats in every order of up to four of them.
-void VisitNestings(const std::string& Text, unsigned Used, int Depth, const std::function<void(const std::string&)>& Visit)
-{
-	static constexpr const char* Formats[][2] = {{"*", "*"}, {"__", "__"}, {"~~", "~~"}, {"[", "](u)"}, {"![", "](i)"}, {"`", "`"}};
-	Visit(Text);
-	for (unsigned Format = 0; Depth < 4 && Format < 6; ++Format)
-	{
-		if (!(Used & 1u << Format))
-		{
-			VisitNestings(Formats[Format][0] + Text + Formats[Format][1], Used | 1u << Format, Depth + 1, Visit);
-		}
-	}
-}
-} // namespace
-
-TEST(Markup, EveryNestingOfBlocksAndFormatsHasAName)
-{
-	std::string All;
-	for (const char* Block : {"", "# ", "###### ", "- ", "2. ", "|x|\n|-|\n|"})
-	{
-		for (const std::string Quote : {"", "> ", ">>>> ", ">>>>>> "})
-		{
-			VisitNestings("x", 0, 0,
-				[&](const std::string& Text)
-				{
-					std::string Lines = Quote + Block + Text + "\n\n---\n\n";
-					for (size_t End = 0; (End = Lines.find("\n|", End)) != std::string::npos; End += 2)
-					{
-						Lines.insert(End + 1, Quote);
-					}
-					All += Lines;
-				});
-		}
-	}
-	const std::string Markup = RenderMarkup(All);
-	EXPECT_EQ(FindMarkupError(ReadMarkup(Markup)), "");
-	EXPECT_NE(Markup.find("<VorelMarkdown.Blockquote.Header1.Link.Strikethrough.Strong>x</>"), std::string::npos);
 }
 
 TEST(Markup, WhatTheParserMistakesIsPutRight)
