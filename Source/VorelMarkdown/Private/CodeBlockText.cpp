@@ -13,14 +13,20 @@ size_t GetColumnBehind(size_t Column, char Byte)
 	return Byte == '\t' ? (Column / TabWidth + 1) * TabWidth : Column + 1;
 }
 
+size_t CountColumns(std::string_view LineBeginning)
+{
+	size_t Columns = 0;
+	for (char Byte : LineBeginning)
+	{
+		Columns = GetColumnBehind(Columns, Byte);
+	}
+	return Columns;
+}
+
 // The end of a line's beginning that covers the given number of columns, with blanks in place of a tab that belongs to it only in part.
 std::string CutIndent(std::string_view LineBeginning, size_t Columns)
 {
-	size_t AllColumns = 0;
-	for (char Byte : LineBeginning)
-	{
-		AllColumns = GetColumnBehind(AllColumns, Byte);
-	}
+	const size_t AllColumns = CountColumns(LineBeginning);
 	const size_t Start = AllColumns - std::min(Columns, AllColumns);
 	size_t Column = 0;
 	size_t Position = 0;
@@ -36,6 +42,7 @@ void FCodeBlockText::Begin()
 {
 	LineStart = std::string_view::npos;
 	Indent = 0;
+	ContainerIndent = 0;
 	PendingNewlines = 0;
 	Writer.BeginCode();
 }
@@ -46,6 +53,7 @@ void FCodeBlockText::Text(std::string_view Piece)
 	{
 		const auto Position = static_cast<size_t>(Piece.data() - Source.data());
 		LineStart = Source.rfind('\n', Position) + 1;
+		ContainerIndent = CountColumns(Source.substr(LineStart, Position - LineStart)) - Indent;
 		WriteIndent(Position);
 		Writer.CodeText(Piece);
 	}
@@ -70,6 +78,9 @@ void FCodeBlockText::EndLine()
 	const size_t LineEnd = bKnown ? std::min(Source.find('\n', LineStart), Source.size()) : 0;
 	if (Indent > 0)
 	{
+		// In a list md4c 0.4.8 counts all blanks of a line that has nothing but too few of them.
+		const size_t Columns = bKnown ? CountColumns(Source.substr(LineStart, LineEnd - LineStart)) : Indent;
+		Indent = std::min(Indent, Columns - std::min(Columns, ContainerIndent));
 		WriteIndent(LineEnd);
 	}
 	++PendingNewlines;

@@ -36,7 +36,8 @@ private:
 	// Of the current line in the source; npos as long as no text of the block told where it stands.
 	size_t LineStart = std::string_view::npos;
 
-	// In columns.
+	// In columns: of the current line's code, and of what lists and quotes put before each line, once that is known.
 	size_t Indent = 0;
+	size_t ContainerIndent = 0;
 	int32 PendingNewlines = 0;
 };

@@ -51,8 +51,9 @@ TEST(CodeMarkup, ReadsBackAsItWasWritten)
 	EXPECT_EQ(ReadCode("```\r\na\r\n\r\nb\r\n```\r\n"), "a\n\nb");
 }
 
-TEST(CodeMarkup, OfATabThatBelongsToTheListInPartTheRestIsBlanks)
+TEST(CodeMarkup, OfBlanksAndTabsOnlyWhatIsBehindTheContainerIsCode)
 {
 	EXPECT_EQ(ReadCode("- ```\n\ta\n  \tb\n  ```\n"), "  a\n\tb");
+	EXPECT_EQ(ReadCode("- - ```\n    a\n   \n     \n    b\n    ```\n"), "a\n\n \nb");
 	EXPECT_EQ(ReadCode("> ```\n>\t\ta\n> ```\n"), "  \ta");
 }
