@@ -1,9 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Programs/ProgramRun.h"
-#include "QtConversion.h"
-#include "Support/Printers.h"
-#include "Support/TempFolder.h"
+#include "Programs/vorel/VorelProgramTest.h"
 
 namespace
 {
@@ -35,20 +32,15 @@ struct FBadFile
 	const TCHAR* Clause;
 };
 
-// The program in a folder of its own, without a display.
-class ConversationCommand : public testing::Test
+class ConversationCommand : public FVorelProgramTest
 {
 protected:
-	FProgramOutcome Run(const char* Words)
-	{
-		const QStringList Arguments = QString::fromUtf8(Words).split(u' ');
-		return FProgramRun{FProgramRun::FindProgram(QStringLiteral("vorel")), Arguments, ToQString(Folder.GetPath())}.Run();
-	}
+	FProgramOutcome RunWords(const char* Words) { return Run(QString::fromUtf8(Words).split(u' ')); }
 
 	// What it prints where it succeeds.
 	FString Print(const char* Words)
 	{
-		const FProgramOutcome Outcome = Run(Words);
+		const FProgramOutcome Outcome = RunWords(Words);
 		EXPECT_EQ(Outcome.ExitStatus, 0) << Words;
 		EXPECT_TEXT(Outcome.Errors, TEXT(""));
 		return Outcome.Output;
@@ -56,13 +48,11 @@ protected:
 
 	void ExpectRefused(const char* Words, const FString& Line)
 	{
-		const FProgramOutcome Outcome = Run(Words);
+		const FProgramOutcome Outcome = RunWords(Words);
 		EXPECT_EQ(Outcome.ExitStatus, 1) << Words;
 		EXPECT_TEXT(Outcome.Errors, TEXT("vorel: ") + Line + TEXT("\n"));
 		EXPECT_TEXT(Outcome.Output, TEXT(""));
 	}
-
-	FTempFolder Folder;
 };
 } // namespace
 
@@ -127,13 +117,13 @@ TEST_F(ConversationCommand, ABadFileNamesWhatIsWrongAndChangesNothing)
 
 TEST_F(ConversationCommand, WorksOnWhatTheWindowStores)
 {
-	Folder.Write(TEXT("a.play"), "open \"Vorel AI\"\nfocus \"Type your message here...\"\ntype \"How do I set a timer?\"\npress Enter\n"
-								 "wait idle 30\n");
-	EXPECT_EQ(Run("--offscreen --data-dir=d --play=a.play").ExitStatus, 0);
+	EXPECT_EQ(Play("open \"Vorel AI\"\nfocus \"Type your message here...\"\ntype \"How do I set a timer?\"\npress Enter\nwait idle 30\n")
+				  .ExitStatus,
+		0);
 	TArray<FString> Fields;
-	Print("conversations list --data-dir=d").LeftChop(1).ParseIntoArray(Fields, TEXT("\t"), false);
+	Print("conversations list --data-dir=data").LeftChop(1).ParseIntoArray(Fields, TEXT("\t"), false);
 	ASSERT_EQ(Fields.Num(), 4);
 	EXPECT_TEXT(Fields[2] + Fields[3], TEXT("AgentHow do I set a timer?"));
-	const FString Shown = Print(TCHAR_TO_UTF8(TEXT("conversations show --data-dir=d ") + Fields[0]));
+	const FString Shown = Print(TCHAR_TO_UTF8(TEXT("conversations show --data-dir=data ") + Fields[0]));
 	EXPECT_TRUE(Shown.Contains(TEXT("\n## Assistant\n\n")) && Shown.Contains(TEXT("Timers"))) << Shown;
 }

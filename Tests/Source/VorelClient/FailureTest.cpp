@@ -45,14 +45,12 @@ FScriptedServer::FHandler Raw(const QByteArray& Bytes)
 }
 
 constexpr const TCHAR* BrokenOff = TEXT("The connection to the assistant broke off before the answer was complete.");
-constexpr const TCHAR* NotAnAnswer = TEXT("What the server sent is not an assistant's answer. Check the assistant's address.");
 
 const std::vector<FFailureRow>& GetRows()
 {
 	static const std::vector<FFailureRow> Rows = {
 		{"hangs up without a reply", [](const FExchange& Exchange) { Exchange.Close(); }, TEXT(""), BrokenOff},
 		{"resets without a reply", [](const FExchange& Exchange) { Exchange.Reset(); }, TEXT(""), BrokenOff},
-		{"hangs up after the head", Stream(""), TEXT(""), BrokenOff},
 		{"hangs up in the middle", Stream(MakeDelta("Half")), TEXT("Half"), BrokenOff},
 		{"hangs up in a chunk", Raw("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n100\r\n" + MakeDelta("Half")), TEXT("Half"),
 			BrokenOff},
@@ -64,12 +62,8 @@ const std::vector<FFailureRow>& GetRows()
 		{"sends a web page",
 			[](const FExchange& Exchange) { Exchange.SendReply("200 OK", "text/html", "<html><title>Portal</title></html>"); }, TEXT(""),
 			TEXT("A web page came in place of the assistant's answer. Check the assistant's address. It says: Portal")},
-		{"sends a bare error", Reply("200 OK", "{\"error\":{\"message\":\"no memory\"}}"), TEXT(""),
-			TEXT("The assistant reported an error. It says: no memory")},
 		{"sends an error in the stream", Stream(MakeDelta("Half") + "data: {\"error\":\"overload\"}\n\n"), TEXT("Half"),
 			TEXT("The assistant reported an error. It says: overload")},
-		{"sends rubbish in the stream", Stream(MakeDelta("Half") + "data: what?\n\n"), TEXT("Half"), NotAnAnswer},
-		{"ends without a word", Stream(StopChunk), TEXT(""), TEXT("The assistant ended its answer without a word. Try again.")},
 		{"400", Reply("400 Bad", "{\"error\":{\"message\":\"context too long\"}}"), TEXT(""),
 			TEXT("The assistant rejected the request. The conversation may be too long for it; a new chat can help. (Error 400.) It says: "
 				 "context "
@@ -86,7 +80,6 @@ const std::vector<FFailureRow>& GetRows()
 				 "wait 7 "
 				 "seconds. It says: limit")},
 		{"500", Reply("500 Oops"), TEXT(""), TEXT("The assistant's server has a problem. Try again later. (Error 500.)")},
-		{"503", Reply("503 Oops", "not json"), TEXT(""), TEXT("The assistant's server has a problem. Try again later. (Error 503.)")},
 		{"303", Reply("303 Other", "{}", "Location: /elsewhere\r\n"), TEXT(""),
 			TEXT("The assistant's server refused the request. (Error 303.)")},
 	};

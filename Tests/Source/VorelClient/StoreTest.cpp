@@ -82,10 +82,12 @@ TEST_F(FStoreTest, SharesTheFileWithAnotherProgram)
 	{
 		FStoreError Error;
 		const TUniquePtr<FConversationStore> Store = FConversationStore::OpenAgain(StoreFile, Error);
-		ASSERT_FALSE(Store->AddConversation({TEXT("id"), TEXT("one"), TEXT("Agent"), 1, 1}, {{EChatRole::User, TEXT("one")}}));
+		ASSERT_FALSE(
+			Store->AddConversation({TEXT("id"), TEXT("one"), TEXT("A mode of the future"), 1, 1}, {{EChatRole::User, TEXT("one")}}));
 	}
 	ASSERT_TRUE(PumpUntil([&] { return GetTitles(*Other) == TEXT("one"); }));
 	Other->LoadConversation(TEXT("id"));
+	EXPECT_EQ(Other->GetCurrentChatModeName(), TEXT("Agent"));
 	Service().LoadConversation(TEXT("id"));
 	const TObjectPtr<USerializableChatHistory> Open = Other->GetCurrentConversation();
 

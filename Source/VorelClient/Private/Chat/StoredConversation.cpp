@@ -2,8 +2,10 @@
 
 #include "Chat/StoredConversation.h"
 
+#include "Chat/ChatModes.h"
 #include "Chat/ConversationTitle.h"
 #include "Chat/StoredMessage.h"
+#include "ChatService.h"
 
 UStoredConversation* UStoredConversation::Make(const FConversationRecord& Record)
 {
@@ -15,9 +17,11 @@ UStoredConversation* UStoredConversation::Make(const FConversationRecord& Record
 
 bool UStoredConversation::SetRecord(const FConversationRecord& Record)
 {
-	const bool bSame = Title.Equals(Record.Title) && ModeName == Record.ModeName && LastUsed == Record.LastUsed;
+	// The store may know modes that this program has not.
+	const FString KnownMode = FindChatMode(Record.ModeName) ? Record.ModeName : UChatService::DefaultAgentChatModeName;
+	const bool bSame = Title.Equals(Record.Title) && ModeName == KnownMode && LastUsed == Record.LastUsed;
 	Title = Record.Title;
-	ModeName = Record.ModeName;
+	ModeName = KnownMode;
 	Created = Record.Created;
 	LastUsed = Record.LastUsed;
 	return !bSame;
