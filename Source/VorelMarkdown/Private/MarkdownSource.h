@@ -30,7 +30,6 @@ public:
 
 private:
 	void Convert(FStringView Markdown);
-	void GuardLineStarts();
 
 	std::string Bytes;
 };

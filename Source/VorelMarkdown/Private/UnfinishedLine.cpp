@@ -46,6 +46,12 @@ bool MayUnderlineHeading(std::string_view Content)
 	return !Content.empty() && Content.size() < FenceLength && (ConsistsOf(Content, '-') || ConsistsOf(Content, '='));
 }
 
+bool MayBeTask(std::string_view Content)
+{
+	static constexpr std::string_view Boxes[] = {"[ ]", "[x]", "[X]"};
+	return !Content.empty() && std::ranges::any_of(Boxes, [Content](std::string_view Box) { return Box.starts_with(Content); });
+}
+
 bool MayDeclareColumns(std::string_view Content, std::string_view Head)
 {
 	const bool bBeginning = !Content.empty() && Content.find_first_not_of("|:- \t") == std::string_view::npos;
@@ -79,6 +85,7 @@ size_t GetSettledSize(std::string_view Source)
 	const bool bFence = MayOpenFence(Content) && !(bFirstLine && Content.size() < FenceLength);
 	const bool bUnderline = !bFirstLine && (MayUnderlineHeading(Line.substr(SkipBlanksAndQuotes(Line, 0))) ||
 											   MayDeclareColumns(Content, GetLineBefore(Source, LineStart)));
-	const bool bUnsettled = (bFence || bUnderline) && !EndsInVerbatim(Source.substr(0, LineStart + PrefixSize));
-	return bUnsettled ? LineStart : Source.size();
+	const bool bTask = PrefixSize > SkipBlanksAndQuotes(Line, 0) && MayBeTask(Content);
+	const bool bUnsettled = (bFence || bUnderline || bTask) && !EndsInVerbatim(Source.substr(0, LineStart + PrefixSize));
+	return !bUnsettled ? Source.size() : bTask ? LineStart + PrefixSize : LineStart;
 }

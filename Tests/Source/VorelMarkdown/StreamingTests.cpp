@@ -199,6 +199,11 @@ TEST(Streaming, OfALineThatIsNotYetToldApartNothingIsShown)
 		EXPECT_EQ(Markup.find("Header"), std::string::npos) << Begin;
 	}
 	EXPECT_EQ(RenderShort("|a|b|\n|-"), "<Paragraph>|a|b|</>");
+	for (const char* Task : {"- [", "- [ ", "- [x", "- [ ]"})
+	{
+		EXPECT_EQ(RenderShort(Task), "<UnorderedList>  \u2022 </>");
+	}
+	EXPECT_EQ(RenderShort("- [y"), "<UnorderedList>  \u2022 [y</>");
 	EXPECT_EQ(RenderShort("a:\n- b"), "<Paragraph>a:</>\n\n<UnorderedList>  \u2022 b</>");
 	EXPECT_EQ(RenderShort("Title\n---"), "<Header2>Title</>");
 }
