@@ -24,8 +24,9 @@ void FStoreWatch::HandleWritten()
 void FStoreWatch::Look()
 {
 	OnLook();
-	if (Timer.interval() < LongestPauseInMilliseconds)
+	const int NextPause = Timer.interval() * 4;
+	if (NextPause <= LongestPauseInMilliseconds)
 	{
-		Timer.start(Timer.interval() * 4);
+		Timer.start(NextPause);
 	}
 }
