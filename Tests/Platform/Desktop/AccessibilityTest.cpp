@@ -3,6 +3,7 @@
 #include "HostSupport.h"
 #include "Styling/AppStyle.h"
 #include "Widgets/Images/SImage.h"
+#include "Widgets/Input/SComboBox.h"
 #include "Widgets/Input/SHyperlink.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/Text/SMultiLineEditableText.h"
@@ -123,4 +124,33 @@ TEST_F(Accessibility, TheTreeFollowsTheWidgets)
 	EXPECT_EQ(Root()->childCount(), 1);
 	EXPECT_EQ(Find("Changed"), nullptr);
 	EXPECT_NE(Find("only"), nullptr);
+}
+
+TEST_F(Accessibility, AnOpenListIsReadWithItsHighlightAsTheFocus)
+{
+	using FOption = TSharedPtr<FString>;
+	const TArray<FOption> Options = {MakeShared<FString>(TEXT("Ask")), MakeShared<FString>(TEXT("Agent"))};
+	// clang-format off
+	const TSharedRef<SWidget> Box =
+		SNew(SComboBox<FOption>)
+		.OptionsSource(&Options)
+		.OnGenerateWidget_Lambda([](FOption Option) { return SNew(STextBlock).Text(FText::FromString(*Option)); })
+		.InitiallySelectedItem(Options[0])
+		[
+			SNew(STextBlock).Text(INVTEXT("Mode"))
+		];
+	// clang-format on
+	Host.Window->SetContent(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Box]);
+	Host.Widget.resize(200, 200);
+	RunFrames();
+	EXPECT_EQ(Find("Mode")->role(), QAccessible::ComboBox);
+	EXPECT_FALSE(Find("Mode")->state().expanded);
+	Find("Mode")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+	FSlateApplication::Get().ProcessKeyDownEvent(Host.Window, FKeyEvent(EKeys::Down));
+	RunFrames();
+	EXPECT_TRUE(Find("Mode")->state().expanded);
+	EXPECT_EQ(Root()->childCount(), 3);
+	EXPECT_TRUE(Find("Ask")->state().selected);
+	EXPECT_EQ(Find("Agent")->role(), QAccessible::ListItem);
+	EXPECT_EQ(Root()->focusChild(), Find("Agent"));
 }

@@ -35,9 +35,9 @@ void FAccessibleHost::AnnounceFocus(QSlateWidget& Host)
 		return;
 	}
 	FAccessibleHost* Self = dynamic_cast<FAccessibleHost*>(QAccessible::queryAccessibleInterface(&Host));
-	QAccessibleInterface* Focused = Self ? Self->focusChild() : nullptr;
-	const TSharedPtr<SWidget> Widget = FSlateApplication::Get().GetKeyboardFocusedWidget();
-	if (Focused && Self->AnnouncedFocus.Pin() != Widget)
+	FAccessibleWidget* Focused = Self ? Self->FindFocused() : nullptr;
+	const TWeakPtr<SWidget> Widget = Focused ? Focused->GetWidget() : TWeakPtr<SWidget>();
+	if (Focused && !(Self->AnnouncedFocus == Widget))
 	{
 		QAccessibleEvent Event(Focused, QAccessible::Focus);
 		QAccessible::updateAccessibility(&Event);
@@ -61,18 +61,18 @@ void FAccessibleHost::Update() const
 	DropDead();
 }
 
-void FAccessibleHost::Collect(const TSharedRef<SWidget>& Widget) const
+void FAccessibleHost::Collect(const TSharedRef<SWidget>& Widget, bool bInItem) const
 {
 	if (!Widget->GetVisibility().IsVisible())
 	{
 		return;
 	}
 	const QAccessible::Role Role = FAccessibleWidget::FindRole(*Widget);
-	if (Role != QAccessible::NoRole)
+	if (Role != QAccessible::NoRole && !(bInItem && Role == QAccessible::StaticText))
 	{
 		Children.Add(FindOrAdd(Widget));
 	}
-	if (Role == QAccessible::Button || Role == QAccessible::Link)
+	if (Role == QAccessible::Button || Role == QAccessible::Link || Role == QAccessible::ComboBox)
 	{
 		// What it holds is its name.
 		return;
@@ -80,7 +80,7 @@ void FAccessibleHost::Collect(const TSharedRef<SWidget>& Widget) const
 	FChildren& Inner = *Widget->GetChildren();
 	for (int32 Index = 0; Index < Inner.Num(); ++Index)
 	{
-		Collect(Inner.GetChildAt(Index));
+		Collect(Inner.GetChildAt(Index), bInItem || Role == QAccessible::ListItem);
 	}
 }
 
@@ -148,14 +148,12 @@ QAccessibleInterface* FAccessibleHost::childAt(int X, int Y) const
 
 QAccessibleInterface* FAccessibleHost::focusChild() const
 {
+	return FindFocused();
+}
+
+FAccessibleWidget* FAccessibleHost::FindFocused() const
+{
 	Update();
-	const TSharedPtr<SWidget> Focused = FSlateApplication::Get().GetKeyboardFocusedWidget();
-	for (FAccessibleWidget* Child : Children)
-	{
-		if (Focused && Child->Shows(Focused.Get()))
-		{
-			return Child;
-		}
-	}
-	return nullptr;
+	FAccessibleWidget* const* Focused = Children.FindByPredicate([](const FAccessibleWidget* Child) { return Child->HasFocus(); });
+	return Focused ? *Focused : nullptr;
 }

@@ -45,7 +45,9 @@ private:
 
 	/** Finds the widgets anew once a frame has run since. */
 	void Update() const;
-	void Collect(const TSharedRef<SWidget>& Widget) const;
+	/** The texts in an item of a list are its name. */
+	void Collect(const TSharedRef<SWidget>& Widget, bool bInItem = false) const;
+	FAccessibleWidget* FindFocused() const;
 	FAccessibleWidget* FindOrAdd(const TSharedRef<SWidget>& Widget) const;
 	void DropDead() const;
 

@@ -5,6 +5,8 @@
 #include "Framework/Application/SlateApplication.h"
 #include "QSlateWidget.h"
 #include "QtConversion.h"
+#include "Widgets/Input/SComboBoxBase.h"
+#include "Widgets/Input/SComboRow.h"
 #include "Widgets/Input/SHyperlink.h"
 #include "Widgets/SWindow.h"
 #include "Widgets/Text/SMultiLineEditableText.h"
@@ -43,6 +45,14 @@ QAccessible::Role FAccessibleWidget::FindRole(const SWidget& Widget)
 	if (dynamic_cast<const SHyperlink*>(&Widget))
 	{
 		return QAccessible::Link;
+	}
+	if (dynamic_cast<const SComboBoxBase*>(&Widget))
+	{
+		return QAccessible::ComboBox;
+	}
+	if (dynamic_cast<const SComboRow*>(&Widget))
+	{
+		return QAccessible::ListItem;
 	}
 	if (dynamic_cast<const SButton*>(&Widget))
 	{
@@ -91,6 +101,14 @@ QString FAccessibleWidget::text(QAccessible::Text Kind) const
 	return !Given.isEmpty() ? Given : bField ? ToQString(Shown->GetHint()) : ReadAll(*Shown);
 }
 
+bool FAccessibleWidget::HasFocus() const
+{
+	const TSharedPtr<SWidget> Shown = Widget.Pin();
+	// An open list has the focus as a whole; what its keys act on is one of its rows.
+	const SComboRow* Row = dynamic_cast<const SComboRow*>(Shown.Get());
+	return Shown && (Shown->HasKeyboardFocus() || (Row && Row->IsHighlighted()));
+}
+
 QRect FAccessibleWidget::rect() const
 {
 	const TSharedPtr<SWidget> Shown = Widget.Pin();
@@ -116,7 +134,18 @@ QAccessible::State FAccessibleWidget::state() const
 	const bool bText = dynamic_cast<const SMultiLineEditableText*>(&*Shown) != nullptr;
 	State.disabled = !IsReallyEnabled(Shown);
 	State.focusable = Shown->SupportsKeyboardFocus();
-	State.focused = Shown->HasKeyboardFocus();
+	State.focused = HasFocus();
+	if (const SComboBoxBase* Box = dynamic_cast<const SComboBoxBase*>(&*Shown))
+	{
+		State.hasPopup = true;
+		State.expandable = true;
+		State.expanded = Box->IsOpen();
+	}
+	if (const SComboRow* Row = dynamic_cast<const SComboRow*>(&*Shown))
+	{
+		State.selectable = true;
+		State.selected = Row->IsSelected();
+	}
 	State.editable = AsField(*Shown) != nullptr;
 	State.multiLine = bText;
 	State.readOnly = bText && !State.editable;
@@ -132,7 +161,7 @@ void* FAccessibleWidget::interface_cast(QAccessible::InterfaceType Type)
 QStringList FAccessibleWidget::actionNames() const
 {
 	QStringList Names;
-	if (role() == QAccessible::Button || role() == QAccessible::Link)
+	if (role() == QAccessible::Button || role() == QAccessible::Link || role() == QAccessible::ComboBox)
 	{
 		Names.append(pressAction());
 	}

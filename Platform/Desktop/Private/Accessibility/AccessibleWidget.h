@@ -37,7 +37,8 @@ public:
 	void doAction(const QString& ActionName) override;
 	QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
-	bool Shows(const SWidget* InWidget) const { return Widget.Pin().Get() == InWidget; }
+	bool HasFocus() const;
+	const TWeakPtr<SWidget>& GetWidget() const { return Widget; }
 
 private:
 	QSlateWidget& Host;

@@ -59,19 +59,21 @@ void SComboBoxBase::Open()
 	{
 		return;
 	}
-	SAssignNew(List, SComboList)
+	const TSharedRef<SComboList> Opened =
+		SNew(SComboList)
 		.Owner(SharedThis(this))
 		.RowPadding(Style->MenuRowPadding)
 		.MaxHeight(MaxListHeight);
+	List = Opened;
 	const TSharedRef<SWidget> Popup =
 		SNew(SBorder)
 		.BorderImage(&Style->ComboButtonStyle.MenuBorderBrush)
 		.Padding(Style->ComboButtonStyle.MenuBorderPadding)
 		[
-			List.ToSharedRef()
+			Opened
 		];
 	Window->OpenPopup(AsShared(), Popup, FSimpleDelegate::CreateSP(this, &SComboBoxBase::HandleListClosed));
-	FSlateApplication::Get().SetKeyboardFocus(List);
+	FSlateApplication::Get().SetKeyboardFocus(Opened);
 }
 // clang-format on
 
@@ -103,17 +105,17 @@ void SComboBoxBase::ChooseOption(int32 Index, ESelectInfo::Type SelectInfo)
 
 void SComboBoxBase::ShowOptions()
 {
-	if (List.IsValid())
+	if (const TSharedPtr<SComboList> Opened = List.Pin())
 	{
-		List->Refresh();
+		Opened->Refresh();
 	}
 }
 
 void SComboBoxBase::ShowSelection()
 {
-	if (List.IsValid())
+	if (const TSharedPtr<SComboList> Opened = List.Pin())
 	{
-		List->ShowSelection();
+		Opened->ShowSelection();
 	}
 }
 

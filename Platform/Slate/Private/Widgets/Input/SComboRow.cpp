@@ -12,8 +12,9 @@ void SComboRow::Construct(const FArguments& InArgs)
 
 void SComboRow::SetState(bool bInHighlighted, bool bInSelected)
 {
+	bHighlighted = bInHighlighted;
 	bSelected = bInSelected;
 	const FSlateBrush* const WhileHighlighted = bSelected ? &Style->ActiveHoveredBrush : &Style->InactiveHoveredBrush;
 	const FSlateBrush* const Otherwise = bSelected ? &Style->ActiveBrush : nullptr;
-	SetBorderImage(bInHighlighted ? WhileHighlighted : Otherwise);
+	SetBorderImage(bHighlighted ? WhileHighlighted : Otherwise);
 }

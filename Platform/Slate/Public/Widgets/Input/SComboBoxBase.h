@@ -44,6 +44,6 @@ private:
 
 	const FComboBoxStyle* Style = nullptr;
 
-	/** Set while it is open. */
-	TSharedPtr<SComboList> List;
+	/** Set while it is open. The window owns it, and may go first. */
+	TWeakPtr<SComboList> List;
 };

@@ -19,9 +19,11 @@ public:
 	void Construct(const FArguments& InArgs);
 
 	void SetState(bool bInHighlighted, bool bInSelected);
+	bool IsHighlighted() const { return bHighlighted; }
 	bool IsSelected() const { return bSelected; }
 
 private:
 	const FTableRowStyle* Style = nullptr;
+	bool bHighlighted = false;
 	bool bSelected = false;
 };
