@@ -87,11 +87,9 @@ void FUserDriver::AdvanceTime(float Seconds)
 	Frame();
 }
 
-FPointerEvent FUserDriver::MakePointer(const FVector2D& Place, const FKey& Button, float WheelDelta)
+FPointerEvent FUserDriver::MakePointer(const FVector2D& Place, const FKey& Button, float WheelDelta) const
 {
-	const FVector2D From = LastPlace;
-	LastPlace = Place * Scale;
-	return FPointerEvent(LastPlace, From, PressedButtons, Button, WheelDelta);
+	return FPointerEvent(Place * Scale, Button, WheelDelta);
 }
 
 TOptional<FVector2D> FUserDriver::LocateMiddle(const FString& Text)
@@ -125,7 +123,6 @@ void FUserDriver::ClickAt(const FVector2D& Place)
 void FUserDriver::DoubleClickAt(const FVector2D& Place)
 {
 	ClickAt(Place);
-	PressedButtons.Add(EKeys::LeftMouseButton);
 	FSlateApplication::Get().ProcessMouseButtonDoubleClickEvent(Window, MakePointer(Place, EKeys::LeftMouseButton));
 	Frame();
 	MouseUp(Place);
@@ -147,14 +144,12 @@ void FUserDriver::MoveTo(const FVector2D& Place)
 
 void FUserDriver::MouseDown(const FVector2D& Place, const FKey& Button)
 {
-	PressedButtons.Add(Button);
 	FSlateApplication::Get().ProcessMouseButtonDownEvent(Window, MakePointer(Place, Button));
 	Frame();
 }
 
 void FUserDriver::MouseUp(const FVector2D& Place, const FKey& Button)
 {
-	PressedButtons.Remove(Button);
 	FSlateApplication::Get().ProcessMouseButtonUpEvent(Window, MakePointer(Place, Button));
 	Frame();
 }

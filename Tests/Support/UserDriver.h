@@ -95,12 +95,10 @@ private:
 	void RunFrame(float Seconds);
 	/** Where the middle of what shows a text is once nothing is left to do; fails the test where there is none. */
 	TOptional<FVector2D> LocateMiddle(const FString& Text);
-	FPointerEvent MakePointer(const FVector2D& Place, const FKey& Button, float WheelDelta = 0.0f);
+	FPointerEvent MakePointer(const FVector2D& Place, const FKey& Button, float WheelDelta = 0.0f) const;
 
 	TSharedRef<FDriverSession> Session;
 	TSharedRef<SWindow> Window;
 	FVector2D Size;
 	float Scale;
-	FVector2D LastPlace = FVector2D(0.0, 0.0);
-	TSet<FKey> PressedButtons;
 };

@@ -115,15 +115,10 @@ void QSlateWidget::resizeEvent(QResizeEvent*)
 	UpdateClientArea();
 }
 
-FPointerEvent QSlateWidget::MakePointerEvent(
-	const QPointF& Position, const FKey& Button, Qt::MouseButtons Pressed, Qt::KeyboardModifiers Modifiers, float WheelDelta)
+FPointerEvent QSlateWidget::MakePointerEvent(const QPointF& Position, const FKey& Button, Qt::KeyboardModifiers Modifiers, float WheelDelta)
 {
 	Desktop.SetActiveHost(this);
-	const QPointF Pixels = Position * Window->GetDPIScaleFactor();
-	const FPointerEvent Event(ToVector(Pixels), ToVector(LastPosition), InputTranslation::ToMouseButtons(Pressed), Button, WheelDelta,
-		InputTranslation::ToModifiers(Modifiers));
-	LastPosition = Pixels;
-	return Event;
+	return FPointerEvent(ToVector(Position * Window->GetDPIScaleFactor()), Button, WheelDelta, InputTranslation::ToModifiers(Modifiers));
 }
 
 void QSlateWidget::mousePressEvent(QMouseEvent* Event)
@@ -131,8 +126,7 @@ void QSlateWidget::mousePressEvent(QMouseEvent* Event)
 	const FKey Button = InputTranslation::ToMouseButton(Event->button());
 	if (Button.IsValid())
 	{
-		FSlateApplication::Get().ProcessMouseButtonDownEvent(
-			Window, MakePointerEvent(Event->position(), Button, Event->buttons(), Event->modifiers()));
+		FSlateApplication::Get().ProcessMouseButtonDownEvent(Window, MakePointerEvent(Event->position(), Button, Event->modifiers()));
 	}
 }
 
@@ -141,8 +135,7 @@ void QSlateWidget::mouseReleaseEvent(QMouseEvent* Event)
 	const FKey Button = InputTranslation::ToMouseButton(Event->button());
 	if (Button.IsValid())
 	{
-		FSlateApplication::Get().ProcessMouseButtonUpEvent(
-			Window, MakePointerEvent(Event->position(), Button, Event->buttons(), Event->modifiers()));
+		FSlateApplication::Get().ProcessMouseButtonUpEvent(Window, MakePointerEvent(Event->position(), Button, Event->modifiers()));
 	}
 }
 
@@ -152,22 +145,20 @@ void QSlateWidget::mouseDoubleClickEvent(QMouseEvent* Event)
 	if (Button.IsValid())
 	{
 		FSlateApplication::Get().ProcessMouseButtonDoubleClickEvent(
-			Window, MakePointerEvent(Event->position(), Button, Event->buttons(), Event->modifiers()));
+			Window, MakePointerEvent(Event->position(), Button, Event->modifiers()));
 	}
 }
 
 void QSlateWidget::mouseMoveEvent(QMouseEvent* Event)
 {
-	FSlateApplication::Get().ProcessMouseMoveEvent(
-		Window, MakePointerEvent(Event->position(), EKeys::Invalid, Event->buttons(), Event->modifiers()));
+	FSlateApplication::Get().ProcessMouseMoveEvent(Window, MakePointerEvent(Event->position(), EKeys::Invalid, Event->modifiers()));
 }
 
 void QSlateWidget::wheelEvent(QWheelEvent* Event)
 {
 	const float Notches = static_cast<float>(Event->angleDelta().y()) / NotchInEighthsOfDegree;
-	const bool bHandled =
-		Notches != 0.0f && FSlateApplication::Get().ProcessMouseWheelEvent(
-							   Window, MakePointerEvent(Event->position(), EKeys::Invalid, Event->buttons(), Event->modifiers(), Notches));
+	const bool bHandled = Notches != 0.0f && FSlateApplication::Get().ProcessMouseWheelEvent(
+												 Window, MakePointerEvent(Event->position(), EKeys::Invalid, Event->modifiers(), Notches));
 	Event->setAccepted(bHandled);
 }
 
@@ -277,6 +268,7 @@ void QSlateWidget::focusOutEvent(QFocusEvent* Event)
 {
 	if (Event->reason() != Qt::PopupFocusReason)
 	{
+		Window->ClosePopup();
 		FocusedBefore = FSlateApplication::Get().GetKeyboardFocusedWidget();
 		FSlateApplication::Get().ClearKeyboardFocus(EFocusCause::WindowActivate);
 	}

@@ -56,15 +56,13 @@ private:
 	void UpdateClientArea();
 	void ShowFrame();
 	bool WantsAsInput(const QKeyEvent& Event) const;
-	FPointerEvent MakePointerEvent(
-		const QPointF& Position, const FKey& Button, Qt::MouseButtons Pressed, Qt::KeyboardModifiers Modifiers, float WheelDelta = 0.0f);
+	FPointerEvent MakePointerEvent(const QPointF& Position, const FKey& Button, Qt::KeyboardModifiers Modifiers, float WheelDelta = 0.0f);
 
 	FDesktopApplication& Desktop;
 	TSharedRef<SWindow> Window;
 	FDelegateHandle ShowFrameHandle;
 	FSlatePainter Painter;
 	QImage Picture;
-	QPointF LastPosition;
 	FSlateRect CaretRect;
 	bool bRepaintAll = true;
 	/** Gets the focus back when the window does. */

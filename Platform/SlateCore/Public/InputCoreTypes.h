@@ -18,7 +18,6 @@ struct FKey
 	}
 
 	bool IsValid() const { return KeyName != FName(); }
-	const FName& GetFName() const { return KeyName; }
 	FString ToString() const { return KeyName.ToString(); }
 	bool operator==(const FKey& Other) const { return KeyName == Other.KeyName; }
 	friend uint32 GetTypeHash(const FKey& Key) { return GetTypeHash(Key.KeyName); }

@@ -34,8 +34,6 @@ TEST_F(HostInput, MouseButtonsArriveByNameAndPlace)
 	EXPECT_EQ(Probe->TakeEvents(), SProbe::FEvents({"down LeftMouseButton", "focus", "up LeftMouseButton", "down MiddleMouseButton",
 									   "up MiddleMouseButton", "down RightMouseButton", "up RightMouseButton"}));
 	EXPECT_EQ(Probe->PointerEvents[0].GetScreenSpacePosition(), FVector2D(10.5, 20.0));
-	EXPECT_TRUE(Probe->PointerEvents[0].IsMouseButtonDown(EKeys::LeftMouseButton));
-	EXPECT_FALSE(Probe->PointerEvents[1].IsMouseButtonDown(EKeys::LeftMouseButton));
 }
 
 TEST_F(HostInput, ADoubleClickIsTold)
@@ -52,7 +50,6 @@ TEST_F(HostInput, ADragGoesOnBeyondTheEdge)
 	Host.Mouse(QEvent::MouseMove, QPointF(150.0, -40.0), Qt::NoButton, Qt::LeftButton);
 	EXPECT_EQ(Probe->TakeEvents().back(), "move");
 	EXPECT_EQ(Probe->PointerEvents.Last().GetScreenSpacePosition(), FVector2D(150.0, -40.0));
-	EXPECT_EQ(Probe->PointerEvents.Last().GetCursorDelta(), FVector2D(100.0, -65.0));
 	Host.Mouse(QEvent::MouseButtonRelease, QPointF(150.0, -40.0), Qt::LeftButton, Qt::NoButton);
 	EXPECT_EQ(Probe->TakeEvents().front(), "up LeftMouseButton");
 }

@@ -79,30 +79,22 @@ void FTextTest::Focus()
 	Frame();
 }
 
-FPointerEvent FTextTest::MakePointer(
-	float X, float Y, const FKey& Button, bool bDown, float WheelDelta, const FModifierKeysState& Modifiers)
+FPointerEvent FTextTest::MakePointer(float X, float Y, const FKey& Button, float WheelDelta, const FModifierKeysState& Modifiers)
 {
-	TSet<FKey> Pressed;
-	if (bDown)
-	{
-		Pressed.Add(EKeys::LeftMouseButton);
-	}
-	const FVector2D Last = MousePosition;
 	MousePosition = FVector2D(X, Y);
-	return FPointerEvent(MousePosition, Last, Pressed, Button, WheelDelta, Modifiers);
+	return FPointerEvent(MousePosition, Button, WheelDelta, Modifiers);
 }
 
 void FTextTest::Press(float X, float Y, const FModifierKeysState& Modifiers)
 {
 	MoveMouse(X, Y);
-	Application().ProcessMouseButtonDownEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::LeftMouseButton, true, 0.0f, Modifiers));
+	Application().ProcessMouseButtonDownEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::LeftMouseButton, 0.0f, Modifiers));
 	Frame();
 }
 
 void FTextTest::MoveMouse(float X, float Y)
 {
-	const bool bDown = Application().GetMouseCaptor().IsValid();
-	Application().ProcessMouseMoveEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::Invalid, bDown));
+	Application().ProcessMouseMoveEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::Invalid));
 	Frame();
 }
 
@@ -110,7 +102,7 @@ void FTextTest::Release()
 {
 	const float X = static_cast<float>(MousePosition.X);
 	const float Y = static_cast<float>(MousePosition.Y);
-	Application().ProcessMouseButtonUpEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::LeftMouseButton, false));
+	Application().ProcessMouseButtonUpEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::LeftMouseButton));
 	Frame();
 }
 
@@ -123,7 +115,7 @@ void FTextTest::Click(int32 Column, int32 RowIndex, const FModifierKeysState& Mo
 void FTextTest::DoubleClick(int32 Column, int32 RowIndex)
 {
 	Click(Column, RowIndex);
-	const FPointerEvent Event = MakePointer(Column * Letter + 1.0f, RowIndex * Row + 5.0f, EKeys::LeftMouseButton, true);
+	const FPointerEvent Event = MakePointer(Column * Letter + 1.0f, RowIndex * Row + 5.0f, EKeys::LeftMouseButton);
 	Application().ProcessMouseButtonDoubleClickEvent(Window.ToSharedRef(), Event);
 	Release();
 }
@@ -132,7 +124,7 @@ bool FTextTest::Wheel(float Notches)
 {
 	const float X = static_cast<float>(MousePosition.X);
 	const float Y = static_cast<float>(MousePosition.Y);
-	const bool bTaken = Application().ProcessMouseWheelEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::Invalid, false, Notches));
+	const bool bTaken = Application().ProcessMouseWheelEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::Invalid, Notches));
 	Frame();
 	return bTaken;
 }

@@ -65,8 +65,7 @@ protected:
 	FTextBlockStyle Style = MakeStyle();
 
 private:
-	FPointerEvent MakePointer(
-		float X, float Y, const FKey& Button, bool bDown, float WheelDelta = 0.0f, const FModifierKeysState& Modifiers = {});
+	FPointerEvent MakePointer(float X, float Y, const FKey& Button, float WheelDelta = 0.0f, const FModifierKeysState& Modifiers = {});
 
 	FVector2D MousePosition;
 };

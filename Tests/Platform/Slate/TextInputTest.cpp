@@ -211,7 +211,7 @@ TEST_F(FTextInput, TheCaretBlinksAndNothingElseIsPainted)
 	EXPECT_EQ(Screen(), FString(TEXT("ab|")));
 	Window->TakeDamage();
 	Frame(0.3f);
-	EXPECT_FALSE(Window->HasDamage());
+	EXPECT_TRUE(Window->TakeDamage().IsEmpty());
 	Frame(0.3f);
 	EXPECT_EQ(Screen(), FString(TEXT("ab")));
 	const TArray<FSlateRect> Damage = Window->TakeDamage();
@@ -320,7 +320,7 @@ TEST_F(FTextMouse, DraggingAfterADoubleClickSelectsWords)
 {
 	ShowText(FString(TEXT("one two three")));
 	Click(5);
-	const FPointerEvent Event(FVector2D(51.0, 5.0), FVector2D(51.0, 5.0), {EKeys::LeftMouseButton}, EKeys::LeftMouseButton);
+	const FPointerEvent Event(FVector2D(51.0, 5.0), EKeys::LeftMouseButton);
 	Application().ProcessMouseButtonDoubleClickEvent(Window.ToSharedRef(), Event);
 	MoveMouse(95.0f, 5.0f);
 	EXPECT_EQ(Screen(), FString(TEXT("one [two three]|")));
@@ -359,7 +359,7 @@ TEST_F(FTextMouse, DraggingBeyondTheEdgeScrolls)
 TEST_F(FTextMouse, OtherButtonsAreLeftToOthers)
 {
 	ShowText(FString(TEXT("one")));
-	const FPointerEvent Event(FVector2D(5.0, 5.0), FVector2D(5.0, 5.0), {EKeys::RightMouseButton}, EKeys::RightMouseButton);
+	const FPointerEvent Event(FVector2D(5.0, 5.0), EKeys::RightMouseButton);
 	EXPECT_FALSE(Application().ProcessMouseButtonDownEvent(Window.ToSharedRef(), Event));
 }
 

@@ -91,7 +91,7 @@ TEST_F(DisplayList, WhatMovesIsDamagedWhereItWasAndWhereItIs)
 {
 	Second->SetRenderTransform(FSlateRenderTransform(FVector2D(0.0, 3.0)));
 	EXPECT_EQ(TakeDamage(), TArray<FSlateRect>({SecondRect, FSlateRect(0.0f, 26.0f, 40.0f, 46.0f)}));
-	EXPECT_FALSE(User.GetWindow()->HasDamage());
+	EXPECT_TRUE(User.GetWindow()->TakeDamage().IsEmpty());
 }
 
 TEST_F(DisplayList, WhatComesAndGoesIsDamagedAlone)

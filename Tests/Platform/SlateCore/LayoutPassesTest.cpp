@@ -174,7 +174,7 @@ TEST_F(LayoutPasses, ChildrenComeAndGo)
 	EXPECT_EQ(PositionOf(*Probes[1]), FVector2D(0.0, 10.0));
 	Left->ClearChildren();
 	User->Frame();
-	EXPECT_EQ(Left->NumSlots(), 0);
+	EXPECT_EQ(Left->GetChildren()->Num(), 0);
 	EXPECT_EQ(PositionOf(*Probes[2]), FVector2D(0.0, 0.0));
 }
 

@@ -104,7 +104,7 @@ protected:
 		constexpr int MostTries = 10;
 		for (int Try = 0; Try < MostTries; ++Try)
 		{
-			Hand("mousemove 400 840 click 1 key ctrl+a");
+			Hand("mousemove 400 800 click 1 key ctrl+a");
 			Hand((QByteArray("type --delay 5 ") + Text).constData());
 			Hand("key ctrl+a ctrl+c");
 			if (ReadClipboard() == Text)

@@ -29,19 +29,6 @@ FKey InputTranslation::ToMouseButton(Qt::MouseButton Button)
 	}
 }
 
-TSet<FKey> InputTranslation::ToMouseButtons(Qt::MouseButtons Buttons)
-{
-	TSet<FKey> Pressed;
-	for (const Qt::MouseButton Button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton})
-	{
-		if (Buttons.testFlag(Button))
-		{
-			Pressed.Add(ToMouseButton(Button));
-		}
-	}
-	return Pressed;
-}
-
 FKey InputTranslation::ToKey(const QKeyEvent& Event)
 {
 	static const QHash<int, FKey> Keys = {

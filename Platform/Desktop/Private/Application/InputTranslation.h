@@ -14,7 +14,6 @@ FModifierKeysState ToModifiers(Qt::KeyboardModifiers Modifiers);
 
 /** Invalid for a button that widgets do not know. */
 FKey ToMouseButton(Qt::MouseButton Button);
-TSet<FKey> ToMouseButtons(Qt::MouseButtons Buttons);
 
 /** Invalid for a key that widgets do not know. */
 FKey ToKey(const QKeyEvent& Event);

@@ -60,7 +60,6 @@ private:
 	void PaintElement(const FSlateDrawElement& Element);
 	void PaintPayload(const FSlateBoxPayload& Box, const FPaintGeometry& Geometry, const FLinearColor& Tint);
 	void PaintPayload(const FSlateTextPayload& Text, const FPaintGeometry& Geometry, const FLinearColor& Tint);
-	void PaintPayload(const FSlateLinePayload& Line, const FPaintGeometry& Geometry, const FLinearColor& Tint);
 
 	QPainter& Painter;
 	FImageCache& Images;
@@ -154,17 +153,6 @@ void FChunkPainter::PaintPayload(const FSlateTextPayload& Text, const FPaintGeom
 	}
 }
 
-void FChunkPainter::PaintPayload(const FSlateLinePayload& Line, const FPaintGeometry& Geometry, const FLinearColor& Tint)
-{
-	const QTransform ToDevice = ToQTransform(Geometry.RenderTransform);
-	QPolygonF Points;
-	for (const FVector2D& Point : Line.Points)
-	{
-		Points.append(ToDevice.map(QPointF(Point.X, Point.Y)));
-	}
-	Painter.setPen(QPen(ToScreenColor(Tint), Line.Thickness * Geometry.DrawScale, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-	Painter.drawPolyline(Points);
-}
 } // namespace
 
 FSlatePainter::FSlatePainter()

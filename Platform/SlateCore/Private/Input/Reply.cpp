@@ -22,9 +22,3 @@ FReply& FReply::SetUserFocus(const TSharedRef<SWidget>& GiveMeFocus, EFocusCause
 	FocusCause = ReasonFocusIsChanging;
 	return *this;
 }
-
-FReply& FReply::ClearUserFocus()
-{
-	bClearFocus = true;
-	return *this;
-}

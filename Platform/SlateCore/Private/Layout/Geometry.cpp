@@ -74,11 +74,6 @@ FPaintGeometry FGeometry::ToPaintGeometry(const FVector2D& InLocalSize, const FS
 	return MakeChild(InLocalSize, InLocalTransform).ToPaintGeometry();
 }
 
-FPaintGeometry FGeometry::ToOffsetPaintGeometry(const FVector2D& Offset) const
-{
-	return ToPaintGeometry(Size, FSlateLayoutTransform(Offset));
-}
-
 bool FGeometry::IsUnderLocation(const FVector2D& Absolute) const
 {
 	const FVector2D Local = AbsoluteToLocal(Absolute);

@@ -90,28 +90,21 @@ class FPointerEvent : public FInputEvent
 {
 public:
 	/** Button is the one that went down or up, none for a move or the wheel. WheelDelta is in notches, away from the user positive. */
-	FPointerEvent(const FVector2D& InPosition, const FVector2D& InLastPosition, const TSet<FKey>& InPressedButtons, const FKey& InButton,
-		float InWheelDelta = 0.0f, const FModifierKeysState& InModifiers = FModifierKeysState())
+	FPointerEvent(const FVector2D& InPosition, const FKey& InButton, float InWheelDelta = 0.0f,
+		const FModifierKeysState& InModifiers = FModifierKeysState())
 		: FInputEvent(InModifiers)
 		, Position(InPosition)
-		, LastPosition(InLastPosition)
-		, PressedButtons(InPressedButtons)
 		, EffectingButton(InButton)
 		, WheelDelta(InWheelDelta)
 	{
 	}
 
 	const FVector2D& GetScreenSpacePosition() const { return Position; }
-	const FVector2D& GetLastScreenSpacePosition() const { return LastPosition; }
-	FVector2D GetCursorDelta() const { return Position - LastPosition; }
-	bool IsMouseButtonDown(const FKey& Button) const { return PressedButtons.Contains(Button); }
 	const FKey& GetEffectingButton() const { return EffectingButton; }
 	float GetWheelDelta() const { return WheelDelta; }
 
 private:
 	FVector2D Position;
-	FVector2D LastPosition;
-	TSet<FKey> PressedButtons;
 	FKey EffectingButton;
 	float WheelDelta;
 };

@@ -18,14 +18,12 @@ public:
 	FReply& CaptureMouse(const TSharedRef<SWidget>& InMouseCaptor);
 	FReply& ReleaseMouseCapture();
 	FReply& SetUserFocus(const TSharedRef<SWidget>& GiveMeFocus, EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
-	FReply& ClearUserFocus();
 
 	bool IsEventHandled() const { return bIsHandled; }
 	const TSharedPtr<SWidget>& GetMouseCaptor() const { return MouseCaptor; }
 	bool ShouldReleaseMouse() const { return bReleaseMouseCapture; }
 	const TSharedPtr<SWidget>& GetUserFocusRecepient() const { return FocusRecipient; }
 	EFocusCause GetFocusCause() const { return FocusCause; }
-	bool ShouldClearUserFocus() const { return bClearFocus; }
 
 private:
 	explicit FReply(bool bInIsHandled)
@@ -38,5 +36,4 @@ private:
 	EFocusCause FocusCause = EFocusCause::SetDirectly;
 	bool bIsHandled;
 	bool bReleaseMouseCapture = false;
-	bool bClearFocus = false;
 };

@@ -60,13 +60,11 @@ public:
 
 	FPaintGeometry ToPaintGeometry() const;
 	FPaintGeometry ToPaintGeometry(const FVector2D& InLocalSize, const FSlateLayoutTransform& InLocalTransform) const;
-	FPaintGeometry ToOffsetPaintGeometry(const FVector2D& Offset) const;
 
 	FVector2D GetLocalSize() const { return Size; }
 	FVector2D GetAbsoluteSize() const { return Size * Layout.Scale; }
 	FVector2D GetAbsolutePosition() const { return Render.TransformPoint(FVector2D(0.0, 0.0)); }
 	const FSlateLayoutTransform& GetAccumulatedLayoutTransform() const { return Layout; }
-	const FSlateRenderTransform& GetAccumulatedRenderTransform() const { return Render; }
 	float GetScale() const { return Layout.Scale; }
 
 	FVector2D AbsoluteToLocal(const FVector2D& Absolute) const { return Render.Inverse().TransformPoint(Absolute); }

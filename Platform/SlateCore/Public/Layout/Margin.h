@@ -39,12 +39,6 @@ struct FMargin
 	FVector2D GetTopLeft() const { return FVector2D(Left, Top); }
 	FVector2D GetDesiredSize() const { return FVector2D(Left + Right, Top + Bottom); }
 
-	template <EOrientation Orientation>
-	constexpr float GetTotalSpaceAlong() const
-	{
-		return Orientation == Orient_Horizontal ? Left + Right : Top + Bottom;
-	}
-
 	constexpr FMargin operator+(const FMargin& Other) const
 	{
 		return FMargin(Left + Other.Left, Top + Other.Top, Right + Other.Right, Bottom + Other.Bottom);

@@ -28,20 +28,11 @@ struct FSlateTextPayload
 	bool operator==(const FSlateTextPayload& Other) const { return &*Text == &*Other.Text; }
 };
 
-/** A line through points in local units. */
-struct FSlateLinePayload
-{
-	TArray<FVector2D> Points;
-	/** In units. */
-	float Thickness = 1.0f;
-	bool operator==(const FSlateLinePayload& Other) const { return Points == Other.Points && Thickness == Other.Thickness; }
-};
-
 /** One thing to draw, in device pixels of the window. */
 class FSlateDrawElement
 {
 public:
-	using FPayload = std::variant<FSlateBoxPayload, FSlateTextPayload, FSlateLinePayload>;
+	using FPayload = std::variant<FSlateBoxPayload, FSlateTextPayload>;
 
 	/** LayerId is the engine's; elements are drawn in the order in which they were made. A brush that draws nothing adds nothing. */
 	static void MakeBox(FSlateWindowElementList& OutDrawElements, uint32 LayerId, const FPaintGeometry& PaintGeometry,
@@ -51,10 +42,6 @@ public:
 	static void MakeShapedText(FSlateWindowElementList& OutDrawElements, uint32 LayerId, const FPaintGeometry& PaintGeometry,
 		const TSharedRef<const FShapedText>& ShapedText, ESlateDrawEffect DrawEffects = ESlateDrawEffect::None,
 		const FLinearColor& Tint = FLinearColor(1.0f, 1.0f, 1.0f, 1.0f));
-	static void MakeLines(FSlateWindowElementList& OutDrawElements, uint32 LayerId, const FPaintGeometry& PaintGeometry,
-		const TArray<FVector2D>& Points, ESlateDrawEffect DrawEffects = ESlateDrawEffect::None,
-		const FLinearColor& Tint = FLinearColor(1.0f, 1.0f, 1.0f, 1.0f), bool bAntialias = true, float Thickness = 1.0f);
-
 	const FPayload& GetPayload() const { return Payload; }
 	const FPaintGeometry& GetGeometry() const { return Geometry; }
 	const FLinearColor& GetTint() const { return Tint; }

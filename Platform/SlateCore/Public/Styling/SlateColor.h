@@ -34,7 +34,6 @@ struct FSlateColor
 	/** Only meaningful where IsColorSpecified. */
 	const FLinearColor& GetSpecifiedColor() const { return SpecifiedColor; }
 	bool IsColorSpecified() const { return ColorUseRule == ESlateColorStylingMode::UseColor_Specified; }
-	ESlateColorStylingMode GetColorRule() const { return ColorUseRule; }
 
 	bool operator==(const FSlateColor& Other) const;
 

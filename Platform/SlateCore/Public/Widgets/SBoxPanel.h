@@ -30,7 +30,6 @@ public:
 	/** The slot that holds this widget goes; false where there is none. */
 	bool RemoveSlot(const TSharedRef<SWidget>& SlotWidget);
 	void ClearChildren();
-	int32 NumSlots() const { return Children.Num(); }
 
 	virtual FChildren* GetChildren() override { return &Children; }
 

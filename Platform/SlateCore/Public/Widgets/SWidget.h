@@ -59,7 +59,6 @@ public:
 
 	/** The room of the last arrange pass. While a widget is scrolled out of view only its size is kept up to date. */
 	const FGeometry& GetCachedGeometry() const { return CachedGeometry; }
-	const FGeometry& GetTickSpaceGeometry() const { return CachedGeometry; }
 
 	/** The room it would have in this moment, also while it is scrolled out of view. Places all its siblings at every level, so it is dear.
 	 */

@@ -49,7 +49,6 @@ public:
 
 	/** The parts that were painted anew since the last call, in device pixels. */
 	TArray<FSlateRect> TakeDamage();
-	bool HasDamage() const { return Damage.Num() > 0; }
 
 	virtual FChildren* GetChildren() override { return &Layers; }
 

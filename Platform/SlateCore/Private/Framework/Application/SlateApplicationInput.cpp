@@ -88,11 +88,6 @@ TSharedPtr<SWidget> FSlateApplication::GetMouseCaptor() const
 	return Mouse->GetCaptor();
 }
 
-void FSlateApplication::ReleaseMouseCapture()
-{
-	Mouse->ReleaseCapture();
-}
-
 void FSlateApplication::SetTextInputArea(bool bEnabled, const FSlateRect& CaretRect)
 {
 	Desktop->SetTextInputArea(bEnabled, CaretRect);
@@ -107,10 +102,6 @@ void FSlateApplication::ProcessReply(const FReply& Reply)
 	if (Reply.GetMouseCaptor().IsValid())
 	{
 		Mouse->Capture(Reply.GetMouseCaptor().ToSharedRef());
-	}
-	if (Reply.ShouldClearUserFocus())
-	{
-		Focus->Set(nullptr, EFocusCause::Cleared);
 	}
 	if (Reply.GetUserFocusRecepient().IsValid())
 	{

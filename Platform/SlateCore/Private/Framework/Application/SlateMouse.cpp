@@ -27,7 +27,7 @@ FReply FSlateMouse::RouteButtonDown(const TArray<FArrangedWidget>& Path, const F
 	const bool bWasCaptured = Captor.IsValid();
 	const FReply Reply = Route(Path, Event,
 		[](const FArrangedWidget& Target, const FPointerEvent& Down) { return Target.Widget->OnMouseButtonDown(Target.Geometry, Down); });
-	if (!bWasCaptured && !Reply.GetUserFocusRecepient().IsValid() && !Reply.ShouldClearUserFocus())
+	if (!bWasCaptured && !Reply.GetUserFocusRecepient().IsValid())
 	{
 		FocusUnderMouse(Path);
 	}

@@ -77,7 +77,6 @@ public:
 	void ClearKeyboardFocus(EFocusCause Cause = EFocusCause::SetDirectly);
 	TSharedPtr<SWidget> GetKeyboardFocusedWidget() const;
 	TSharedPtr<SWidget> GetMouseCaptor() const;
-	void ReleaseMouseCapture();
 
 	/** Where the focused widget takes text; the rectangle is absolute. A widget that takes none is not obliged to say so. */
 	void SetTextInputArea(bool bEnabled, const FSlateRect& CaretRect);
