@@ -71,6 +71,7 @@ void AddEscaped(FUnitBuffer& Buffer, char Byte)
 	case '"':
 		return Buffer.Add(TEXTVIEW("&quot;"));
 	case '\t':
+	case '\n':
 		return Buffer.Add(TEXT(' '));
 	default:
 		return Buffer.Add(static_cast<TCHAR>(Byte));

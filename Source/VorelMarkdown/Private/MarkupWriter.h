@@ -16,7 +16,8 @@ public:
 
 	bool IsEmpty() const { return Out.IsEmpty(); }
 
-	// All of & < > " are escaped, and a tab becomes a blank, since a tab ends a cell.
+	// All of & < > " are escaped. A tab becomes a blank, since it ends a cell, and so does a newline: behind a bare address md4c 0.4.8 may
+	// hand over one with the text.
 	void Text(const FMarkupStyle& Style, std::string_view Utf8);
 
 	// One tab each between cells of a table.

@@ -104,6 +104,7 @@ TEST(Markup, WhatTheParserMistakesIsPutRight)
 			"<Paragraph>~5 to ~10 ~x~ </><Paragraph.InlineCode>~y</><Paragraph> </><Paragraph.Link>z</><Paragraph> (~u)</>"},
 		{"~~a [b](~~c)\n\nd",
 			"<Paragraph.Strikethrough>a </><Paragraph.Strikethrough.Link>b</><Paragraph.Strikethrough> (~~c)</>\n\n<Paragraph>d</>"},
+		{"www..a@b.c\n&", "<Paragraph.Link>www..a@b.c</><Paragraph>  &amp;</>"},
 		{"[~~a](b~~c) d~~ e", "<Paragraph.Link>~~a</><Paragraph> (b~~c) d e</>"},
 	});
 }
