@@ -6,13 +6,12 @@
 #include "Chat/SChatItem.h"
 #include "DesktopApplication.h"
 #include "Framework/Application/SlateApplication.h"
+#include "ProcessorTime.h"
 #include "QSlateWidget.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/Layout/SScrollBox.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SWindow.h"
-
-#include <ctime>
 
 namespace
 {
@@ -20,21 +19,6 @@ constexpr int Width = 1000;
 constexpr int Height = 800;
 constexpr float ColumnWidth = 700.0f;
 constexpr float FrameSeconds = 0.016f;
-
-double GetProcessorMilliseconds()
-{
-	timespec Time = {};
-	::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &Time);
-	return static_cast<double>(Time.tv_sec) * 1e3 + static_cast<double>(Time.tv_nsec) * 1e-6;
-}
-
-template <typename WorkType>
-double Measure(WorkType Work)
-{
-	const double Start = GetProcessorMilliseconds();
-	Work();
-	return GetProcessorMilliseconds() - Start;
-}
 } // namespace
 
 FOffscreenChat::FOffscreenChat()
@@ -98,8 +82,8 @@ TSharedRef<SMarkdownTextbox> FOffscreenChat::AddTextbox()
 FFrameCost FOffscreenChat::RunFrame(TFunction<void()> ChangeContent)
 {
 	FFrameCost Cost;
-	Cost.Content = Measure(ChangeContent);
-	Cost.Layout = Measure([] { FSlateApplication::Get().Tick(FrameSeconds); });
-	Cost.Paint = Measure([] { FDesktopApplication::Get().GetFrameLoop().OnShowFrame.Broadcast(); });
+	Cost.Content = MeasureProcessorMilliseconds(ChangeContent);
+	Cost.Layout = MeasureProcessorMilliseconds([] { FSlateApplication::Get().Tick(FrameSeconds); });
+	Cost.Paint = MeasureProcessorMilliseconds([] { FDesktopApplication::Get().GetFrameLoop().OnShowFrame.Broadcast(); });
 	return Cost;
 }

@@ -1,0 +1,177 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Syntax/CodeBlockMarshaller.h"
+#include "Chat/ChatItemWidgets/SCodeWidget.h"
+#include "Framework/Text/SlateTextLayout.h"
+#include "Rendering/DrawElements.h"
+#include "Styling/WidgetStyle.h"
+#include "Support/UserDriver.h"
+#include "Syntax/CodeWhiteSpaceRun.h"
+#include "Widgets.h"
+#include "Widgets/SNullWidget.h"
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace
+{
+
+// A layout as a code block has one, in letters that are all 8 units wide.
+class CodeBlockMarshaller : public testing::Test
+{
+protected:
+	void Show(const FString& Code)
+	{
+		Layout->ClearLines();
+		Marshaller->SetText(Code, *Layout);
+		Layout->UpdateIfNeeded();
+	}
+
+	// The runs of all lines, as in: Keyword"int" WhiteSpace" " Normal"x".
+	std::string GetRuns() const
+	{
+		std::string Result;
+		std::istringstream Lines(ToUtf8(Layout->ToDebugString().Replace(TEXT("CodeBlock."), TEXT(""))));
+		for (std::string Line; std::getline(Lines, Line);)
+		{
+			const size_t Begin = Line.find(": ");
+			Result += (Result.empty() ? "" : "\n") + (Begin == std::string::npos ? std::string() : Line.substr(Begin + 2));
+		}
+		return Result;
+	}
+
+	// A letter for the color of each character: Normal, Operator and keyword, String, Comment, Preprocessor.
+	std::string GetColors() const
+	{
+		FSlateWindowElementList Elements;
+		Elements.BeginChunk(nullptr, {});
+		Layout->Paint(FGeometry(), FSlateRect(0.0f, 0.0f, 1.0e6f, 1.0e6f), Elements, 0, FWidgetStyle(), ESlateDrawEffect::None);
+		std::string Result;
+		double Row = 0.0;
+		const TSharedRef<const FSlateDrawChunk> Chunk = Elements.EndChunk();
+		for (const FSlateDrawChunk::FItem& Item : Chunk->GetItems())
+		{
+			const FSlateDrawElement& Element = std::get<FSlateDrawElement>(Item);
+			const FSlateRect Rect = Element.GetGeometry().GetRenderBoundingRect();
+			Result += !Result.empty() && Rect.Top > Row ? "\n" : "";
+			Row = Rect.Top;
+			const int32 Length = std::get<FSlateTextPayload>(Element.GetPayload()).Text->CaretOffsets.Num() - 1;
+			Result += std::string(static_cast<size_t>(Length), GetLetter(Element.GetTint()));
+		}
+		return Result;
+	}
+
+	static char GetLetter(const FLinearColor& Color)
+	{
+		const std::pair<FLinearColor, char> Letters[] = {{FLinearColor(0.9f, 0.95f, 1.0f), 'N'}, {FLinearColor(1.0f, 0.7f, 0.4f), 'O'},
+			{FLinearColor(0.5f, 0.9f, 0.4f), 'S'}, {FLinearColor(0.5f, 0.7f, 0.9f), 'C'}, {FLinearColor(1.0f, 0.6f, 1.0f), 'P'}};
+		const auto Found = std::find_if(std::begin(Letters), std::end(Letters), [&](const auto& Letter) { return Letter.first == Color; });
+		return Found == std::end(Letters) ? '?' : Found->second;
+	}
+
+	FUserDriver User{SNullWidget::NullWidget, FVector2D(900.0, 400.0), 1.0f, EDriverFonts::Even};
+	TSharedRef<FSlateTextLayout> Layout = FSlateTextLayout::Create(*SNullWidget::NullWidget, FTextBlockStyle::GetDefault());
+	TSharedRef<FCodeBlockMarshaller> Marshaller = FCodeBlockMarshaller::Create();
+};
+
+} // namespace
+
+// For each state the run, its color and the color of what follows, for each of these tokens.
+TEST_F(CodeBlockMarshaller, StateAndTokenDecideRunColorAndNextState)
+{
+	const char* const Tokens[] = {"\"", "'", "#if", "//", "/*", "*/", "for", "+", "$"};
+	const struct
+	{
+		const char* Opening;
+		const char* Looks;
+	} Rows[] = {
+		{"", "String:SS String:SS PreProcessorKeyword:PN Comment:CC Comment:CC Operator:ON Keyword:ON Operator:ON Normal:NN "},
+		{"\"", "Normal:SN String:SS String:SS String:SS String:SS String:SS String:SS String:SS String:SS "},
+		{"'", "String:SS Normal:SN String:SS String:SS String:SS String:SS String:SS String:SS String:SS "},
+		{"//", "Comment:CC Comment:CC Comment:CC Comment:CC Comment:CC Comment:CC Comment:CC Comment:CC Comment:CC "},
+		{"/*", "Comment:CC Comment:CC Comment:CC Comment:CC Comment:CC Comment:CN Comment:CC Comment:CC Comment:CC "},
+	};
+	for (const auto& Row : Rows)
+	{
+		std::string Looks;
+		for (const std::string Token : Tokens)
+		{
+			Show(FString((Row.Opening + (" " + Token) + " x").c_str()));
+			const std::string Runs = GetRuns();
+			const std::string Mark = "WhiteSpace\" \" ";
+			const size_t Begin = Runs.find(Mark) + Mark.size();
+			const std::string Colors = GetColors();
+			Looks += Runs.substr(Begin, Runs.find('"', Begin) - Begin) + ":" + Colors[strlen(Row.Opening) + 1] + Colors.back() + " ";
+		}
+		EXPECT_EQ(Looks, Row.Looks) << Row.Opening;
+	}
+}
+
+TEST_F(CodeBlockMarshaller, CarriesTheStateAcrossLines)
+{
+	const struct
+	{
+		const char* Code;
+		const char* Colors;
+	} Rows[] = {
+		{"// a\nb", "CCNC\nN"},
+		{"/* a\n\n for */ b", "CCNC\nNCCCNCCNN"},
+		{"\"a\n\nb\"c", "SS\nSSN"},
+		{"it's\n\tx' y", "NNSS\nNSSNN"},
+		{"\"a\\\"b\"", "SSSSNS"},
+		{"#include <a/b.h> 42", "PPPPPPPPNONONONONNN"},
+		{"format for2 u8\"x\"", "NNNNNNNNNNNNNNSSS"},
+		{"a&&b->c<<=d", "NOONOONOOON"},
+	};
+	for (const auto& Row : Rows)
+	{
+		Show(FString(Row.Code));
+		EXPECT_EQ(GetColors(), Row.Colors) << Row.Code;
+	}
+	Show(FString("\"a b\n\nc"));
+	EXPECT_EQ(GetRuns(), "String\"\"\" String\"a\" WhiteSpace\" \" String\"b\"\n\nString\"c\"");
+	Show(FString("x"));
+	EXPECT_EQ(GetRuns(), "Normal\"x\"") << "nothing is left of the text before";
+}
+
+TEST_F(CodeBlockMarshaller, ATabIsFourSpacesWide)
+{
+	Show(FString("\tx\n    x\n \t \t x\n           x"));
+	const auto LeftOf = [this](int32 Line, int32 Offset)
+	{
+		return Layout->GetCaretRect({FTextLocation(Line, Offset)}).Left;
+	};
+	EXPECT_GT(LeftOf(0, 1), 0.0f);
+	EXPECT_FLOAT_EQ(LeftOf(0, 1), LeftOf(1, 4));
+	EXPECT_FLOAT_EQ(LeftOf(2, 5), LeftOf(3, 11));
+}
+
+TEST_F(CodeBlockMarshaller, WhiteSpaceIsMeasuredWithItsShadow)
+{
+	FTextBlockStyle Style;
+	Style.SetFont(FSlateFontInfo(TEXT("Mono"), 10.0f)).SetShadowOffset(FVector2D(-3.0, 2.0));
+	const TSharedRef<const FString> Text = MakeShared<FString>(TEXT("ab\t \t"));
+	const TSharedRef<FCodeWhiteSpaceRun> Run = FCodeWhiteSpaceRun::Create(FRunInfo(TEXT("Name")), Text, Style, FTextRange(2, 5), 3);
+	EXPECT_EQ(Run->Measure(2, 5, 1.0f, {}), FVector2D(7 * 8.0 + 3.0, 16.0 + 2.0));
+	EXPECT_EQ(Run->Measure(2, 5, 2.0f, {}), FVector2D(7 * 16.0 + 6.0, 32.0 + 4.0));
+	EXPECT_EQ(Run->Measure(2, 4, 2.0f, {}), FVector2D(4 * 16.0, 32.0 + 4.0));
+	EXPECT_EQ(Run->Measure(5, 5, 2.0f, {}), FVector2D(12.0, Run->GetMaxHeight(2.0f)));
+	EXPECT_EQ(Run->Measure(3, 3, 2.0f, {}), FVector2D(0.0, Run->GetMaxHeight(2.0f)));
+}
+
+// Large letters have pixels that nothing but their color is in.
+TEST(CodeColors, AreThoseOfTheStyles)
+{
+	FUserDriver User(SNullWidget::NullWidget, FVector2D(640.0, 60.0), 4.0f);
+	const TSharedRef<SWidget> Block = SNew(SCodeWidget).Text(FText::FromString(TEXT("#if x return \"s\" // c")));
+	FUserDriver Reader(Block, FVector2D(640.0, 60.0), 4.0f);
+	const QImage Picture = Reader.Picture();
+	for (const QRgb Color : {0xFFFFDAAA, 0xFFBCF3AA, 0xFFBCDAF3, 0xFFFFCBFF, 0xFFF3F9FF})
+	{
+		int Count = 0;
+		for (int Index = 0; Index < Picture.width() * Picture.height(); ++Index)
+		{
+			Count += Picture.pixel(Index % Picture.width(), Index / Picture.width()) == Color ? 1 : 0;
+		}
+		EXPECT_GT(Count, 20) << std::hex << Color;
+	}
+}

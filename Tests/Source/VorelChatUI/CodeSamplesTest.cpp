@@ -1,0 +1,177 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Support/CodeSamples.h"
+#include "Chat/ChatItemWidgets/SCodeWidget.h"
+#include "Framework/Text/SlateTextLayout.h"
+#include "Styling/SlateTypes.h"
+#include "Support/UserDriver.h"
+#include "Syntax/CodeBlockMarshaller.h"
+#include "Syntax/CppSyntaxRules.h"
+#include "VorelLog.h"
+#include "Widgets/SNullWidget.h"
+#include <gtest/gtest.h>
+#include <set>
+
+namespace
+{
+
+TSharedRef<FSyntaxTokenizer> MakeTokenizer()
+{
+	TArray<FSyntaxTokenizer::FRule> Rules;
+	for (const TArray<FString>* Table : {&CppOperatorRules, &CppKeywordRules, &CppPreProcessorRules})
+	{
+		for (const FString& Text : *Table)
+		{
+			Rules.Emplace(Text);
+		}
+	}
+	return FSyntaxTokenizer::Create(MoveTemp(Rules));
+}
+
+std::u16string Cut(const FString& Text, const FTextRange& Range)
+{
+	return std::u16string(Text.GetData() + Range.BeginIndex, static_cast<size_t>(Range.Len()));
+}
+
+// Tells of the first thing that is wrong, or nothing.
+class FTokenCheck
+{
+public:
+	FTokenCheck()
+	{
+		for (const FString& Keyword : CppKeywordRules)
+		{
+			Keywords.insert(std::u16string(*Keyword));
+		}
+	}
+
+	std::string Check(const FString& Text)
+	{
+		TArray<FSyntaxTokenizer::FTokenizedLine> Lines;
+		Tokenizer->Process(Lines, Text);
+		int32 End = 0;
+		for (int32 Index = 0; Index < Lines.Num(); ++Index)
+		{
+			const FTextRange Range = Lines[Index].Range;
+			const std::u16string Between = Cut(Text, FTextRange(End, Range.BeginIndex));
+			if (Index > 0 ? Between != u"\n" && Between != u"\r\n" : !Between.empty())
+			{
+				return "the line does not follow the one before";
+			}
+			if (!AreTokensWhole(Lines[Index]))
+			{
+				return "tokens leave gaps, or overlap";
+			}
+			if (FindKeywords(Text, Lines[Index]) != FindKeywords(Cut(Text, Range)))
+			{
+				return "other words are keywords";
+			}
+			End = Range.EndIndex;
+		}
+		return End == Text.Len() ? "" : "there is text behind the last line";
+	}
+
+private:
+	static bool AreTokensWhole(const FSyntaxTokenizer::FTokenizedLine& Line)
+	{
+		int32 End = Line.Range.BeginIndex;
+		for (const FSyntaxTokenizer::FToken& Token : Line.Tokens)
+		{
+			if (Token.Range.BeginIndex != End || (Token.Range.IsEmpty() && Line.Tokens.Num() > 1))
+			{
+				return false;
+			}
+			End = Token.Range.EndIndex;
+		}
+		return End == Line.Range.EndIndex;
+	}
+
+	std::u16string FindKeywords(const FString& Text, const FSyntaxTokenizer::FTokenizedLine& Line) const
+	{
+		std::u16string Found;
+		for (const FSyntaxTokenizer::FToken& Token : Line.Tokens)
+		{
+			const bool bWord = Token.Type == FSyntaxTokenizer::ETokenType::Syntax && IsWordCharacter(Text[Token.Range.BeginIndex]);
+			Found += bWord ? Cut(Text, Token.Range) + u" " : u"";
+		}
+		return Found;
+	}
+
+	// In another way: all the words of a line that the table holds.
+	std::u16string FindKeywords(const std::u16string& Line) const
+	{
+		std::u16string Found;
+		for (size_t Index = 0; Index < Line.size();)
+		{
+			size_t End = Index;
+			while (End < Line.size() && IsWordCharacter(Line[End]))
+			{
+				++End;
+			}
+			const std::u16string Word = Line.substr(Index, End - Index);
+			Found += Keywords.count(Word) != 0 && (Index == 0 || Line[Index - 1] != u'#') ? Word + u" " : u"";
+			Index = std::max(End, Index + 1);
+		}
+		return Found;
+	}
+
+	static bool IsWordCharacter(char16_t Character) { return Character > 0x7F || Character == u'_' || std::isalnum(Character) != 0; }
+
+	TSharedRef<FSyntaxTokenizer> Tokenizer = MakeTokenizer();
+	std::set<std::u16string> Keywords;
+};
+
+FString MakeRubbish(int32 Length)
+{
+	const TCHAR Special[] = {0x01, TEXT('\r'), TEXT('\n'), TEXT('\t'), TEXT(' '), 0xD83D, 0xDE00, 0x05D0, 0x0645, 0x202E, 0x0301, 0x200D,
+		0x2028, 0xFFFF, TEXT('/'), TEXT('*'), TEXT('"'), TEXT('a')};
+	FString Rubbish;
+	uint32 Random = 1;
+	for (int32 Index = 0; Index < Length; ++Index)
+	{
+		Random = Random * 1664525 + 1013904223;
+		Rubbish.AppendChar((Random >> 16) % 4 ? Special[(Random >> 18) % std::size(Special)] : static_cast<TCHAR>((Random >> 16) | 1));
+	}
+	return Rubbish;
+}
+
+} // namespace
+
+TEST(CodeSamples, EveryFileIsCutAndColoredWithoutLosingAnything)
+{
+	FUserDriver User(SNullWidget::NullWidget, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	const TSharedRef<FCodeBlockMarshaller> Marshaller = FCodeBlockMarshaller::Create();
+	const TArray<FCodeSample> Samples = ReadCodeSamples(VOREL_CODE_FOLDERS);
+	EXPECT_GE(Samples.Num(), 500);
+	FTokenCheck Tokens;
+	for (const FCodeSample& Sample : Samples)
+	{
+		ASSERT_EQ(Tokens.Check(Sample.Text), "") << Sample.Path;
+		const TSharedRef<FSlateTextLayout> Layout = FSlateTextLayout::Create(*SNullWidget::NullWidget, FTextBlockStyle::GetDefault());
+		Marshaller->SetText(Sample.Text, *Layout);
+		FString Shown;
+		Marshaller->GetText(Shown, *Layout);
+		ASSERT_TRUE(Shown.Equals(Sample.Text.Replace(TEXT("\r\n"), TEXT("\n")))) << Sample.Path;
+	}
+}
+
+TEST(CodeSamples, HostileCodeIsShownAndCopiedWhole)
+{
+	FUserDriver Application(SNullWidget::NullWidget, FVector2D(700.0, 400.0));
+	const FString Line(TEXT("int32 Add(int32 A) { return A + 1; } // \"sum\"\n"));
+	FString Megabyte;
+	while (Megabyte.Len() < 1'000'000)
+	{
+		Megabyte += Line;
+	}
+	const FString Codes[] = {Megabyte, Megabyte.Left(100'000).Replace(TEXT("\n"), TEXT(" ")), FString::ChrN(100'000, TEXT('x')),
+		FString::ChrN(100'000, TEXT('"')), FString::ChrN(100'000, TEXT('\t')), FString::ChrN(20'000, TEXT('\n')), MakeRubbish(20'000),
+		TEXT("/* never closed \n\n \"'"),
+		TEXT("\u05d0\u05d1 for \u0645\u0631\u062d\u0628\u0627\t\u05d0 // e\u0301 \U0001F468\u200D\U0001F469")};
+	for (const FString& Code : Codes)
+	{
+		FUserDriver User(SNew(SCodeWidget).Text(FText::FromString(Code)), FVector2D(700.0, 400.0));
+		User.Click(TEXT("Copy"));
+		EXPECT_TRUE(User.GetClipboard().Equals(Code)) << Code.Left(40);
+	}
+}
