@@ -112,6 +112,8 @@ struct FShapedTextCache::FGeneration
 {
 	std::unordered_map<FShapeKey, TSharedRef<const FShapedText>, FShapeHash, FShapeEqual> Shaped;
 	std::unordered_map<FFontKey, FFontMetrics, FFontKeyHash> Metrics;
+	/** The one that was asked for last, since neighbouring runs share their font. */
+	const std::pair<const FFontKey, FFontMetrics>* LastMetrics = nullptr;
 	int32 NumUnits = 0;
 };
 
@@ -161,10 +163,15 @@ void FShapedTextCache::TurnGeneration()
 
 FFontMetrics FShapedTextCache::GetMetrics(const FSlateFontInfo& Font, float Scale)
 {
-	const auto [Entry, bNew] = Current->Metrics.try_emplace(FFontKey{Font, Scale});
-	if (bNew)
+	const auto*& Last = Current->LastMetrics;
+	if (!Last || Last->first.Scale != Scale || !(Last->first.Font == Font))
 	{
-		Entry->second = Shaper.GetMetrics(Font, Scale);
+		const auto [Entry, bNew] = Current->Metrics.try_emplace(FFontKey{Font, Scale});
+		if (bNew)
+		{
+			Entry->second = Shaper.GetMetrics(Font, Scale);
+		}
+		Last = &*Entry;
 	}
-	return Entry->second;
+	return Last->second;
 }

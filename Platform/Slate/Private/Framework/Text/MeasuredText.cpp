@@ -37,7 +37,7 @@ public:
 		const FStringView Analyzed = Marked.IsEmpty() ? Text : FStringView(Marked);
 		Result.ParagraphLevel = TextBoundaries::FindLevels(Analyzed, Levels);
 		TextBoundaries::FindLineBreaks(Analyzed, Breaks);
-		Result.Units.Reserve(Breaks.Num());
+		Result.Units.Reserve(FMath::Max(Breaks.Num(), Runs.Num()));
 		for (int32 Begin = 0; Begin < Text.Len();)
 		{
 			Begin = AddUnit(Begin);
@@ -184,6 +184,7 @@ FRunTextContext MakeRunContext(ETextShapingMethod ShapingMethod, uint8 Level)
 FMeasuredText MeasureText(FStringView Text, const TArray<TSharedRef<IRun>>& Runs, float Scale, ETextShapingMethod ShapingMethod)
 {
 	FMeasuredText Result;
+	Result.RunHeights.Reserve(Runs.Num());
 	for (const TSharedRef<IRun>& Run : Runs)
 	{
 		Result.RunHeights.Add(MeasureHeight(*Run, Scale));

@@ -5,10 +5,10 @@
 #include "Framework/Text/ITextDecorator.h"
 #include "Framework/Text/RichTextMarkupProcessing.h"
 #include "Framework/Text/SlateTextRun.h"
+#include "RunLooks.h"
 #include "Styling/ISlateStyle.h"
 #include "Styling/SlateTypes.h"
 #include "TextLines.h"
-#include "TextStylePool.h"
 
 #include <algorithm>
 
@@ -136,7 +136,7 @@ TSharedPtr<const FTextBlockStyle> FRichTextLayoutMarshaller::FindStyle(const FSt
 	const FName StyleName(*Name);
 	if (DecoratorStyleSet && DecoratorStyleSet->HasWidgetStyle<FTextBlockStyle>(StyleName))
 	{
-		Style = TextStylePool::Share(DecoratorStyleSet->GetWidgetStyle<FTextBlockStyle>(StyleName));
+		Style = RunLooks::Share(DecoratorStyleSet->GetWidgetStyle<FTextBlockStyle>(StyleName));
 	}
 	Styles.Add(Name, Style);
 	return Style;

@@ -4,9 +4,9 @@
 
 #include "Framework/Text/SlateTextRun.h"
 #include "Layout/ArrangedChildren.h"
+#include "RunLooks.h"
 #include "Styling/SlateTypes.h"
 #include "TextLine.h"
-#include "TextStylePool.h"
 #include "Widgets/Text/TextVisibility.h"
 #include "Widgets/SWidget.h"
 
@@ -17,7 +17,7 @@ TSharedRef<FSlateTextLayout> FSlateTextLayout::Create(SWidget& InOwner, const FT
 
 FSlateTextLayout::FSlateTextLayout(SWidget& InOwner, const FTextBlockStyle& InDefaultTextStyle)
 	: Children(InOwner)
-	, DefaultTextStyle(TextStylePool::Share(InDefaultTextStyle))
+	, DefaultTextStyle(RunLooks::Share(InDefaultTextStyle))
 {
 }
 

@@ -6,9 +6,9 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Rendering/DrawElements.h"
 #include "Rendering/SlateRenderer.h"
+#include "RunLooks.h"
 #include "Styling/SlateTypes.h"
 #include "Styling/WidgetStyle.h"
-#include "TextStylePool.h"
 
 namespace
 {
@@ -32,25 +32,26 @@ FPaintGeometry MakePixelGeometry(const FGeometry& TextGeometry, float Left, floa
 TSharedRef<FSlateTextRun> FSlateTextRun::Create(
 	const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText, const FTextBlockStyle& Style, const FTextRange& InRange)
 {
-	return MakeShareable(new FSlateTextRun(InRunInfo, InText, Style, InRange));
+	return Create(InRunInfo, InText, RunLooks::Share(Style), InRange);
 }
 
 TSharedRef<FSlateTextRun> FSlateTextRun::Create(const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText,
 	const TSharedRef<const FTextBlockStyle>& Style, const FTextRange& InRange)
 {
-	return MakeShareable(new FSlateTextRun(InRunInfo, InText, Style, InRange));
+	return MakeShared<FSlateTextRun>(FMakeKey(), InRunInfo, InText, Style, InRange);
 }
 
 FSlateTextRun::FSlateTextRun(
 	const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText, const FTextBlockStyle& InStyle, const FTextRange& InRange)
-	: FSlateTextRun(InRunInfo, InText, TextStylePool::Share(InStyle), InRange)
+	: FSlateTextRun(FMakeKey(), InRunInfo, InText, RunLooks::Share(InStyle), InRange)
 {
 }
 
-FSlateTextRun::FSlateTextRun(const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText,
+FSlateTextRun::FSlateTextRun(FMakeKey, const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText,
 	const TSharedRef<const FTextBlockStyle>& InStyle, const FTextRange& InRange)
-	: SharedStyle(InStyle)
-	, RunInfo(InRunInfo)
+	: SharedRunInfo(RunLooks::Share(InRunInfo))
+	, SharedStyle(InStyle)
+	, RunInfo(*SharedRunInfo)
 	, Text(InText)
 	, Style(*SharedStyle)
 	, Range(InRange)
@@ -96,7 +97,8 @@ bool FSlateTextRun::IsSameAs(const IRun& Other) const
 	}
 	const FSlateTextRun& OtherRun = static_cast<const FSlateTextRun&>(Other);
 	const bool bSameStyle = &Style == &OtherRun.Style || Style == OtherRun.Style;
-	return bSameStyle && Range == OtherRun.Range && RunInfo == OtherRun.RunInfo;
+	const bool bSameInfo = &RunInfo == &OtherRun.RunInfo || RunInfo == OtherRun.RunInfo;
+	return bSameStyle && bSameInfo && Range == OtherRun.Range;
 }
 
 TSharedRef<const FShapedText> FSlateTextRun::Shape(const FTextRange& Stretch, float Scale, const FRunTextContext& TextContext) const

@@ -7,8 +7,26 @@
 
 #include <limits>
 
+namespace
+{
+/** Measuring fewer lines anew costs less than looking for them. */
+constexpr int32 MinLinesOfTwin = 50;
+constexpr int32 MaxLongLayouts = 16;
+
+/** The layouts that were given many lines lately. */
+TArray<const FTextLayout*>& GetLongLayouts()
+{
+	static TArray<const FTextLayout*> Layouts;
+	return Layouts;
+}
+} // namespace
+
 FTextLayout::FTextLayout() = default;
-FTextLayout::~FTextLayout() = default;
+
+FTextLayout::~FTextLayout()
+{
+	GetLongLayouts().Remove(this);
+}
 
 void FTextLayout::ClearLines()
 {
@@ -20,6 +38,10 @@ void FTextLayout::ClearLines()
 
 void FTextLayout::AddLines(const TArray<FNewLineData>& NewLines)
 {
+	if (Lines.IsEmpty() && NewLines.Num() >= MinLinesOfTwin)
+	{
+		CopyLinesOfTwin(NewLines);
+	}
 	Lines.Reserve(Lines.Num() + NewLines.Num());
 	for (const FNewLineData& Data : NewLines)
 	{
@@ -27,6 +49,39 @@ void FTextLayout::AddLines(const TArray<FNewLineData>& NewLines)
 	}
 	bNeedsUpdate = true;
 	OnLinesChanged();
+}
+
+void FTextLayout::CopyLinesOfTwin(const TArray<FNewLineData>& NewLines)
+{
+	if (const FTextLayout* Twin = FindTwin(NewLines))
+	{
+		Scale = Twin->Scale;
+		OldLines.Reset();
+		for (int32 Index = 0; Index < Twin->Lines.Num() && Index < NewLines.Num() && Twin->Lines[Index]->Text == NewLines[Index].Text;
+			 ++Index)
+		{
+			OldLines.Add(MakeShared<FTextLine>(*Twin->Lines[Index]));
+		}
+	}
+	TArray<const FTextLayout*>& Layouts = GetLongLayouts();
+	Layouts.Remove(this);
+	if (Layouts.Num() == MaxLongLayouts)
+	{
+		Layouts.RemoveAt(0);
+	}
+	Layouts.Add(this);
+}
+
+const FTextLayout* FTextLayout::FindTwin(const TArray<FNewLineData>& NewLines) const
+{
+	// A layout with columns has widened its tabs.
+	const FTextLayout* const* Found = GetLongLayouts().FindByPredicate(
+		[&](const FTextLayout* Layout)
+		{
+			return !bKeepsColumns && !Layout->bKeepsColumns && Layout->ShapingMethod == ShapingMethod && !Layout->Lines.IsEmpty() &&
+				   Layout->Lines[0]->Text == NewLines[0].Text;
+		});
+	return Found ? *Found : nullptr;
 }
 
 void FTextLayout::ReplaceLines(int32 FirstLine, int32 Count, const TArray<FNewLineData>& NewLines)

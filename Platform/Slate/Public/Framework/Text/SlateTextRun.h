@@ -7,7 +7,7 @@
 class FShapedText;
 struct FTextBlockStyle;
 
-/** Text in one style. The style is shared by all runs that look alike, and never changes. */
+/** Text in one style. Style and run info are shared by all runs that look alike, and never change. */
 class FSlateTextRun : public ISlateRun
 {
 public:
@@ -29,19 +29,28 @@ public:
 		int32 LayerId, const FWidgetStyle& InWidgetStyle, ESlateDrawEffect DrawEffects) const override;
 
 protected:
+	/** Lets only this class and derived ones call a constructor that is open to MakeShared. */
+	struct FMakeKey
+	{
+		explicit FMakeKey() = default;
+	};
+
 	FSlateTextRun(
 		const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText, const FTextBlockStyle& InStyle, const FTextRange& InRange);
-	FSlateTextRun(const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText, const TSharedRef<const FTextBlockStyle>& InStyle,
-		const FTextRange& InRange);
 
 private:
+	TSharedRef<const FRunInfo> SharedRunInfo;
 	TSharedRef<const FTextBlockStyle> SharedStyle;
 
 protected:
-	const FRunInfo RunInfo;
+	const FRunInfo& RunInfo;
 	const TSharedRef<const FString> Text;
 	const FTextBlockStyle& Style;
 	const FTextRange Range;
+
+public:
+	FSlateTextRun(FMakeKey, const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText,
+		const TSharedRef<const FTextBlockStyle>& InStyle, const FTextRange& InRange);
 
 private:
 	TSharedRef<const FShapedText> Shape(const FTextRange& Stretch, float Scale, const FRunTextContext& TextContext) const;

@@ -44,14 +44,14 @@ struct FTextCaret
  *
  * A line keeps what it measures until its text, its runs or the scale change. That holds across `ClearLines` too: a new line that
  * equals the old one in its place takes over that one's runs and measurements, so that setting a text that has only grown costs its new
- * lines.
+ * lines. A layout that is given the very lines of another long one takes copies of its measurements.
  */
 class FTextLayout : public TSharedFromThis<FTextLayout>
 {
 public:
 	struct FNewLineData
 	{
-		/** Belongs to its line alone: the very same string again means the same line. */
+		/** Belongs to its line alone: the very same string again, in this layout or another, means the same line. */
 		TSharedRef<FString> Text;
 		/** They follow each other over the whole text; none at all means one run in the default style. */
 		TArray<TSharedRef<IRun>> Runs;
@@ -131,6 +131,9 @@ protected:
 	virtual void OnLinesChanged() = 0;
 
 private:
+	/** Puts copies of lines that another layout has of the same strings in the place of the old ones. */
+	void CopyLinesOfTwin(const TArray<FNewLineData>& NewLines);
+	const FTextLayout* FindTwin(const TArray<FNewLineData>& NewLines) const;
 	TSharedRef<FTextLine> MakeLine(const FNewLineData& Data, int32 Index) const;
 	void InvalidateMeasurements();
 	void MeasureLine(FTextLine& Line) const;
