@@ -2,139 +2,11 @@
 
 #include "Syntax/CodeBlockMarshaller.h"
 
-#include "Framework/Text/SlateTextRun.h"
 #include "Framework/Text/TextLayout.h"
-#include "Syntax/CodeWhiteSpaceRun.h"
 #include "Syntax/CppSyntaxRules.h"
+#include "Syntax/ParsedCode.h"
 
-#include <cwctype>
-
-namespace
-{
-
-constexpr int32 NumSpacesPerTab = 4;
-
-using FStyleMember = FTextBlockStyle FCodeBlockTextStyle::*;
-
-// What a token's run is called and looks like, and what comes behind it.
-struct FTokenLook
-{
-	FRunInfo RunInfo;
-	FStyleMember Style;
-	ECodeParseState NextState;
-};
-
-struct FMark
-{
-	ECodeParseState State;
-	const TCHAR* Text;
-	FTokenLook Look;
-};
-
-const FRunInfo WhiteSpaceRun(TEXT("CodeBlock.WhiteSpace"));
-const FRunInfo NormalRun(TEXT("CodeBlock.Normal"));
-const FRunInfo StringRun(TEXT("CodeBlock.String"));
-const FRunInfo CommentRun(TEXT("CodeBlock.Comment"));
-
-constexpr FStyleMember StringStyle = &FCodeBlockTextStyle::StringTextStyle;
-constexpr FStyleMember CommentStyle = &FCodeBlockTextStyle::CommentTextStyle;
-
-// A closing quote is called normal and looks like its string.
-const FMark Marks[] = {
-	{ECodeParseState::None, TEXT("\""), {StringRun, StringStyle, ECodeParseState::InString}},
-	{ECodeParseState::None, TEXT("'"), {StringRun, StringStyle, ECodeParseState::InCharacter}},
-	{ECodeParseState::None, TEXT("//"), {CommentRun, CommentStyle, ECodeParseState::InLineComment}},
-	{ECodeParseState::None, TEXT("/*"), {CommentRun, CommentStyle, ECodeParseState::InBlockComment}},
-	{ECodeParseState::InString, TEXT("\""), {NormalRun, StringStyle, ECodeParseState::None}},
-	{ECodeParseState::InCharacter, TEXT("'"), {NormalRun, StringStyle, ECodeParseState::None}},
-	{ECodeParseState::InBlockComment, TEXT("*/"), {CommentRun, CommentStyle, ECodeParseState::None}},
-};
-
-const FTokenLook PreProcessorLook = {
-	FRunInfo(TEXT("CodeBlock.PreProcessorKeyword")), &FCodeBlockTextStyle::PreProcessorKeywordTextStyle, ECodeParseState::None};
-const FTokenLook KeywordLook = {FRunInfo(TEXT("CodeBlock.Keyword")), &FCodeBlockTextStyle::KeywordTextStyle, ECodeParseState::None};
-const FTokenLook OperatorLook = {FRunInfo(TEXT("CodeBlock.Operator")), &FCodeBlockTextStyle::OperatorTextStyle, ECodeParseState::None};
-
-// What no rule matches, and marks that mean nothing where they stand. By state.
-const FTokenLook OtherLooks[] = {
-	{NormalRun, &FCodeBlockTextStyle::NormalTextStyle, ECodeParseState::None},
-	{StringRun, StringStyle, ECodeParseState::InString},
-	{StringRun, StringStyle, ECodeParseState::InCharacter},
-	{CommentRun, CommentStyle, ECodeParseState::InLineComment},
-	{CommentRun, CommentStyle, ECodeParseState::InBlockComment},
-};
-
-const FTokenLook& ClassifySyntax(FStringView TokenText, ECodeParseState State)
-{
-	for (const FMark& Mark : Marks)
-	{
-		if (Mark.State == State && TokenText.Equals(Mark.Text))
-		{
-			return Mark.Look;
-		}
-	}
-	if (State != ECodeParseState::None)
-	{
-		return OtherLooks[static_cast<uint8>(State)];
-	}
-	if (TokenText[0] == TEXT('#'))
-	{
-		return PreProcessorLook;
-	}
-	return std::iswalpha(TokenText[0]) ? KeywordLook : OperatorLook;
-}
-
-const FTokenLook& Classify(FSyntaxTokenizer::ETokenType Type, FStringView TokenText, ECodeParseState State)
-{
-	return Type == FSyntaxTokenizer::ETokenType::Syntax ? ClassifySyntax(TokenText, State) : OtherLooks[static_cast<uint8>(State)];
-}
-
-// Makes the runs of line after line.
-class FCodeLineParser
-{
-public:
-	FCodeLineParser(FStringView InSource, const FCodeBlockTextStyle& InTextStyle)
-		: Source(InSource)
-		, TextStyle(InTextStyle)
-	{
-	}
-
-	FTextLayout::FNewLineData ParseLine(const FSyntaxTokenizer::FTokenizedLine& Line)
-	{
-		const TSharedRef<FString> ModelString = MakeShared<FString>();
-		TArray<TSharedRef<IRun>> Runs;
-		if (State == ECodeParseState::InLineComment)
-		{
-			State = ECodeParseState::None;
-		}
-		for (const FSyntaxTokenizer::FToken& Token : Line.Tokens)
-		{
-			Runs.Add(ParseToken(Token, ModelString));
-		}
-		return {ModelString, MoveTemp(Runs)};
-	}
-
-private:
-	TSharedRef<IRun> ParseToken(const FSyntaxTokenizer::FToken& Token, const TSharedRef<FString>& ModelString)
-	{
-		const FStringView TokenText = Source.Mid(Token.Range.BeginIndex, Token.Range.Len());
-		const FTextRange ModelRange(ModelString->Len(), ModelString->Len() + TokenText.Len());
-		ModelString->Append(TokenText);
-		if (TokenText.TrimEnd().IsEmpty())
-		{
-			return FCodeWhiteSpaceRun::Create(WhiteSpaceRun, ModelString, TextStyle.NormalTextStyle, ModelRange, NumSpacesPerTab);
-		}
-		const FTokenLook& Look = Classify(Token.Type, TokenText, State);
-		State = Look.NextState;
-		return FSlateTextRun::Create(Look.RunInfo, ModelString, TextStyle.*Look.Style, ModelRange);
-	}
-
-	FStringView Source;
-	const FCodeBlockTextStyle& TextStyle;
-	ECodeParseState State = ECodeParseState::None;
-};
-
-TSharedRef<FSyntaxTokenizer> CreateTokenizer()
+static TSharedRef<FSyntaxTokenizer> CreateTokenizer()
 {
 	TArray<FSyntaxTokenizer::FRule> Rules;
 	for (const TArray<FString>* Table : {&CppOperatorRules, &CppKeywordRules, &CppPreProcessorRules})
@@ -147,8 +19,6 @@ TSharedRef<FSyntaxTokenizer> CreateTokenizer()
 	return FSyntaxTokenizer::Create(MoveTemp(Rules));
 }
 
-} // namespace
-
 TSharedRef<FCodeBlockMarshaller> FCodeBlockMarshaller::Create()
 {
 	return MakeShareable(new FCodeBlockMarshaller(CreateTokenizer(), FCodeBlockTextStyle()));
@@ -157,18 +27,13 @@ TSharedRef<FCodeBlockMarshaller> FCodeBlockMarshaller::Create()
 FCodeBlockMarshaller::FCodeBlockMarshaller(const TSharedRef<FSyntaxTokenizer>& InTokenizer, const FCodeBlockTextStyle& InTextStyle)
 	: FSyntaxHighlighterTextLayoutMarshaller(InTokenizer)
 	, TextStyle(InTextStyle)
+	, Code(FParsedCode::Create())
 {
 }
 
 void FCodeBlockMarshaller::ParseTokens(
 	const FString& SourceString, FTextLayout& TargetTextLayout, TArray<FSyntaxTokenizer::FTokenizedLine> TokenizedLines)
 {
-	FCodeLineParser Parser(SourceString, TextStyle);
-	TArray<FTextLayout::FNewLineData> Lines;
-	Lines.Reserve(TokenizedLines.Num());
-	for (const FSyntaxTokenizer::FTokenizedLine& Line : TokenizedLines)
-	{
-		Lines.Add(Parser.ParseLine(Line));
-	}
-	TargetTextLayout.AddLines(Lines);
+	Code->Parse(SourceString, TokenizedLines, TextStyle);
+	TargetTextLayout.AddLines(Code->GetLines());
 }

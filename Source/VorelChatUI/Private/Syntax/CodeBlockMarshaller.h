@@ -6,18 +6,9 @@
 #include "Framework/Text/SyntaxHighlighterTextLayoutMarshaller.h"
 #include "Syntax/CodeBlockTextStyle.h"
 
-// What the text behind a token is part of.
-enum class ECodeParseState : uint8
-{
-	None,
-	InString,
-	InCharacter,
-	InLineComment,
-	InBlockComment
-};
+class FParsedCode;
 
-// Colors code as C++, whatever it is written in. Comments of blocks, strings and character literals that are not closed go on into the next
-// line; there are no escapes.
+// Colors code as C++, whatever it is written in.
 class FCodeBlockMarshaller : public FSyntaxHighlighterTextLayoutMarshaller
 {
 public:
@@ -31,4 +22,5 @@ private:
 	FCodeBlockMarshaller(const TSharedRef<FSyntaxTokenizer>& InTokenizer, const FCodeBlockTextStyle& InTextStyle);
 
 	FCodeBlockTextStyle TextStyle;
+	TSharedRef<FParsedCode> Code;
 };

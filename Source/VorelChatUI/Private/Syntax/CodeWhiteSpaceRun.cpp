@@ -18,7 +18,7 @@ static FVector2D MeasureText(FStringView Text, int32 StartIndex, int32 EndIndex,
 TSharedRef<FCodeWhiteSpaceRun> FCodeWhiteSpaceRun::Create(const FRunInfo& RunInfo, const TSharedRef<const FString>& Text,
 	const FTextBlockStyle& Style, const FTextRange& Range, int32 NumSpacesPerTab)
 {
-	return MakeShareable(new FCodeWhiteSpaceRun(RunInfo, Text, Style, Range, NumSpacesPerTab));
+	return MakeShared<FCodeWhiteSpaceRun>(RunInfo, Text, Style, Range, NumSpacesPerTab);
 }
 
 FCodeWhiteSpaceRun::FCodeWhiteSpaceRun(const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText, const FTextBlockStyle& InStyle,

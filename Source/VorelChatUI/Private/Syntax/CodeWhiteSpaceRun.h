@@ -9,15 +9,15 @@
 class FCodeWhiteSpaceRun : public FSlateTextRun
 {
 public:
+	FCodeWhiteSpaceRun(const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText, const FTextBlockStyle& InStyle,
+		const FTextRange& InRange, int32 InNumSpacesPerTab);
+
 	static TSharedRef<FCodeWhiteSpaceRun> Create(const FRunInfo& RunInfo, const TSharedRef<const FString>& Text,
 		const FTextBlockStyle& Style, const FTextRange& Range, int32 NumSpacesPerTab);
 
 	FVector2D Measure(int32 StartIndex, int32 EndIndex, float Scale, const FRunTextContext& TextContext) const override;
 
 private:
-	FCodeWhiteSpaceRun(const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText, const FTextBlockStyle& InStyle,
-		const FTextRange& InRange, int32 InNumSpacesPerTab);
-
 	int32 NumSpacesPerTab;
 	// At scale 1.
 	float TabWidth;
