@@ -133,6 +133,45 @@ TEST_F(CodeBlockMarshaller, CarriesTheStateAcrossLines)
 	EXPECT_EQ(GetRuns(), "Normal\"x\"") << "nothing is left of the text before";
 }
 
+// A block that streams in is made anew with each piece, and takes over what the one before knew.
+TEST_F(CodeBlockMarshaller, ABlockThatGrowsLooksAsIfMadeAtOnce)
+{
+	FString Code;
+	for (int32 Line = 0; Line < 60; ++Line)
+	{
+		Code += Line % 7 == 0 ? TEXT("\tcall(\"open\n\t/* a \" b // it's\n") : TEXT("for x; */ return 'c'\r\n");
+	}
+	TArray<FString> Codes;
+	for (int32 Length = 0; Length < Code.Len(); Length += 37)
+	{
+		Codes.Add(Code.Left(Length));
+	}
+	Codes.Append(
+		{Code, Code + TEXT("\""), Code.Left(500), TEXT("other\n") + Code, FString(), Code.Replace(TEXT("\r"), TEXT("")), Code, Code});
+
+	const auto Print = [](const FString& Source, TArray<TSharedPtr<void>>& Alive)
+	{
+		const TSharedRef<FSlateTextLayout> NewLayout = FSlateTextLayout::Create(*SNullWidget::NullWidget, FTextBlockStyle::GetDefault());
+		const TSharedRef<FCodeBlockMarshaller> NewMarshaller = FCodeBlockMarshaller::Create();
+		NewMarshaller->SetText(Source, *NewLayout);
+		NewLayout->SetScale(1.5f);
+		NewLayout->UpdateIfNeeded();
+		Alive = {NewLayout, NewMarshaller};
+		return NewLayout->ToDebugString();
+	};
+	TArray<FString> Expected;
+	for (const FString& Source : Codes)
+	{
+		TArray<TSharedPtr<void>> Alone;
+		Expected.Add(Print(Source, Alone));
+	}
+	TArray<TSharedPtr<void>> Before;
+	for (int32 Index = 0; Index < Codes.Num(); ++Index)
+	{
+		EXPECT_TEXT(Print(Codes[Index], Before), Expected[Index]) << Index;
+	}
+}
+
 TEST_F(CodeBlockMarshaller, ATabIsFourSpacesWide)
 {
 	Show(FString("\tx\n    x\n \t \t x\n           x"));

@@ -165,7 +165,7 @@ TEST(CodeSamples, HostileCodeIsShownAndCopiedWhole)
 		Megabyte += Line;
 	}
 	const FString Codes[] = {Megabyte, Megabyte.Left(100'000).Replace(TEXT("\n"), TEXT(" ")), FString::ChrN(100'000, TEXT('x')),
-		FString::ChrN(100'000, TEXT('"')), FString::ChrN(100'000, TEXT('\t')), FString::ChrN(20'000, TEXT('\n')), MakeRubbish(20'000),
+		FString::ChrN(100'000, TEXT('"')), FString::ChrN(100'000, TEXT('\t')), FString::ChrN(20'000, TEXT('\n')), MakeRubbish(3'000),
 		TEXT("/* never closed \n\n \"'"),
 		TEXT("\u05d0\u05d1 for \u0645\u0631\u062d\u0628\u0627\t\u05d0 // e\u0301 \U0001F468\u200D\U0001F469")};
 	for (const FString& Code : Codes)
