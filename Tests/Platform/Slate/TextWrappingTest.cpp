@@ -164,6 +164,19 @@ TEST_F(FLabels, WrapsWithinTheFrameInWhichItLearnsItsWidth)
 	EXPECT_EQ(FTextScreen(*Window->GetDisplayList(), FLinearColor::Red, Row).ToString(), FString(TEXT("one two three\nbelow")));
 }
 
+TEST_F(FLabels, CountsTheBlanksAtItsEndsUnlessItIsWrapped)
+{
+	const auto WidthOf = [this](const TCHAR* Shown, float WrapAt)
+	{
+		const TSharedRef<STextBlock> Label = SNew(STextBlock).TextStyle(&Style).Text(FText::FromString(Shown)).WrapTextAt(WrapAt);
+		Show(Label, 400.0f);
+		return Label->GetDesiredSize().X;
+	};
+	EXPECT_EQ(WidthOf(TEXT(" and  "), 0.0f), 6 * Letter);
+	EXPECT_EQ(WidthOf(TEXT("\u05D0\u05D1 "), 0.0f), 3 * Letter);
+	EXPECT_EQ(WidthOf(TEXT(" and  "), 200.0f), 4 * Letter);
+}
+
 TEST_F(FLabels, WrapsAtTheLesserOfTwoWidths)
 {
 	const auto RowsAt = [this](float Width)

@@ -5,6 +5,8 @@
 #include "Containers/StringView.h"
 #include "TextBoundaries.h"
 
+#include <cmath>
+
 namespace
 {
 /** Sums of advances differ a little from the width that was asked for because of them. */
@@ -30,7 +32,8 @@ public:
 		{
 			AddUnit(Measured.Units[UnitIndex]);
 		}
-		FinishLine(Text.Len(), UnitIndex, VisibleWidth);
+		// What is never wrapped has no edge that blanks could hang over: a label parts itself from its neighbour by them.
+		FinishLine(Text.Len(), UnitIndex, std::isinf(MaxWidth) ? X : VisibleWidth);
 		return MoveTemp(Lines);
 	}
 

@@ -16,7 +16,7 @@ struct FWrappedLine
 	int32 EndUnit = 0;
 	/** Where its text begins: more than 0 where it goes on in a column of the line. */
 	float Indent = 0.0f;
-	/** With the indent, but without the blanks at its end, which hang over the edge. */
+	/** With the indent; where text is wrapped without the blanks at its end, which hang over the edge. */
 	float Width = 0.0f;
 	/** From the top of the model line. */
 	int32 Top = 0;
