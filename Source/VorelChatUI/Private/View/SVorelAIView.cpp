@@ -2,13 +2,13 @@
 
 #include "View/SVorelAIView.h"
 
+#include "Authentication/SLoginPanel.h"
 #include "AuthenticationService.h"
 #include "Chat/SChatPanel.h"
 #include "ChatService.h"
 #include "LogVorel.h"
 #include "UserDataService.h"
 #include "VorelUpdateService.h"
-#include "Widgets/SNullWidget.h"
 #include "Widgets/SOverlay.h"
 
 // clang-format off
@@ -19,20 +19,24 @@ void SVorelAIView::Construct(const FArguments& InArgs)
 	UserDataService = InArgs._UserDataService;
 	UpdateService = InArgs._UpdateService;
 
+	// The login panel first; the slots of one expression may be built in any order.
+	SAssignNew(LoginPanel, SLoginPanel)
+		.AuthService(AuthService);
+	SAssignNew(ChatPanel, SChatPanel)
+		.ChatService(ChatService)
+		.AuthService(AuthService)
+		.UserDataService(UserDataService)
+		.UpdateService(UpdateService);
 	ChildSlot
 	[
 		SNew(SOverlay)
 		+ SOverlay::Slot()
 		[
-			SNullWidget::NullWidget
+			LoginPanel.ToSharedRef()
 		]
 		+ SOverlay::Slot()
 		[
-			SAssignNew(ChatPanel, SChatPanel)
-			.ChatService(ChatService)
-			.AuthService(AuthService)
-			.UserDataService(UserDataService)
-			.UpdateService(UpdateService)
+			ChatPanel.ToSharedRef()
 		]
 	];
 
@@ -54,10 +58,12 @@ void SVorelAIView::UpdateViewState()
 	{
 		UE_LOG(LogVorel, Log, TEXT("Updating view state: UserDataService is valid"));
 		UserDataService->GetUserData();
+		LoginPanel->SetVisibility(EVisibility::Collapsed);
 		ChatPanel->SetVisibility(EVisibility::Visible);
 	}
 	else
 	{
+		LoginPanel->SetVisibility(EVisibility::Visible);
 		ChatPanel->SetVisibility(EVisibility::Collapsed);
 	}
 }

@@ -7,12 +7,14 @@
 #include "Widgets/SCompoundWidget.h"
 
 class SChatPanel;
+class SLoginPanel;
 class UAuthenticationService;
 class UChatService;
 class UUserDataService;
 class UVorelUpdateService;
 
-// The content of the tab. Shows the chat panel while the user is signed in; the panel is built in any case and keeps its state meanwhile.
+// The content of the tab: the chat for a signed-in user, the login for a signed-out one. Both are built at once and never again, so that
+// each keeps its state while the other is shown.
 class SVorelAIView : public SCompoundWidget
 {
 public:
@@ -32,5 +34,6 @@ private:
 	TObjectPtr<UChatService> ChatService;
 	TObjectPtr<UUserDataService> UserDataService;
 	TObjectPtr<UVorelUpdateService> UpdateService;
+	TSharedPtr<SLoginPanel> LoginPanel;
 	TSharedPtr<SChatPanel> ChatPanel;
 };
