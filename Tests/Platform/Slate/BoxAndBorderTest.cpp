@@ -60,32 +60,6 @@ TEST(Box, ALimitIsOfTheWishAndNotOfTheRoom)
 	EXPECT_EQ(SizeOf(*Narrow), FVector2D(500.0, 100.0));
 }
 
-TEST(Box, PlacesItsContent)
-{
-	const TSharedRef<STextBlock> Text = SNew(STextBlock).Text(FText::FromString(TEXT("Hello")));
-	// clang-format off
-	FUserDriver User(
-		SNew(SBox).HAlign(HAlign_Center).VAlign(VAlign_Bottom).Padding(FMargin(0.0f, 0.0f, 5.0f, 5.0f))[Text],
-		FVector2D(105.0, 100.0), 1.0f, EDriverFonts::Even);
-	// clang-format on
-	EXPECT_EQ(Text->GetCachedGeometry().GetAbsolutePosition(), FVector2D(30.0, 79.0));
-}
-
-TEST(Box, ABoundLimitFollowsItsGetter)
-{
-	float Width = 100.0f;
-	const TSharedRef<SBox> Bound = SNew(SBox).MinDesiredWidth_Lambda([&Width] { return FOptionalSize(Width); });
-	// clang-format off
-	FUserDriver User(
-		SNew(SOverlay) + SOverlay::Slot().HAlign(HAlign_Left)[Bound],
-		FVector2D(1000.0, 100.0), 1.0f, EDriverFonts::Even);
-	// clang-format on
-	EXPECT_EQ(SizeOf(*Bound).X, 100.0);
-	Width = 150.0f;
-	User.AdvanceTime(0.0f);
-	EXPECT_EQ(SizeOf(*Bound).X, 150.0);
-}
-
 TEST(Border, DrawsItsBrushBehindItsContent)
 {
 	const FSlateColorBrush Red(FLinearColor::Red);

@@ -68,8 +68,8 @@ void FControlStyle::SetScrollBar()
 	};
 	FScrollBarStyle ScrollBar;
 	ScrollBar.SetVerticalBackgroundImage(FSlateNoResource())
-		.SetNormalThumbImage(MakeThumb(EditorTheme::AccentGray))
-		.SetHoveredThumbImage(MakeThumb(EditorTheme::Hover2))
+		.SetNormalThumbImage(MakeThumb(EditorTheme::Hover2))
+		.SetHoveredThumbImage(MakeThumb(EditorTheme::ThumbHover))
 		.SetDraggedThumbImage(MakeThumb(EditorTheme::Foreground))
 		.SetThickness(8.0f);
 	Set(TEXT("ScrollBar"), ScrollBar);

@@ -27,6 +27,7 @@ inline constexpr uint32 PrimaryPress = 0x2F6BDB;
 inline constexpr uint32 Secondary = 0x363B45;
 inline constexpr uint32 Hover = 0x454B57;
 inline constexpr uint32 Hover2 = 0x4F5564;
+inline constexpr uint32 ThumbHover = 0x767D8C;
 
 /** Behind selected text. */
 inline constexpr uint32 Selection = 0x264F8C;

@@ -6,7 +6,7 @@
 
 namespace
 {
-/** Between the anchor and the popup, in units. */
+/** Between the anchor and the popup, and at least to the window's edge above and below, in units. */
 constexpr float Gap = 2.0f;
 
 struct FStretch
@@ -18,8 +18,8 @@ struct FStretch
 /** Below the anchor; above it where there is not enough room below and more above. */
 FStretch PlaceVertically(const FSlateRect& Anchor, float Wish, float WindowHeight)
 {
-	const float RoomBelow = FMath::Max(0.0f, WindowHeight - Anchor.Bottom - Gap);
-	const float RoomAbove = FMath::Max(0.0f, Anchor.Top - Gap);
+	const float RoomBelow = FMath::Max(0.0f, WindowHeight - Anchor.Bottom - 2.0f * Gap);
+	const float RoomAbove = FMath::Max(0.0f, Anchor.Top - 2.0f * Gap);
 	if (Wish <= RoomBelow || RoomBelow >= RoomAbove)
 	{
 		return {Anchor.Bottom + Gap, FMath::Min(Wish, RoomBelow)};

@@ -232,11 +232,16 @@ FVector2D SComboList::ComputeDesiredSize(float) const
 void SComboList::OnArranged(const FGeometry& AllottedGeometry)
 {
 	const float FormerThickness = Bar.GetThickness();
+	const double FormerViewLength = Bar.GetViewLength();
 	for (int32 Slot = 0; Slot < Rows.Num(); ++Slot)
 	{
 		Measure(GetRow(Slot));
 	}
 	Bar.SetLengths(NumOptions * GetRowHeight(), AllottedGeometry.GetLocalSize().Y);
+	if (Bar.GetViewLength() < FormerViewLength && Highlighted != INDEX_NONE)
+	{
+		ScrollIntoView(Highlighted);
+	}
 	MakeRowsInView();
 	if (Bar.GetThickness() != FormerThickness)
 	{

@@ -70,6 +70,7 @@ private:
 	/** INDEX_NONE highlights none. */
 	void Highlight(int32 Index);
 	void HighlightByKey(int32 Index);
+	void HighlightUnderMouse(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent);
 	void Choose(int32 Index, ESelectInfo::Type SelectInfo);
 
 	/** The options may have changed without a word. */

@@ -108,16 +108,25 @@ FReply SComboList::OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent&
 	{
 		MakeRowsInView();
 	}
-	else if (const int32 Row = FindRowAt(MyGeometry, MouseEvent); Row != INDEX_NONE)
+	else
 	{
-		Highlight(Row);
+		HighlightUnderMouse(MyGeometry, MouseEvent);
 	}
 	return FReply::Handled();
 }
 
-FReply SComboList::OnMouseWheel(const FGeometry&, const FPointerEvent& MouseEvent)
+void SComboList::HighlightUnderMouse(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+{
+	if (const int32 Row = FindRowAt(MyGeometry, MouseEvent); Row != INDEX_NONE)
+	{
+		Highlight(Row);
+	}
+}
+
+FReply SComboList::OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
 	ScrollTo(Bar.GetOffset() - MouseEvent.GetWheelDelta() * WheelNotchLength);
+	HighlightUnderMouse(MyGeometry, MouseEvent);
 	return FReply::Handled();
 }
 
