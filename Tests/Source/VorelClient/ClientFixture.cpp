@@ -84,7 +84,7 @@ UHttpChatService& FChatClientTest::Service()
 void FChatClientTest::RecordMessage(TObjectPtr<UMessage> Message)
 {
 	FString Text = Message->Contents[0]->Text;
-	const bool bInterrupted = Text.RemoveFromEnd(GetAnswerNote(EAnswerEnd::Failed));
+	const bool bInterrupted = Text.RemoveFromEnd(TEXT("\n\n*The answer was interrupted here.*"));
 	const TCHAR* const Kind = Message->Role == EChatRole::User ? TEXT("user") : bInterrupted ? TEXT("interrupted") : TEXT("answer");
 	Record(FString::Printf(TEXT("%s(%s)"), Kind, *Text));
 }

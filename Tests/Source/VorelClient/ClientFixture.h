@@ -5,7 +5,6 @@
 #include "ScriptedServer.h"
 
 #include "Chat/HttpChatService.h"
-#include "Chat/AnswerNote.h"
 #include "Support/LogCapture.h"
 #include "Support/Printers.h"
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 
 #include "ClientFixture.h"
 
+#include "Chat/AnswerNote.h"
 #include "Chat/ConversationTitle.h"
 
 using FConversationTest = FChatClientTest;
@@ -160,6 +161,28 @@ TEST_F(FConversationTest, SurvivesTheCollectorDuringAnAnswer)
 	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
 	CollectGarbage();
 	EXPECT_EQ(Service().GetCurrentConversation()->Messages.Last()->Contents[0]->Text, TEXT("Half"));
+}
+
+TEST(FAnswerNoteTest, ClosesTheBlockOfCodeInWhichTheAnswerEnds)
+{
+	const FString Note = TEXT("\n\n*The answer was interrupted here.*");
+	const std::pair<FString, FString> Rows[] = {
+		{TEXT("words"), TEXT("")},
+		{TEXT("```cpp\nint A;"), TEXT("\n```")},
+		{TEXT("~~~~\n~~~\n```\n"), TEXT("~~~~")},
+		{TEXT("```\na\n````  \nmore"), TEXT("")},
+		{TEXT("```\na\n```cpp\nmore"), TEXT("\n```")},
+		{TEXT("- one\n- ```\n  a"), TEXT("\n  ```")},
+		{TEXT("12. ```\n    a\n    ```"), TEXT("")},
+		{TEXT("```in a line```\nwords"), TEXT("")},
+		{TEXT("a ``` b\n- `` c"), TEXT("")},
+		{TEXT("> ```\n> a"), TEXT("")},
+	};
+	for (const auto& [Answer, Closing] : Rows)
+	{
+		EXPECT_EQ(MakeAnswerNote(Answer, EAnswerEnd::Failed), Closing + Note) << Answer;
+	}
+	EXPECT_EQ(MakeAnswerNote(TEXT("```"), EAnswerEnd::Complete), TEXT(""));
 }
 
 TEST(FConversationTitleTest, IsOneLineOfTheFirstMessage)

@@ -9,13 +9,14 @@ FAnswerStream::FAnswerStream(FAssistantEndpoint& Endpoint, const FRequestLimits&
 {
 	Call.OnText = [this](const FString& Text)
 	{
+		Answer += Text;
 		Waiting += Text;
 		AskForFrame();
 	};
 	Call.OnEnded = [this](const FAnswerEnd& InEnd)
 	{
 		// An interrupted answer is shown anew, with its note.
-		Waiting += InEnd.Kind == EAnswerEnd::Failed ? FString() : GetAnswerNote(InEnd.Kind);
+		Waiting += InEnd.Kind == EAnswerEnd::Failed ? FString() : MakeAnswerNote(Answer, InEnd.Kind);
 		End = InEnd;
 		AskForFrame();
 	};
@@ -31,11 +32,10 @@ void FAnswerStream::Start(const TArray<FChatMessage>& Messages)
 	Call.Start(Messages);
 }
 
-FString FAnswerStream::Cancel()
+void FAnswerStream::Cancel()
 {
 	bCancelled = true;
 	FTSTicker::RemoveTicker(Frame);
-	return ::MoveTemp(Waiting);
 }
 
 void FAnswerStream::AskForFrame()

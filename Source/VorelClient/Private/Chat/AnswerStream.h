@@ -19,14 +19,18 @@ public:
 
 	void Start(const TArray<FChatMessage>& Messages);
 
-	// Nothing fires from now on; the server is hung up on when the stream goes. Returns what had arrived and was not handed over.
-	FString Cancel();
+	// Nothing fires from now on; the server is hung up on when the stream goes.
+	void Cancel();
+
+	// All that has arrived, handed over or not, without a note.
+	const FString& GetAnswer() const { return Answer; }
 
 private:
 	void AskForFrame();
 	bool HandleFrame(float DeltaTime);
 
 	FAnswerCall Call;
+	FString Answer;
 	FString Waiting;
 	TOptional<FAnswerEnd> End;
 	FTSTicker::FDelegateHandle Frame;

@@ -3,7 +3,6 @@
 #include "Chat/HttpChatService.h"
 
 #include "Assistant/FailureText.h"
-#include "Chat/AnswerNote.h"
 #include "Chat/ChatModes.h"
 #include "Chat/StoredMessage.h"
 #include "LogVorel.h"
@@ -34,7 +33,6 @@ void UHttpChatService::Shutdown()
 {
 	if (Request && !Request->bEnding && IsValid(Request->Conversation))
 	{
-		Request->Answer += Request->Stream ? Request->Stream->Cancel() : FString();
 		StoreAnswer(EAnswerEnd::Failed);
 	}
 	Request.Reset();
@@ -190,7 +188,6 @@ void UHttpChatService::StartAnswer()
 
 void UHttpChatService::HandleText(const FString& Text)
 {
-	Request->Answer += Text;
 	if (!Request->Growth.IsValid())
 	{
 		Request->Growth = FTSTicker::GetCoreTicker().AddTicker(
@@ -202,20 +199,18 @@ void UHttpChatService::HandleText(const FString& Text)
 bool UHttpChatService::StoreGrowth(float DeltaTime)
 {
 	Request->Growth.Reset();
-	Conversations.StoreGrowth(*Request->Conversation, Request->Answer, Request->Row);
+	Conversations.StoreGrowth(*Request->Conversation, Request->Stream->GetAnswer(), Request->Row);
 	return false;
 }
 
 // Null where nothing had arrived.
 UStoredMessage* UHttpChatService::StoreAnswer(EAnswerEnd End)
 {
-	if (Request->Answer.IsEmpty())
+	if (!Request->Stream || Request->Stream->GetAnswer().IsEmpty())
 	{
 		return nullptr;
 	}
-	FMessageRecord Record{EChatRole::Assistant, Request->Answer, End};
-	Record.Text.RemoveFromEnd(GetAnswerNote(End), ESearchCase::CaseSensitive);
-	UStoredMessage* const Answer = UStoredMessage::Make(Record);
+	UStoredMessage* const Answer = UStoredMessage::Make({EChatRole::Assistant, Request->Stream->GetAnswer(), End});
 	Conversations.Append(*Request->Conversation, Answer, Request->Row);
 	return Answer;
 }
@@ -257,7 +252,7 @@ void UHttpChatService::CancelRequest(const FText& Reason)
 	}
 	if (Request->Stream)
 	{
-		Request->Answer += Request->Stream->Cancel();
+		Request->Stream->Cancel();
 	}
 	EndRequest({EAnswerEnd::Failed, Reason});
 }

@@ -54,8 +54,6 @@ private:
 		~FRequest() { FTSTicker::RemoveTicker(Growth); }
 
 		TObjectPtr<UStoredConversation> Conversation;
-		// What was handed over so far.
-		FString Answer;
 		TSharedPtr<FAnswerStream> Stream;
 		// Where the answer is stored as it grows, and the ticker that will do so next.
 		FMessageRow Row;

@@ -10,14 +10,14 @@ UStoredMessage* UStoredMessage::Make(const FMessageRecord& Record)
 	UMessageContent* const Content = NewObject<UMessageContent>(Message);
 	Message->Role = Record.Role;
 	Message->End = Record.End.Get(EAnswerEnd::Complete);
-	Content->Text = Record.Text + GetAnswerNote(Message->End);
+	const FString Note = MakeAnswerNote(Record.Text, Message->End);
+	Message->NoteLength = Note.Len();
+	Content->Text = Record.Text + Note;
 	Message->Contents.Add(Content);
 	return Message;
 }
 
 FMessageRecord UStoredMessage::GetRecord() const
 {
-	FMessageRecord Record{Role, Contents[0]->Text, End};
-	Record.Text.RemoveFromEnd(GetAnswerNote(End), ESearchCase::CaseSensitive);
-	return Record;
+	return {Role, Contents[0]->Text.LeftChop(NoteLength), End};
 }

@@ -15,4 +15,5 @@ public:
 
 private:
 	EAnswerEnd End = EAnswerEnd::Complete;
+	int32 NoteLength = 0;
 };

@@ -141,7 +141,7 @@ std::string ConversationFile::ToMarkdown(const FWholeConversation& Whole)
 						   FormatTime(Conversation.Created) + "\n";
 	for (const FMessageRecord& Message : Whole.Messages)
 	{
-		const FString Text = Message.Text + GetAnswerNote(Message.End.Get(EAnswerEnd::Failed));
+		const FString Text = Message.Text + MakeAnswerNote(Message.Text, Message.End.Get(EAnswerEnd::Failed));
 		Markdown += std::string("\n## ") + GetRoleName(Message.Role).InHeading + "\n\n" + ToUtf8(Text) + "\n";
 	}
 	return Markdown;
