@@ -102,6 +102,8 @@ TEST(SyntaxTokenizer, EqualListsShareOneAndOthersDoNot)
 	{
 		EXPECT_TEXT(Tokenize(*MakeTokenizer({Other}), TEXT("for")), TEXT("(for)"));
 	}
-	EXPECT_TEXT(Tokenize(*MakeTokenizer({TEXT("for"), TEXT("if")}), TEXT("for if")), TEXT("[for]( )[if]"));
+	const TSharedRef<FSyntaxTokenizer> Again = MakeTokenizer({TEXT("for"), TEXT("if")});
+	EXPECT_FALSE(Again == First) << "lists that were not asked for lately are not kept";
+	EXPECT_TEXT(Tokenize(*Again, TEXT("for if")), TEXT("[for]( )[if]"));
 	EXPECT_TEXT(Tokenize(*First, TEXT("For if")), TEXT("(For)( )[if]"));
 }

@@ -57,8 +57,11 @@ TEST(ChatItem, EveryChangeRendersTheWholeText)
 	EXPECT_EQ(ReadTexts(Item), "Vorel | a *b");
 	Item->AddMessageContent(TEXT("* <c> &amp;"));
 	EXPECT_EQ(ReadTexts(Item), "Vorel | a b <c> &");
+	Item->UpdateMessageContent(TEXT("```\nx\n```"));
+	const TWeakPtr<SWidget> Block = FindOne(Item, TEXT("SSCodeWidget"));
 	Item->AddMessageContent(TEXT(""));
-	EXPECT_EQ(ReadTexts(Item), "Vorel | a b <c> &");
+	EXPECT_EQ(FindAll(Item, TEXT("SSCodeWidget")).size(), 1u);
+	EXPECT_FALSE(Block.IsValid()) << "an empty addition renders anew too";
 	Item->UpdateMessageContent(TEXT("**new**"));
 	Item->AddMessageContent(TEXT("er"));
 	EXPECT_EQ(ReadTexts(Item), "Vorel | newer");

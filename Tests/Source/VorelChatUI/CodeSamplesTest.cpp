@@ -8,6 +8,7 @@
 #include "Syntax/CodeBlockMarshaller.h"
 #include "Syntax/CppSyntaxRules.h"
 #include "VorelLog.h"
+#include "Widgets.h"
 #include "Widgets/SNullWidget.h"
 #include <gtest/gtest.h>
 #include <set>
@@ -137,6 +138,25 @@ FString MakeRubbish(int32 Length)
 
 } // namespace
 
+TEST(CodeSamples, TheRulesStandInTheirOrderWithTheirRepeats)
+{
+	EXPECT_EQ(CppOperatorRules.Num(), 53);
+	EXPECT_EQ(CppKeywordRules.Num(), 86);
+	EXPECT_EQ(CppPreProcessorRules.Num(), 9);
+	const std::pair<int32, const char*> Operators[] = {
+		{0, "/*"}, {12, "-"}, {18, "->"}, {23, "&"}, {26, "->"}, {31, "<<="}, {40, "&&"}, {41, "&"}, {52, ";"}};
+	for (const auto& [Index, Text] : Operators)
+	{
+		EXPECT_EQ(ToUtf8(CppOperatorRules[Index]), Text) << Index;
+	}
+	const std::pair<int32, const char*> Keywords[] = {
+		{0, "alignas"}, {19, "constexpr"}, {20, "const_cast"}, {57, "requires"}, {84, "xor"}, {85, "xor_eq"}};
+	for (const auto& [Index, Text] : Keywords)
+	{
+		EXPECT_EQ(ToUtf8(CppKeywordRules[Index]), Text) << Index;
+	}
+}
+
 TEST(CodeSamples, EveryFileIsCutAndColoredWithoutLosingAnything)
 {
 	FUserDriver User(SNullWidget::NullWidget, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
@@ -170,7 +190,10 @@ TEST(CodeSamples, HostileCodeIsShownAndCopiedWhole)
 		TEXT("\u05d0\u05d1 for \u0645\u0631\u062d\u0628\u0627\t\u05d0 // e\u0301 \U0001F468\u200D\U0001F469")};
 	for (const FString& Code : Codes)
 	{
-		FUserDriver User(SNew(SCodeWidget).Text(FText::FromString(Code)), FVector2D(700.0, 400.0));
+		const TSharedRef<SWidget> Widget = SNew(SCodeWidget).Text(FText::FromString(Code));
+		FUserDriver User(Widget, FVector2D(700.0, 400.0));
+		const FString Shown = FindOne(Widget, TEXT("SMultiLineEditableText"))->GetShownText();
+		EXPECT_TRUE(Shown.Equals(Code.Replace(TEXT("\r\n"), TEXT("\n")))) << Code.Left(40);
 		User.Click(TEXT("Copy"));
 		EXPECT_TRUE(User.GetClipboard().Equals(Code)) << Code.Left(40);
 	}

@@ -3,9 +3,12 @@
 #include "Chat/ChatItemWidgets/SMarkdownTextbox.h"
 #include "Decorators/CodeBlockDecorator.h"
 #include "Framework/Text/SlateTextLayout.h"
+#include "Framework/Application/SlateApplication.h"
 #include "Styling/SlateTypes.h"
+#include "Styling/StyleSheets/VorelAIStyle.h"
 #include "Support/UserDriver.h"
 #include "Widgets.h"
+#include "Widgets/Layout/SBorder.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/Text/SMultiLineEditableText.h"
 #include <QImage>
@@ -31,11 +34,7 @@ protected:
 
 	TSharedRef<SWidget> GetBlock() const { return FindOne(Message, TEXT("SSCodeWidget")); }
 
-	std::string GetCode() const
-	{
-		return ToUtf8(
-			StaticCastSharedRef<SMultiLineEditableText>(FindOne(GetBlock(), TEXT("SMultiLineEditableText")))->GetText().ToString());
-	}
+	std::string GetCode() const { return ToUtf8(FindOne(GetBlock(), TEXT("SMultiLineEditableText"))->GetShownText()); }
 
 	std::string CopyByButton()
 	{
@@ -165,6 +164,32 @@ TEST_F(CodeWidget, IsOneInvisibleCharacterOfItsMessage)
 	EXPECT_EQ(ToUtf8(User.GetClipboard()), "a \xE2\x80\x8B b");
 	User.Type(TEXT("typed"));
 	EXPECT_EQ(ReadTexts(GetView()).find("typed"), std::string::npos);
+}
+
+TEST_F(CodeWidget, ItsCodeIsSelectedLikeAnyTextAndCannotBeChanged)
+{
+	Show(TEXT("<code>int a;__NL__\"b\"</>"));
+	const TSharedRef<SBorder> Box = StaticCastSharedRef<SBorder>(FindOne(GetBlock(), TEXT("SBorder")));
+	EXPECT_EQ(Box->GetBorderImage(), FVorelAIStyle::Get().GetBrush("VorelAI.Background.Dark"));
+	User.ClickAt(PlaceOf(FindOne(GetBlock(), TEXT("SMultiLineEditableText"))).TopLeft + FVector2D(5.0, 5.0));
+	User.Press(TEXT("Ctrl+A"));
+	User.Press(TEXT("Ctrl+C"));
+	EXPECT_EQ(ToUtf8(User.GetClipboard()), "int a;\n\"b\"");
+	User.Type(TEXT("typed"));
+	EXPECT_EQ(GetCode(), "int a;\n\"b\"");
+}
+
+TEST_F(CodeWidget, ASelectionInTheMessageOutlivesTheFocus)
+{
+	Show(TEXT("kept <code>x</>"));
+	User.ClickAt(FVector2D(6.0, PlaceOf(GetBlock()).Size.Y));
+	User.Press(TEXT("Ctrl+A"));
+	const TSharedRef<SWidget> View = GetView();
+	FSlateApplication::Get().SetKeyboardFocus(nullptr, EFocusCause::SetDirectly);
+	FSlateApplication::Get().SetKeyboardFocus(View, EFocusCause::SetDirectly);
+	User.SetClipboard(TEXT("before"));
+	User.Press(TEXT("Ctrl+C"));
+	EXPECT_EQ(ToUtf8(User.GetClipboard()), "kept \xE2\x80\x8B");
 }
 
 TEST_F(CodeWidget, IsMadeByTheDecoratorWithWhatTheMarkupSaid)

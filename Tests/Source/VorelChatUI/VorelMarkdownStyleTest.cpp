@@ -1,6 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Decorators/CodeBlockStyle.h"
 #include "VorelLog.h"
 #include "Styling/AppStyle.h"
 #include "Styling/CoreStyle.h"
@@ -72,6 +71,14 @@ TEST(VorelMarkdownStyle, HeadersScaleTheBaseSize)
 		EXPECT_TRUE(Header.ColorAndOpacity == FSlateColor::UseForeground()) << Level;
 	}
 	EXPECT_TRUE(Find("Header") == Find("Header1"));
+	EXPECT_TRUE(Find("Emphasis").Font == Font("Italic", 10.0f));
+	EXPECT_TRUE(Find("Strong").Font == Font("Bold", 10.0f));
+	EXPECT_TRUE(Find("AutoLink") == Find("Paragraph.Link"));
+	EXPECT_TRUE(Find("Link") == Find("AutoLink"));
+	for (const char* Plain : {"OrderedList", "UnorderedList", "Table", "HorizontalRule", "ListItem", "Text"})
+	{
+		EXPECT_TRUE(Find(Plain) == Find("Paragraph")) << Plain;
+	}
 }
 
 TEST(VorelMarkdownStyle, TheLastFontWinsWhileColorsAndBrushesStay)
