@@ -8,12 +8,13 @@ namespace
 {
 constexpr float SecondsToForget = 1.0f;
 /** A row takes some microseconds to build. */
-constexpr int32 MostReadsPerFrame = 256;
+constexpr int32 MostReadsPerFrame = 512;
 } // namespace
 
 void FPrefixSearch::Type(TCHAR Character, int32 Highlighted, int32 InNumOptions)
 {
 	Prefix += Character;
+	Sought = Prefix;
 	FTSTicker::RemoveTicker(ForgetHandle);
 	ForgetHandle = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateSP(this, &FPrefixSearch::ForgetPrefix), SecondsToForget);
 
@@ -48,7 +49,7 @@ bool FPrefixSearch::Continue(float)
 		const int32 Index = Next % NumOptions;
 		Next = Index + 1;
 		--NumLeft;
-		if (GetText(Index).StartsWith(Prefix))
+		if (GetText(Index).StartsWith(Sought))
 		{
 			NumLeft = 0;
 			OnFound.ExecuteIfBound(Index);

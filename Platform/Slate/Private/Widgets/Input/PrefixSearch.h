@@ -35,6 +35,8 @@ private:
 	FReadOption ReadOption;
 	FOnFound OnFound;
 	FString Prefix;
+	/** What is looked for, which may take longer than a second. */
+	FString Sought;
 	FDelegateHandle ForgetHandle;
 
 	/** What was read so far, by option. */

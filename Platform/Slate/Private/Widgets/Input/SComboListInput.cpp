@@ -5,9 +5,6 @@
 
 namespace
 {
-/** In units. */
-constexpr double WheelNotchLength = 48.0;
-
 bool HasCommandModifier(const FInputEvent& Event)
 {
 	return Event.IsControlDown() || Event.IsAltDown() || Event.IsCommandDown();
@@ -125,7 +122,7 @@ void SComboList::HighlightUnderMouse(const FGeometry& MyGeometry, const FPointer
 
 FReply SComboList::OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
-	ScrollTo(Bar.GetOffset() - MouseEvent.GetWheelDelta() * WheelNotchLength);
+	ScrollTo(Bar.GetOffset() - MouseEvent.GetWheelDelta() * FScrollBar::WheelNotchLength);
 	HighlightUnderMouse(MyGeometry, MouseEvent);
 	return FReply::Handled();
 }

@@ -6,15 +6,13 @@
 
 namespace
 {
-/** In units. */
-constexpr double WheelNotchLength = 48.0;
-/** A page leaves this much of the former one in view. */
+/** A page leaves this much of the former one in view, in units. */
 constexpr double PageOverlap = 32.0;
 } // namespace
 
 FReply SScrollBox::OnMouseWheel(const FGeometry&, const FPointerEvent& MouseEvent)
 {
-	return ScrollByUser(Bar->GetOffset() - MouseEvent.GetWheelDelta() * WheelNotchLength);
+	return ScrollByUser(Bar->GetOffset() - MouseEvent.GetWheelDelta() * FScrollBar::WheelNotchLength);
 }
 
 FReply SScrollBox::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)

@@ -12,6 +12,9 @@
 class FScrollBar
 {
 public:
+	/** How far one notch of the wheel scrolls. */
+	static constexpr double WheelNotchLength = 48.0;
+
 	FScrollBar(SWidget& InOwner, const FScrollBarStyle& InStyle)
 		: Owner(InOwner)
 		, Style(InStyle)
