@@ -149,8 +149,9 @@ private:
 	float Scale;
 	ETextShapingMethod Method;
 	FMeasuredText& Result;
-	TArray<TextBoundaries::FLevelRun> Levels;
-	TArray<int32> Breaks;
+	/** Kept from line to line for their memory. */
+	static inline thread_local TArray<TextBoundaries::FLevelRun> Levels;
+	static inline thread_local TArray<int32> Breaks;
 	int32 RunIndex = 0;
 	int32 LevelIndex = 0;
 	int32 BreakIndex = 0;

@@ -10,6 +10,8 @@
 #include "Styling/SlateTypes.h"
 #include "Styling/WidgetStyle.h"
 
+#include <memory_resource>
+
 namespace
 {
 constexpr int32 SpacesPerTab = 4;
@@ -38,7 +40,10 @@ TSharedRef<FSlateTextRun> FSlateTextRun::Create(
 TSharedRef<FSlateTextRun> FSlateTextRun::Create(const FRunInfo& InRunInfo, const TSharedRef<const FString>& InText,
 	const TSharedRef<const FTextBlockStyle>& Style, const FTextRange& InRange)
 {
-	return MakeShared<FSlateTextRun>(FMakeKey(), InRunInfo, InText, Style, InRange);
+	// Long texts have runs by the hundred thousand, which come and go together. The pool outlives whatever still holds one at the end.
+	static std::pmr::unsynchronized_pool_resource& Pool = *new std::pmr::unsynchronized_pool_resource;
+	const std::pmr::polymorphic_allocator<FSlateTextRun> Allocator(&Pool);
+	return TRawPtrProxy<FSlateTextRun>{std::allocate_shared<FSlateTextRun>(Allocator, FMakeKey(), InRunInfo, InText, Style, InRange)};
 }
 
 FSlateTextRun::FSlateTextRun(

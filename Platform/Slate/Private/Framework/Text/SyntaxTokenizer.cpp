@@ -123,6 +123,7 @@ bool FSyntaxTokenizer::HasRules(const TArray<FRule>& OtherRules) const
 
 void FSyntaxTokenizer::Process(TArray<FTokenizedLine>& OutTokenizedLines, const FString& Input) const
 {
+	OutTokenizedLines.Reserve(static_cast<int32>(std::count(Input.begin(), Input.end(), TEXT('\n'))) + 1);
 	for (int32 Begin = 0; Begin != INDEX_NONE;)
 	{
 		FTokenizedLine& Line = OutTokenizedLines.AddDefaulted_GetRef();
