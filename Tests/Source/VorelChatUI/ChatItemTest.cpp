@@ -53,6 +53,7 @@ TEST(ChatItem, TheRoleDecidesNameAndGround)
 TEST(ChatItem, EveryChangeRendersTheWholeText)
 {
 	const TSharedRef<SChatItem> Item = MakeItem(EChatRole::Assistant, TEXT(""));
+	FUserDriver User(Item, FVector2D(660.0, 400.0));
 	Item->AddMessageContent(TEXT("a *b"));
 	EXPECT_EQ(ReadTexts(Item), "Vorel | a *b");
 	Item->AddMessageContent(TEXT("* <c> &amp;"));
@@ -60,6 +61,7 @@ TEST(ChatItem, EveryChangeRendersTheWholeText)
 	Item->UpdateMessageContent(TEXT("```\nx\n```"));
 	const TWeakPtr<SWidget> Block = FindOne(Item, TEXT("SSCodeWidget"));
 	Item->AddMessageContent(TEXT(""));
+	User.Frame();
 	EXPECT_EQ(FindAll(Item, TEXT("SSCodeWidget")).size(), 1u);
 	EXPECT_FALSE(Block.IsValid()) << "an empty addition renders anew too";
 	Item->UpdateMessageContent(TEXT("**new**"));
