@@ -163,9 +163,15 @@ TOptional<FCommandLine> FCommandLine::Parse(const TArray<FString>& Arguments, FS
 {
 	FCommandLine Line;
 	TArray<FString> Words;
+	bool bOptionsOver = false;
 	for (int32 Index = 0; Index < Arguments.Num(); ++Index)
 	{
-		if (!Arguments[Index].StartsWith(TEXT("-")))
+		if (!bOptionsOver && Arguments[Index].Equals(TEXT("--")))
+		{
+			bOptionsOver = true;
+			continue;
+		}
+		if (bOptionsOver || !Arguments[Index].StartsWith(TEXT("-")))
 		{
 			Words.Add(Arguments[Index]);
 			continue;
@@ -189,7 +195,7 @@ FString FCommandLine::GetHelp()
 	{
 		Help += MakeHelpLine(Option.Name, Option.ValueName, Option.Help);
 	}
-	Help += TEXT("\nCommands, which need no display:\n\n");
+	Help += TEXT("\nCommands, which need no display; for an ID that begins like an option put -- before it:\n\n");
 	for (const FCommand& Command : Commands)
 	{
 		Help += MakeHelpLine(Command.Name, Command.Argument, Command.Help);

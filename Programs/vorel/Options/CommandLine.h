@@ -30,7 +30,8 @@ struct FCommandLine
 	EExportFormat ExportFormat = EExportFormat::Markdown;
 
 	// Unset, with one sentence for the user, where there is something wrong with the command or an option. Options stand before, behind or
-	// within the command. An option's value follows it, or stands behind its equals sign; of an option given twice the last counts.
+	// within the command, but not behind "--". An option's value follows it, or stands behind its equals sign; of an option given twice the
+	// last counts.
 	static TOptional<FCommandLine> Parse(const TArray<FString>& Arguments, FString& OutError);
 
 	static FString GetHelp();

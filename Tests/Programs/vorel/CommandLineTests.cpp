@@ -47,6 +47,12 @@ TEST(CommandLine, TheLastOfTwoCounts)
 	EXPECT_TEXT(Parse({TEXT("--model=a"), TEXT("--model=b")}).Model, TEXT("b"));
 }
 
+TEST(CommandLine, TakesNothingForAnOptionBehindTwoDashes)
+{
+	const FCommandLine Line = Parse({TEXT("conversations"), TEXT("--model=a"), TEXT("--"), TEXT("show"), TEXT("--model")});
+	EXPECT_EQ(Line.Command, (TArray<FString>{TEXT("show"), TEXT("--model")}));
+}
+
 TEST(CommandLine, SaysWhatIsWrong)
 {
 	const TCHAR* const Size = TEXT("--size needs a width and a height from 1 to 8192, like 1000x800");

@@ -86,6 +86,9 @@ TEST_F(ConversationCommand, ABadFileNamesWhatIsWrongAndChangesNothing)
 	const FBadFile Files[] = {
 		{"{\n\"id\": \"a\",\n\"title\" oops\n}", TEXT("line 3 is not JSON")},
 		{"{\n\"id\": \"\xFF\"}", TEXT("line 2 is not JSON")},
+		{"{\n\"id\": \"a\n}", TEXT("line 2 is not JSON")},
+		{"{\n\"created\": tru\n}", TEXT("line 2 is not JSON")},
+		{"{\n\"id\": \"a\",\n", TEXT("line 2 is not JSON")},
 		{"", TEXT("line 1 is not JSON")},
 		{"[1e999]", TEXT("it holds a number that is too large")},
 		{"[]", TEXT("it must hold one JSON object")},

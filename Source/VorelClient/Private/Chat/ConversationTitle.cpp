@@ -37,7 +37,7 @@ FString MakeConversationTitle(const FString& FirstMessage)
 		UChar32 Character;
 		const int32 Start = Index;
 		U16_NEXT(*FirstMessage, Index, FirstMessage.Len(), Character);
-		if (!u_isUWhiteSpace(Character) && !u_iscntrl(Character))
+		if (!u_isUWhiteSpace(Character) && !u_isISOControl(Character))
 		{
 			Title += FirstMessage.Mid(Start, Index - Start);
 		}

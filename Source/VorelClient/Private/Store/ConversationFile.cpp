@@ -172,8 +172,9 @@ TOptional<FWholeConversation> ConversationFile::FromJson(std::string_view Bytes,
 	}
 	catch (const FJson::parse_error& Error)
 	{
-		const auto Position = static_cast<std::ptrdiff_t>(std::min(Error.byte, Bytes.size()));
-		const auto Line = static_cast<int32>(1 + std::count(Bytes.begin(), Bytes.begin() + Position, '\n'));
+		// The byte it stumbled over, counted from 1, may itself be the end of the line in question.
+		const std::string_view Before = Bytes.substr(0, std::min(Error.byte, Bytes.size()) - 1);
+		const auto Line = static_cast<int32>(1 + std::count(Before.begin(), Before.end(), '\n'));
 		OutError = FString::Printf(TEXT("line %d is not JSON"), Line);
 	}
 	catch (const FJson::out_of_range&)
