@@ -42,8 +42,8 @@ TEST_F(FConversationTest, IsAlreadyAValidRowWhenTheListIsTold)
 			Title = First->IsValidHistory() ? First->GetDisplayableTitle(false, 20) : FString(TEXT("(invalid)"));
 		});
 	Server.Then(Answer("1"));
-	Ask(TEXT("  How do I\n\tspawn an actor in C++?  "));
-	EXPECT_EQ(Title, TEXT("How do I spawn an a…"));
+	Ask(TEXT("  How do I\n\tspawn 👨‍👩‍👧 می‌خواهم in C++?  "));
+	EXPECT_EQ(Title, TEXT("How do I spawn 👨‍👩‍👧 می‌…"));
 }
 
 TEST_F(FConversationTest, OpensAndDeletes)
@@ -150,6 +150,26 @@ TEST_F(FConversationTest, AListenerMayCancelTheRequestThatIsBeingTold)
 	EXPECT_TRUE(Service().GetCurrentConversation()->Messages.IsEmpty());
 }
 
+TEST_F(FConversationTest, AListenerMayDeleteWhatIsAboutToBeOpened)
+{
+	Server.Then(Answer("1"));
+	Ask(TEXT("one"));
+	const TObjectPtr<USerializableChatHistory> One = Service().GetCurrentConversation();
+	Service().CreateNewConversation(TEXT("Agent"));
+	Server.Then(SendHalf());
+	Service().SendMessage(TEXT("two"));
+	const TObjectPtr<USerializableChatHistory> Two = Service().GetCurrentConversation();
+	Service().OnRequestFailed.AddLambda(
+		[&](const FString&)
+		{
+			Service().DeleteChatHistory(One->Id);
+			CollectGarbage();
+		});
+	Service().LoadConversation(One->Id);
+	EXPECT_EQ(Service().GetCurrentConversation(), Two);
+	EXPECT_FALSE(IsValid(One));
+}
+
 TEST_F(FConversationTest, SurvivesTheCollectorDuringAnAnswer)
 {
 	Server.Then(SendHalf());
@@ -187,7 +207,7 @@ TEST(FAnswerNoteTest, ClosesTheBlockOfCodeInWhichTheAnswerEnds)
 
 TEST(FConversationTitleTest, IsOneLineOfTheFirstMessage)
 {
-	EXPECT_EQ(MakeConversationTitle(TEXT("  a \t\r\n b\x00A0\x2003 c \n")), TEXT("a b c"));
+	EXPECT_EQ(MakeConversationTitle(TEXT("  a \t\r\n b\x00A0\x2003\x2028 c\x0001 \n")), TEXT("a b c"));
 	EXPECT_EQ(MakeConversationTitle(TEXT(" \n ")), TEXT(""));
 	EXPECT_EQ(MakeConversationTitle(FString::ChrN(100000, TEXT('x'))).Len(), 100000);
 }

@@ -167,6 +167,11 @@ FText FailureText::ConversationLeft()
 	return LOCTEXT("ConversationLeft", "The answer was stopped because another conversation was opened.");
 }
 
+FText FailureText::ConversationNotRead()
+{
+	return LOCTEXT("ConversationNotRead", "Nothing was sent, because the earlier messages of this conversation can't be read.");
+}
+
 FString MakeExcerpt(const FString& ForeignText)
 {
 	constexpr int32 MaxLength = 200;

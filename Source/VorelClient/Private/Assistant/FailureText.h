@@ -41,6 +41,8 @@ FText Withheld();
 // Of what the user did.
 FText ConversationDeleted();
 FText ConversationLeft();
+
+FText ConversationNotRead();
 } // namespace FailureText
 
 // One line of at most 200 characters.

@@ -52,9 +52,8 @@ void FConversationRepository::Load(UStoredConversation& Conversation)
 	if (!Conversation.bLoaded && Archive)
 	{
 		TArray<FMessageRecord> Records;
-		Archive->ReadMessages(Conversation.Id, Records);
+		Conversation.bLoaded = Archive->ReadMessages(Conversation.Id, Records);
 		Conversation.SetMessageRecords(Records);
-		Conversation.bLoaded = true;
 	}
 }
 
@@ -198,6 +197,7 @@ bool FConversationRepository::MergeMessages(UStoredConversation& Conversation)
 	{
 		Record.End = Record.End.Get(EAnswerEnd::Complete);
 	}
+	Conversation.bLoaded = true;
 	const bool bChanged = !(Records == Conversation.GetMessageRecords());
 	if (bChanged)
 	{

@@ -30,7 +30,7 @@ public:
 	// The last used first.
 	const TArray<TObjectPtr<UStoredConversation>>& GetAll() const { return Conversations; }
 
-	// Fills in the messages, and lets them go again where the store has them all.
+	// Fills in the messages, bLoaded tells whether all, and lets them go again where the store has them.
 	void Load(UStoredConversation& Conversation);
 	void Release(UStoredConversation& Conversation);
 

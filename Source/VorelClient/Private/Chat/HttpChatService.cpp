@@ -80,7 +80,7 @@ void UHttpChatService::LoadConversation(const FString& Id)
 	{
 		UE_LOG(LogVorel, Warning, TEXT("There is no conversation %s to open"), *Id);
 	}
-	else if (Current != Conversation)
+	else if (Current != Conversation || !Current->bLoaded)
 	{
 		OpenConversation(Conversation);
 	}
@@ -90,12 +90,14 @@ void UHttpChatService::CreateNewConversation(const FString& ModeName)
 {
 	const FChatMode* const Mode = FindChatMode(ModeName);
 	UE_CLOG(!Mode, LogVorel, Warning, TEXT("There is no chat mode \"%s\", the conversation starts in the default one"), *ModeName);
+	// Listeners come first, since nothing refers to a new conversation yet.
+	CancelRequest(FailureText::ConversationLeft());
 	OpenConversation(Conversations.Create(Mode ? Mode->Name : DefaultAgentChatModeName));
 }
 
 void UHttpChatService::DeleteChatHistory(const FString& Id)
 {
-	UStoredConversation* const Conversation = Conversations.Find(Id);
+	const TObjectPtr<UStoredConversation> Conversation = Conversations.Find(Id);
 	if (!Conversation)
 	{
 		UE_LOG(LogVorel, Warning, TEXT("There is no conversation %s to delete"), *Id);
@@ -125,6 +127,15 @@ void UHttpChatService::SendMessage(const FString& Text)
 	if (Request || bShutDown)
 	{
 		UE_LOG(LogVorel, Warning, TEXT("A message was not sent, because an answer is under way or the client has shut down"));
+		return;
+	}
+	if (!Current->bLoaded)
+	{
+		OpenConversation(Current);
+	}
+	if (!Current->bLoaded)
+	{
+		OnRequestFailed.Broadcast(FailureText::ConversationNotRead().ToString());
 		return;
 	}
 	const TSharedRef<FRequest> Own = MakeShared<FRequest>();
@@ -257,10 +268,15 @@ void UHttpChatService::CancelRequest(const FText& Reason)
 	EndRequest({EAnswerEnd::Failed, Reason});
 }
 
-void UHttpChatService::OpenConversation(UStoredConversation* Conversation)
+void UHttpChatService::OpenConversation(TObjectPtr<UStoredConversation> Conversation)
 {
 	CancelRequest(FailureText::ConversationLeft());
-	UStoredConversation* const Left = Current;
+	// A listener may have deleted it meanwhile.
+	if (!IsValid(Conversation))
+	{
+		return;
+	}
+	const TObjectPtr<UStoredConversation> Left = Current;
 	Conversations.Load(*Conversation);
 	Current = Conversation;
 	ChangeMode(Conversation->ModeName);

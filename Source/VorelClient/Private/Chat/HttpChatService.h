@@ -43,7 +43,7 @@ public:
 	// Stops an answer under way in this conversation. An open one makes room for a new one in the default mode, which fires as a new one
 	// does. The object is marked as garbage before that.
 	void DeleteChatHistory(const FString& Id) override;
-	// Ignored, and logged, while an answer is under way.
+	// Ignored, and logged, while an answer is under way. Fails at once in a conversation whose earlier messages can't be read.
 	void SendMessage(const FString& Text) override;
 
 	void AddReferencedObjects(FReferenceCollector& Collector) override;
@@ -68,7 +68,7 @@ private:
 	UStoredMessage* StoreAnswer(EAnswerEnd End);
 	void EndRequest(const FAnswerEnd& End);
 	void CancelRequest(const FText& Reason);
-	void OpenConversation(UStoredConversation* Conversation);
+	void OpenConversation(TObjectPtr<UStoredConversation> Conversation);
 	void ChangeMode(const FString& ModeName);
 	void TellHistoryChanged();
 	void HandleForeignChange();
