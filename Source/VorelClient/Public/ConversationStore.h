@@ -43,7 +43,7 @@ public:
 	FStoreError AddConversation(const FConversationRecord& Conversation, const TArray<FMessageRecord>& Messages);
 
 	// Adds a message, or changes the one that an earlier call put into InOutRow, which is 0 at first, and tells when the conversation was
-	// last used. Does nothing where another program has deleted the conversation.
+	// last used. A conflict where another program has deleted the conversation, but only at the first of several calls for one message.
 	FStoreError PutMessage(const FConversationRecord& Conversation, const FMessageRecord& Message, int64& InOutRow);
 
 	FStoreError SetMode(const FString& Id, const FString& ModeName);

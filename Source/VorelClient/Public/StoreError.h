@@ -15,7 +15,7 @@ enum class EStoreProblem : uint8
 	NewerVersion,
 	// A database, but somebody else's.
 	Foreign,
-	// What was to be added is there already.
+	// What was to be added is there already, or what was to be changed is gone.
 	Conflict,
 	Other
 };

@@ -8,6 +8,7 @@
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace
@@ -47,7 +48,9 @@ protected:
 	}
 
 	std::string ReadStore() { return Folder.Read(FConversationStore::FileName); }
+	std::string ReadLog() { return Folder.Read(TEXT("conversations.sqlite-wal")); }
 	void WriteStore(std::string_view Bytes) { Folder.Write(FConversationStore::FileName, Bytes); }
+	// The change stands in the log alone.
 	void Execute(const char* Sql) { FSqliteDatabase(StoreFile, false).Execute(Sql); }
 
 	// The program starts, says this, and works as ever.
@@ -67,12 +70,21 @@ protected:
 	void ExpectLeftAlone(const TCHAR* Sentence)
 	{
 		const std::string Before = ReadStore();
+		const std::string LogBefore = ReadLog();
 		ExpectWorksAndTells(FString(Sentence).Replace(TEXT("FILE"), *StoreFile) +
 							TEXT(" The conversations of this run are kept in memory, and end with it."));
 		EndService();
 		EXPECT_TRUE(ReadStore() == Before);
+		EXPECT_TRUE(ReadLog() == LogBefore);
 	}
 };
+
+// In the middle of it, where there are messages.
+std::string PutRubbishInto(std::string Bytes)
+{
+	const size_t Third = Bytes.size() / 3;
+	return Bytes.replace(Third, Third, std::string(Third, '\x5A'));
+}
 
 // Makes a small file system of its own in the folder; false where the machine doesn't allow that.
 bool MountSmallDisk(const FString& Folder)
@@ -128,25 +140,42 @@ TEST_F(FStoreFailureTest, AFolderThatIsNotThere)
 {
 	StoreFile = Folder.GetPath(TEXT("nowhere/a.sqlite"));
 	ExpectLeftAlone(TEXT("There is no FILE."));
+	EXPECT_NE(::access(TCHAR_TO_UTF8(Folder.GetPath(TEXT("nowhere"))), F_OK), 0);
 }
 
 TEST_F(FStoreFailureTest, ADamagedFileIsSetAside)
 {
 	const std::string Whole = ReadStore();
-	std::string Rubbish = Whole;
-	Rubbish.replace(Whole.size() / 3, Whole.size() / 3, std::string(Whole.size() / 3, '\x5A'));
-	const std::pair<std::string, std::string> Rows[] = {
-		{Whole.substr(0, Whole.size() * 3 / 5), ""},
-		{Rubbish, ""},
-		{"this is no database, but what somebody wrote here", ""},
-		// An empty file is a new one, unless there is a log.
-		{"", "what was logged"},
+	std::string NegativeVersion = Whole;
+	constexpr size_t PlaceOfVersion = 60;
+	NegativeVersion.replace(PlaceOfVersion, 4, "\xFF\xFF\xFF\xFF");
+	std::string NoVersion = Whole;
+	NoVersion.replace(PlaceOfVersion, 4, std::string(4, '\0'));
+	struct FRow
+	{
+		std::string Bytes;
+		std::string LogBytes;
+		bool bGone = false;
 	};
-	for (const auto& [Bytes, LogBytes] : Rows)
+	const FRow Rows[] = {
+		{NegativeVersion, ""},
+		{NoVersion, ""},
+		{Whole.substr(0, Whole.size() * 3 / 5), ""},
+		{PutRubbishInto(Whole), ""},
+		{"this is no database, but what somebody wrote here", ""},
+		// An empty file is a new one, and so is one that isn't there, unless there is a log.
+		{"", "what was logged"},
+		{"", "what was logged", true},
+	};
+	for (const auto& [Bytes, LogBytes, bGone] : Rows)
 	{
 		SCOPED_TRACE(Bytes.size());
 		EndService();
 		WriteStore(Bytes);
+		if (bGone)
+		{
+			::unlink(TCHAR_TO_UTF8(StoreFile));
+		}
 		if (!LogBytes.empty())
 		{
 			Folder.Write(TEXT("conversations.sqlite-wal"), LogBytes);
@@ -167,6 +196,41 @@ TEST_F(FStoreFailureTest, ADamagedFileIsSetAside)
 	}
 }
 
+TEST_F(FStoreFailureTest, ADamagedFileIsLeftToTheProgramThatRunsOnIt)
+{
+	Service();
+	const std::string Damaged = PutRubbishInto(ReadStore());
+	WriteStore(Damaged);
+	StartOther();
+	EXPECT_TRUE(Log.Has(TEXT("LogVorelStore"), ELogVerbosity::Warning,
+		StoreFile + TEXT(" is damaged. The conversations of this run are kept in memory, and end with it.")))
+		<< Log.Dump();
+	EXPECT_TRUE(ReadStore() == Damaged);
+}
+
+TEST_F(FStoreFailureTest, AConversationThatCantBeReadIsNotTakenForAnEmptyOne)
+{
+	const std::string Whole = ReadStore();
+	// Makes running programs read the file anew.
+	const auto Replace = [this](const std::string& Bytes)
+	{
+		WriteStore(Bytes);
+		Execute("UPDATE conversations SET last_used = last_used + 1");
+	};
+	Service();
+	Replace(PutRubbishInto(Whole));
+	Service().LoadConversation(TEXT("old"));
+	EXPECT_LT(Service().GetCurrentConversation()->Messages.Num(), 200);
+	TakeEvents();
+	Service().SendMessage(TEXT("Hi"));
+	EXPECT_EQ(TakeFailure(), TEXT("Nothing was sent, because the earlier messages of this conversation can't be read."));
+
+	Replace(Whole);
+	Server.Then(Answer("Fine"));
+	Ask(TEXT("Hi"));
+	EXPECT_EQ(Service().GetCurrentConversation()->Messages.Num(), 202);
+}
+
 TEST_F(FStoreFailureTest, AFileThatIsLockedForAWhileIsWrittenLater)
 {
 	Service();
@@ -179,6 +243,28 @@ TEST_F(FStoreFailureTest, AFileThatIsLockedForAWhileIsWrittenLater)
 	}
 	EndService();
 	EXPECT_EQ(ReadFile(FirstId()), TEXT("user(Hi) complete(Fine)"));
+}
+
+TEST_F(FStoreFailureTest, AFileThatIsLockedAtTheEndIsWaitedFor)
+{
+	Service();
+	FSqliteDatabase Holder(StoreFile, false);
+	Holder.Execute("BEGIN IMMEDIATE");
+	Server.Then(Answer("Fine"));
+	Ask(TEXT("Hi"));
+	const FString Id = FirstId();
+	std::thread Releasing(
+		[&]
+		{
+			// Longer than one write is tried for.
+			FSqliteDatabase Waiting(StoreFile, false);
+			EXPECT_THROW(Waiting.Execute("BEGIN IMMEDIATE"), FStoreError);
+			EXPECT_THROW(Waiting.Execute("BEGIN IMMEDIATE"), FStoreError);
+			Holder.Execute("COMMIT");
+		});
+	EndService();
+	Releasing.join();
+	EXPECT_EQ(ReadFile(Id), TEXT("user(Hi) complete(Fine)"));
 }
 
 TEST_F(FStoreFailureTest, AFullDiskLosesNothingOnceThereIsRoomAgain)

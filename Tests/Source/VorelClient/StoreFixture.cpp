@@ -4,16 +4,16 @@
 
 TObjectPtr<UHttpChatService> FStoreTest::StartOther()
 {
-	Other = NewObject<UHttpChatService>();
-	Other->AddToRoot();
-	Other->Initialize(Endpoint, Limits, StoreFile);
-	return Other;
+	Others.Add(NewObject<UHttpChatService>());
+	Others.Last()->AddToRoot();
+	Others.Last()->Initialize(Endpoint, Limits, StoreFile);
+	return Others.Last();
 }
 
 FStoreTest::~FStoreTest()
 {
 	EndService();
-	if (Other)
+	for (const TObjectPtr<UHttpChatService>& Other : Others)
 	{
 		Other->Shutdown();
 		Other->RemoveFromRoot();

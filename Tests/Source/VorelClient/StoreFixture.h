@@ -13,7 +13,7 @@ class FStoreTest : public FChatClientTest
 protected:
 	FStoreTest() { StoreFile = Folder.GetPath(FConversationStore::FileName); }
 
-	// A second program, as it were, on the same file. Ends with the test.
+	// Another program, as it were, on the same file. Ends with the test.
 	TObjectPtr<UHttpChatService> StartOther();
 	~FStoreTest() override;
 
@@ -30,7 +30,7 @@ protected:
 	FTempFolder Folder;
 
 private:
-	TObjectPtr<UHttpChatService> Other;
+	TArray<TObjectPtr<UHttpChatService>> Others;
 };
 
 // An answer of one piece that stays open.

@@ -4,7 +4,9 @@
 
 #include "Store/SqliteDatabase.h"
 #include "Store/StoreSchema.h"
+#include <barrier>
 #include <nlohmann/json.hpp>
+#include <thread>
 
 TEST_F(FStoreTest, BringsConversationsBack)
 {
@@ -79,6 +81,7 @@ TEST_F(FStoreTest, MarksAsInterruptedWhatQuittingOrLeavingCutShort)
 TEST_F(FStoreTest, SharesTheFileWithAnotherProgram)
 {
 	const TObjectPtr<UHttpChatService> Other = StartOther();
+	const TObjectPtr<UHttpChatService> Idle = StartOther();
 	{
 		FStoreError Error;
 		const TUniquePtr<FConversationStore> Store = FConversationStore::OpenAgain(StoreFile, Error);
@@ -107,13 +110,43 @@ TEST_F(FStoreTest, SharesTheFileWithAnotherProgram)
 	Service().CreateNewConversation(TEXT("Agent"));
 	Server.Then(Answer("4"));
 	Ask(TEXT("four"));
+	ASSERT_TRUE(PumpUntil([&] { return GetTitles(*Idle) == TEXT("four"); }));
 	EXPECT_EQ(Changes, 0);
 	Server.GetExchanges()[1].Send(EndMark);
 	ASSERT_TRUE(PumpUntil([&] { return GetTitles(*Other) == TEXT("four"); }));
+	EXPECT_EQ(Log.Count(TEXT("LogVorelStore"), ELogVerbosity::Error,
+				  TEXT("A change could not be stored: another program has deleted the conversation")),
+		1)
+		<< Log.Dump();
 	EXPECT_FALSE(IsValid(Open));
 	EXPECT_TRUE(Other->GetCurrentConversation()->Messages.IsEmpty());
 	EXPECT_EQ(Other->GetCurrentChatModeName(), TEXT("Agent"));
 	EXPECT_EQ(ReadFile(Open->Id), TEXT(""));
+}
+
+TEST_F(FStoreTest, ManyProgramsMayBeginItAtOnce)
+{
+	constexpr int32 NumPrograms = 8;
+	for (int32 Round = 0; Round < 5; ++Round)
+	{
+		const FString File = Folder.GetPath(*FString::Printf(TEXT("%d.sqlite"), Round));
+		std::barrier Start(NumPrograms);
+		std::vector<std::thread> Programs;
+		for (int32 Program = 0; Program < NumPrograms; ++Program)
+		{
+			Programs.emplace_back(
+				[&]
+				{
+					FStoreError Error;
+					Start.arrive_and_wait();
+					EXPECT_TRUE(FConversationStore::Open(File, FConversationStore::EMissingFile::Create, Error)) << Error.Detail;
+				});
+		}
+		for (std::thread& Program : Programs)
+		{
+			Program.join();
+		}
+	}
 }
 
 TEST_F(FStoreTest, MigratesStepByStepWithABackup)
@@ -130,6 +163,8 @@ TEST_F(FStoreTest, MigratesStepByStepWithABackup)
 	};
 	Prepare(Old);
 	EXPECT_EQ(FSqliteDatabase(StoreFile, false).ReadNumber("PRAGMA user_version"), 1);
+	// The rest of an earlier try is no obstacle.
+	Folder.Write(*(FString(FConversationStore::FileName) + TEXT(".version-1")), "rubbish");
 	Prepare(Newer);
 	EXPECT_EQ(FSqliteDatabase(StoreFile + TEXT(".version-1"), false).ReadNumber("PRAGMA user_version"), 1);
 	EXPECT_THROW(Prepare(Broken), FStoreError);

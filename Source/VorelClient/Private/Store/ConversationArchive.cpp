@@ -7,6 +7,7 @@
 
 #include "Containers/Ticker.h"
 #include "Store/LogVorelStore.h"
+#include "Store/StoreLock.h"
 #include "Store/StoreWriter.h"
 
 #define LOCTEXT_NAMESPACE "VorelClient"
@@ -24,10 +25,11 @@ void Tell(const FStoreError& Error, const FString& File, const FText& Consequenc
 	UE_LOG(LogVorelStore, Warning, TEXT("%s %s"), *Error.Describe(File).ToString(), *Consequence.ToString());
 }
 
-TUniquePtr<FConversationStore> OpenOrBeginAnew(const FString& File, FStoreError& OutError)
+// Another program that runs on a damaged file, and perhaps has not come upon the damage, keeps it.
+TUniquePtr<FConversationStore> OpenOrBeginAnew(const FString& File, const FStoreLock& Lock, FStoreError& OutError)
 {
 	TUniquePtr<FConversationStore> Store = FConversationStore::Open(File, FConversationStore::EMissingFile::Create, OutError);
-	if (OutError.Problem != EStoreProblem::Damaged)
+	if (OutError.Problem != EStoreProblem::Damaged || !Lock.IsAlone())
 	{
 		return Store;
 	}
@@ -44,8 +46,10 @@ TUniquePtr<FConversationStore> OpenOrBeginAnew(const FString& File, FStoreError&
 
 struct FConversationArchive::FParts
 {
-	FParts(const FString& InFile, TUniquePtr<FConversationStore> InReader, TUniquePtr<FConversationStore> InWritten)
+	FParts(const FString& InFile, TUniquePtr<FStoreLock> InLock, TUniquePtr<FConversationStore> InReader,
+		TUniquePtr<FConversationStore> InWritten)
 		: File(InFile)
+		, Lock(::MoveTemp(InLock))
 		, Reader(::MoveTemp(InReader))
 		, Writer(::MoveTemp(InWritten))
 		, Watch(InFile)
@@ -69,6 +73,8 @@ struct FConversationArchive::FParts
 	}
 
 	FString File;
+	// Given back last.
+	TUniquePtr<FStoreLock> Lock;
 	TUniquePtr<FConversationStore> Reader;
 	FStoreWriter Writer;
 	FStoreWatch Watch;
@@ -78,14 +84,18 @@ struct FConversationArchive::FParts
 TUniquePtr<FConversationArchive> FConversationArchive::Open(const FString& File)
 {
 	FStoreError Error;
-	TUniquePtr<FConversationStore> Reader = OpenOrBeginAnew(File, Error);
+	TUniquePtr<FStoreLock> Lock = MakeUnique<FStoreLock>(File);
+	Lock->Take();
+	TUniquePtr<FConversationStore> Reader = OpenOrBeginAnew(File, *Lock, Error);
 	TUniquePtr<FConversationStore> Written = Reader ? FConversationStore::OpenAgain(File, Error) : nullptr;
 	if (!Written)
 	{
 		Tell(Error, File, LOCTEXT("MemoryOnly", "The conversations of this run are kept in memory, and end with it."));
 		return nullptr;
 	}
-	return TUniquePtr<FConversationArchive>(new FConversationArchive(MakeUnique<FParts>(File, ::MoveTemp(Reader), ::MoveTemp(Written))));
+	Lock->Share();
+	return TUniquePtr<FConversationArchive>(
+		new FConversationArchive(MakeUnique<FParts>(File, ::MoveTemp(Lock), ::MoveTemp(Reader), ::MoveTemp(Written))));
 }
 
 FConversationArchive::FConversationArchive(TUniquePtr<FParts> InParts)
@@ -93,7 +103,11 @@ FConversationArchive::FConversationArchive(TUniquePtr<FParts> InParts)
 {
 	Parts->Writer.OnTrouble = [File = Parts->File](const FStoreError& Error)
 	{
-		if (Error)
+		if (Error.Problem == EStoreProblem::Damaged)
+		{
+			Tell(Error, File, LOCTEXT("NotWrittenAnyMore", "What is new is kept in memory, and ends with this run."));
+		}
+		else if (Error)
 		{
 			Tell(Error, File, LOCTEXT("NotWritten", "What is new is kept in memory until it can be stored."));
 		}

@@ -83,11 +83,11 @@ FStoreError FindObstacle(const FString& File, FConversationStore::EMissingFile M
 	{
 		return {EStoreProblem::ReadOnly, FString()};
 	}
-	// An empty file counts as new, and its log would be thrown away.
+	// A file that is empty or gone counts as new, and its log would be thrown away.
 	const fs::path Log = AddSuffix(Path, "-wal");
-	if (bExists && fs::file_size(Path, Error) == 0 && fs::exists(Log, Error) && fs::file_size(Log, Error) > 0)
+	if ((!bExists || fs::file_size(Path, Error) == 0) && fs::exists(Log, Error) && fs::file_size(Log, Error) > 0)
 	{
-		return {EStoreProblem::Damaged, TEXT("the file is empty, and its log is not")};
+		return {EStoreProblem::Damaged, TEXT("there is nothing but its log")};
 	}
 	return FStoreError();
 }
@@ -108,6 +108,16 @@ int64 ReadOne(FSqliteStatement& Statement)
 	const int64 Number = Statement.GetNumber(0);
 	Statement.Reset();
 	return Number;
+}
+
+// Once for each message.
+void ThrowDeleted(int64& InOutRow)
+{
+	constexpr int64 RowOfNobody = -1;
+	if (std::exchange(InOutRow, RowOfNobody) != RowOfNobody)
+	{
+		throw FStoreError{EStoreProblem::Conflict, TEXT("another program has deleted the conversation")};
+	}
 }
 
 TOptional<int64> ToNumber(const TOptional<EAnswerEnd>& End)
@@ -141,6 +151,7 @@ TUniquePtr<FConversationStore> FConversationStore::OpenAgain(const FString& File
 		{
 			TUniquePtr<FSqliteDatabase> Database = MakeUnique<FSqliteDatabase>(File, false);
 			ConfigureStore(*Database);
+			Database->MergeLogOnClose();
 			Store.Reset(new FConversationStore(::MoveTemp(Database)));
 		});
 	return Store;
@@ -158,7 +169,7 @@ FString FConversationStore::SetAside(const FString& File)
 		Target += "+";
 	}
 	fs::rename(ToPath(File), Target, Error);
-	if (Error)
+	if (Error && Error != std::errc::no_such_file_or_directory)
 	{
 		return FString();
 	}
@@ -232,10 +243,11 @@ FStoreError FConversationStore::PutMessage(const FConversationRecord& Conversati
 			Statements->UseConversation.Bind(Conversation.LastUsed, Conversation.Id).Run();
 			if (!Database->HasChangedRows())
 			{
+				ThrowDeleted(InOutRow);
 				return;
 			}
 			int64 Row = InOutRow;
-			if (Row != 0)
+			if (Row > 0)
 			{
 				Statements->ChangeMessage.Bind(Message.Text, ToNumber(Message.End), Row).Run();
 			}

@@ -2,7 +2,10 @@
 
 #include "Store/SqliteDatabase.h"
 
+#include <chrono>
+#include <filesystem>
 #include <sqlite3.h>
+#include <thread>
 
 namespace
 {
@@ -50,6 +53,7 @@ FSqliteDatabase::FSqliteDatabase(const FString& File, bool bCreate)
 		throw Error;
 	}
 	sqlite3_busy_timeout(Connection, BusyTimeoutMilliseconds);
+	sqlite3_db_config(Connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
 
 FSqliteDatabase::~FSqliteDatabase()
@@ -63,6 +67,19 @@ void FSqliteDatabase::Execute(const char* Sql)
 	if (Code != SQLITE_OK)
 	{
 		Throw(Code);
+	}
+}
+
+void FSqliteDatabase::ExecutePatiently(const char* Sql)
+{
+	const auto End = std::chrono::steady_clock::now() + std::chrono::milliseconds(BusyTimeoutMilliseconds);
+	while (const int Code = sqlite3_exec(Connection, Sql, nullptr, nullptr, nullptr))
+	{
+		if (FindProblem(Code) != EStoreProblem::Locked || std::chrono::steady_clock::now() >= End)
+		{
+			Throw(Code);
+		}
+		std::this_thread::sleep_for(std::chrono::milliseconds(5));
 	}
 }
 
@@ -93,18 +110,36 @@ int64 FSqliteDatabase::GetLastInsertedRow() const
 	return sqlite3_last_insert_rowid(Connection);
 }
 
+void FSqliteDatabase::MergeLogOnClose()
+{
+	sqlite3_db_config(Connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
+}
+
 void FSqliteDatabase::BackUpTo(const FString& File)
 {
-	FSqliteDatabase Target(File, true);
+	const std::string Unfinished = TCHAR_TO_UTF8(File + TEXT(".unfinished"));
+	std::error_code Error;
+	std::filesystem::remove(Unfinished, Error);
+	CopyTo(FString(Unfinished.c_str()));
+	std::filesystem::rename(Unfinished, TCHAR_TO_UTF8(File), Error);
+	if (Error)
+	{
+		throw FStoreError{EStoreProblem::Other, FString(Error.message().c_str())};
+	}
+}
+
+void FSqliteDatabase::CopyTo(const FString& NewFile)
+{
+	FSqliteDatabase Target(NewFile, true);
 	sqlite3_backup* const Backup = sqlite3_backup_init(Target.Get(), "main", Connection, "main");
 	if (!Backup)
 	{
 		Target.Throw(sqlite3_errcode(Target.Get()));
 	}
 	constexpr int AllPages = -1;
-	sqlite3_backup_step(Backup, AllPages);
-	const int Code = sqlite3_backup_finish(Backup);
-	if (Code != SQLITE_OK)
+	const int Code = sqlite3_backup_step(Backup, AllPages);
+	sqlite3_backup_finish(Backup);
+	if (Code != SQLITE_DONE)
 	{
 		Target.Throw(Code);
 	}

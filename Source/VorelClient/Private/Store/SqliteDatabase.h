@@ -12,7 +12,7 @@ struct sqlite3_stmt;
 class FSqliteDatabase
 {
 public:
-	// Without bCreate the file must be there.
+	// Without bCreate the file must be there. Neither opening nor closing changes it.
 	FSqliteDatabase(const FString& File, bool bCreate);
 	~FSqliteDatabase();
 	FSqliteDatabase(const FSqliteDatabase&) = delete;
@@ -20,6 +20,8 @@ public:
 
 	// One or more statements whose rows nobody wants.
 	void Execute(const char* Sql);
+	// For one that fails at once where another program works on the file, instead of waiting as all others do.
+	void ExecutePatiently(const char* Sql);
 	// The first column of the first row.
 	int64 ReadNumber(const char* Sql);
 	FString ReadText(const char* Sql);
@@ -29,13 +31,18 @@ public:
 	bool HasChangedRows() const;
 	int64 GetLastInsertedRow() const;
 
-	// Of a consistent state, also while others write. The target is replaced.
+	// The last connection puts what the write-ahead log holds into the file, and deletes the log.
+	void MergeLogOnClose();
+
+	// Of a consistent state, also while others write. The target is replaced once all is there.
 	void BackUpTo(const FString& File);
 
 	sqlite3* Get() const { return Connection; }
 	[[noreturn]] void Throw(int Code) const;
 
 private:
+	void CopyTo(const FString& NewFile);
+
 	sqlite3* Connection = nullptr;
 };
 

@@ -42,9 +42,14 @@ void CheckStore(FSqliteDatabase& Database, int32 NewestVersion)
 	{
 		throw FStoreError{EStoreProblem::Foreign, FString()};
 	}
-	if (ReadVersion(Database) > NewestVersion)
+	const int64 Version = ReadVersion(Database);
+	if (Version > NewestVersion)
 	{
 		throw FStoreError{EStoreProblem::NewerVersion, FString()};
+	}
+	if (Version < 0 || (Version == 0 && !bEmpty))
+	{
+		throw FStoreError{EStoreProblem::Damaged, FString::Printf(TEXT("its version is %lld"), Version)};
 	}
 	if (Database.IsReadOnly())
 	{
@@ -89,11 +94,13 @@ void PrepareStore(FSqliteDatabase& Database, const FString& File, const TArray<c
 	{
 		RunMigration(Database, Version, Migrations[Version]);
 	}
+	Database.MergeLogOnClose();
 }
 
 void ConfigureStore(FSqliteDatabase& Database)
 {
 	// A message that was shown must be there after a loss of power too, so each commit reaches the disk. A file system that can't keep a
 	// write-ahead log keeps the journal it has.
-	Database.Execute("PRAGMA trusted_schema = OFF; PRAGMA foreign_keys = ON; PRAGMA synchronous = FULL; PRAGMA journal_mode = WAL");
+	Database.Execute("PRAGMA trusted_schema = OFF; PRAGMA foreign_keys = ON; PRAGMA synchronous = FULL");
+	Database.ExecutePatiently("PRAGMA journal_mode = WAL");
 }

@@ -8,7 +8,8 @@
 
 #include "CoreMinimal.h"
 
-// Tells when it is worth to look whether somebody has written to a store. Nothing runs while nobody does.
+// Tells when it is worth to look whether somebody has written to a store. Where the system tells of writes, nothing runs while there
+// are none.
 class FStoreWatch
 {
 public:
@@ -24,4 +25,6 @@ private:
 
 	QFileSystemWatcher Watcher;
 	QTimer Timer;
+	// Looks all the time where the system can't tell.
+	QTimer Poll;
 };

@@ -64,7 +64,9 @@ void FStoreWriter::WaitUntilIdle(std::chrono::milliseconds Longest)
 void FStoreWriter::RunThread()
 {
 	std::unique_lock Lock(Mutex);
-	while (!bStopping || (!Writes.empty() && !bLastFailed))
+	// Each try waits for as long as another program may hold the file.
+	int32 TriesAtEnd = 5;
+	while (!bStopping || (!Writes.empty() && (!bLastFailed || (Trouble == EStoreProblem::Locked && TriesAtEnd-- > 0))))
 	{
 		if (bLastFailed)
 		{

@@ -27,7 +27,7 @@ class FStoreWriter
 public:
 	explicit FStoreWriter(TUniquePtr<FConversationStore> InStore);
 
-	// Returns once all is written, or could not be at a last try.
+	// Returns once all is written, or could not be at a last try, or at some where others have locked the file.
 	~FStoreWriter();
 
 	// Both fire on the game thread's event loop. OnTrouble: a write failed, or, without an error, all was written after such a failure.
