@@ -175,12 +175,6 @@ TEST_F(Button, AHandlerMayTakeTheButtonAway)
 	EXPECT_FALSE(Widget->HasMouseCapture());
 }
 
-TEST(ButtonContent, ATextIsShownWhereThereIsNoContent)
-{
-	FUserDriver User(SNew(SButton).Text(FText::FromString(TEXT("Copy"))), FVector2D(100.0, 40.0), 1.0f, EDriverFonts::Even);
-	EXPECT_TRUE(User.Sees(TEXT("Copy")));
-}
-
 TEST(ButtonContent, ForegroundColorsFollowTheState)
 {
 	FButtonStyle Style = MakeStyle();

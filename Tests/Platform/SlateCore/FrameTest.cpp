@@ -69,17 +69,6 @@ TEST(BoundAttributes, AreReadOnceAFrameBeforeLayout)
 	EXPECT_EQ(Probe->GetCachedGeometry().GetLocalSize().Y, 40.0) << "in the frame that read it";
 }
 
-TEST(BoundAttributes, APlainValueEndsTheBinding)
-{
-	FBound Bound;
-	const TSharedRef<SProbe> Probe = SNew(SProbe).BoundSize(Bound.MakeAttribute());
-	FUserDriver User(Probe, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
-	Probe->SetSize(FVector2D(1.0, 1.0));
-	Bound.NumRead = 0;
-	User.AdvanceTime(0.0f);
-	EXPECT_EQ(Bound.NumRead, 0);
-}
-
 TEST(BoundAttributes, AreNotReadOutOfViewAndAreUpToDateWhenTheyComeIntoIt)
 {
 	FBound Bound;

@@ -143,14 +143,6 @@ TEST_F(InputRouting, TabWalksRoundAndShiftTabBack)
 	EXPECT_TRUE(Upper->HasKeyboardFocus()) << "there is no other";
 }
 
-TEST_F(InputRouting, AWidgetMayKeepTabForItself)
-{
-	User.ClickAt(OnLower);
-	Lower->bHandles = true;
-	User.Press(TEXT("Tab"));
-	EXPECT_TRUE(Lower->HasKeyboardFocus());
-}
-
 namespace
 {
 /** Takes keys and the wheel from what it contains. */
