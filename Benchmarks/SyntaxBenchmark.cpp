@@ -1,7 +1,10 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
+#include "Chat/SChatItem.h"
 #include "Framework/Text/SlateTextLayout.h"
+#include "OffscreenChat.h"
 #include "ProcessorTime.h"
+#include "SampleText.h"
 #include "Styling/SlateTypes.h"
 #include "Support/CodeSamples.h"
 #include "Syntax/CodeBlockMarshaller.h"
@@ -90,4 +93,20 @@ void ReadFiles(benchmark::State& State, void (*Work)(const FString&))
 }
 BENCHMARK_CAPTURE(ReadFiles, Tokenize, Tokenize)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(ReadFiles, LayOut, LayOut)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+// A stored answer that is one block of code, from its Markdown to the picture.
+void ShowBlock(benchmark::State& State)
+{
+	const FString Markdown = MakeSampleCodeBlock(static_cast<int32>(State.range(0)));
+	FFrameCost Cost;
+	for (auto _ : State)
+	{
+		FOffscreenChat Chat;
+		Cost = Chat.RunFrame([&] { Chat.AddMessage(EChatRole::Assistant, Markdown); });
+	}
+	State.counters["content_ms"] = Cost.Content;
+	State.counters["layout_ms"] = Cost.Layout;
+	State.counters["paint_ms"] = Cost.Paint;
+}
+BENCHMARK(ShowBlock)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Iterations(3)->Unit(benchmark::kMillisecond);
 } // namespace
