@@ -192,6 +192,15 @@ TEST_F(CodeWidget, ASelectionInTheMessageOutlivesTheFocus)
 	EXPECT_EQ(ToUtf8(User.GetClipboard()), "kept \xE2\x80\x8B");
 }
 
+TEST_F(CodeWidget, ItsMessageIsWrappedAndCannotBeChanged)
+{
+	Show(TEXT("word"));
+	const double OneLine = GetView()->GetDesiredSize().Y;
+	Show(FString::ChrN(200, TEXT('.')).Replace(TEXT("."), TEXT("word ")));
+	EXPECT_GE(GetView()->GetDesiredSize().Y, 2.0 * (OneLine - 8.0) + 8.0);
+	EXPECT_TRUE(GetView()->IsTextReadOnly());
+}
+
 TEST_F(CodeWidget, IsMadeByTheDecoratorWithWhatTheMarkupSaid)
 {
 	const TSharedRef<SWidget> Owner = SNew(SMarkdownTextbox);
