@@ -21,23 +21,10 @@ const TArray<FCodeSample>& GetSamples()
 	return Samples;
 }
 
-TSharedRef<FSyntaxTokenizer> MakeTokenizer()
-{
-	TArray<FSyntaxTokenizer::FRule> Rules;
-	for (const TArray<FString>* Table : {&CppOperatorRules, &CppKeywordRules, &CppPreProcessorRules})
-	{
-		for (const FString& Text : *Table)
-		{
-			Rules.Emplace(Text);
-		}
-	}
-	return FSyntaxTokenizer::Create(MoveTemp(Rules));
-}
-
 void Tokenize(const FString& Code)
 {
 	TArray<FSyntaxTokenizer::FTokenizedLine> Lines;
-	MakeTokenizer()->Process(Lines, Code);
+	CreateCppTokenizer()->Process(Lines, Code);
 	benchmark::DoNotOptimize(Lines);
 }
 

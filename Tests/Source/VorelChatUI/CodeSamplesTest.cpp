@@ -16,19 +16,6 @@
 namespace
 {
 
-TSharedRef<FSyntaxTokenizer> MakeTokenizer()
-{
-	TArray<FSyntaxTokenizer::FRule> Rules;
-	for (const TArray<FString>* Table : {&CppOperatorRules, &CppKeywordRules, &CppPreProcessorRules})
-	{
-		for (const FString& Text : *Table)
-		{
-			Rules.Emplace(Text);
-		}
-	}
-	return FSyntaxTokenizer::Create(MoveTemp(Rules));
-}
-
 std::u16string Cut(const FString& Text, const FTextRange& Range)
 {
 	return std::u16string(Text.GetData() + Range.BeginIndex, static_cast<size_t>(Range.Len()));
@@ -118,7 +105,7 @@ private:
 
 	static bool IsWordCharacter(char16_t Character) { return Character > 0x7F || Character == u'_' || std::isalnum(Character) != 0; }
 
-	TSharedRef<FSyntaxTokenizer> Tokenizer = MakeTokenizer();
+	TSharedRef<FSyntaxTokenizer> Tokenizer = CreateCppTokenizer();
 	std::set<std::u16string> Keywords;
 };
 

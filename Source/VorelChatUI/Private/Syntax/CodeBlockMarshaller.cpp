@@ -6,22 +6,9 @@
 #include "Syntax/CppSyntaxRules.h"
 #include "Syntax/ParsedCode.h"
 
-static TSharedRef<FSyntaxTokenizer> CreateTokenizer()
-{
-	TArray<FSyntaxTokenizer::FRule> Rules;
-	for (const TArray<FString>* Table : {&CppOperatorRules, &CppKeywordRules, &CppPreProcessorRules})
-	{
-		for (const FString& MatchText : *Table)
-		{
-			Rules.Emplace(MatchText);
-		}
-	}
-	return FSyntaxTokenizer::Create(MoveTemp(Rules));
-}
-
 TSharedRef<FCodeBlockMarshaller> FCodeBlockMarshaller::Create()
 {
-	return MakeShareable(new FCodeBlockMarshaller(CreateTokenizer(), FCodeBlockTextStyle()));
+	return MakeShareable(new FCodeBlockMarshaller(CreateCppTokenizer(), FCodeBlockTextStyle()));
 }
 
 FCodeBlockMarshaller::FCodeBlockMarshaller(const TSharedRef<FSyntaxTokenizer>& InTokenizer, const FCodeBlockTextStyle& InTextStyle)

@@ -23,3 +23,16 @@ const TArray<FString> CppKeywordRules = {TEXT("alignas"), TEXT("alignof"), TEXT(
 
 const TArray<FString> CppPreProcessorRules = {TEXT("#include"), TEXT("#define"), TEXT("#ifndef"), TEXT("#ifdef"), TEXT("#if"),
 	TEXT("#else"), TEXT("#endif"), TEXT("#pragma"), TEXT("#undef")};
+
+TSharedRef<FSyntaxTokenizer> CreateCppTokenizer()
+{
+	TArray<FSyntaxTokenizer::FRule> Rules;
+	for (const TArray<FString>* Table : {&CppOperatorRules, &CppKeywordRules, &CppPreProcessorRules})
+	{
+		for (const FString& MatchText : *Table)
+		{
+			Rules.Emplace(MatchText);
+		}
+	}
+	return FSyntaxTokenizer::Create(MoveTemp(Rules));
+}
