@@ -367,6 +367,32 @@ TEST_F(FRichText, EachTextMakesItsWidgetsAnew)
 	EXPECT_EQ(Text->GetChildren()->Num(), 1);
 }
 
+TEST_F(FRichText, WidgetsMadeAnewOutOfViewWaitUntilTheyAreSeen)
+{
+	constexpr int32 Count = 100;
+	float Height = 20.0f;
+	const auto Decorator = MakeShared<FWidgetDecorator>([&Height](const FString&) { return MakeBox(50.0f, Height); });
+	FString Markup;
+	for (int32 Index = 0; Index < Count; ++Index)
+	{
+		Markup += TEXT("<widget></>\n");
+	}
+	ShowMarkup(Markup, {Decorator});
+	// They should have had the size of the former ones; these have not, which shows when it is asked for.
+	Height = 30.0f;
+	Text->SetText(FText::FromString(Markup + TEXT("end")));
+	Frame();
+	EXPECT_LT(Application().GetFrameStats().NumDesiredSizes, Count);
+	EXPECT_LT(Text->GetDesiredSize().Y, Count * Height);
+	MoveMouse(20.0f, 20.0f);
+	for (int32 Index = 0; Index < Count; ++Index)
+	{
+		Wheel(-3.0f);
+	}
+	EXPECT_EQ(Text->GetDesiredSize().Y, Count * Height + Row);
+	EXPECT_EQ(Text->GetChildren()->GetChildAt(Count - 1)->GetCachedGeometry().GetAbsolutePosition().Y, 400.0 - Row - Height);
+}
+
 TEST_F(FRichText, OnlyLinesThatChangedAreMeasured)
 {
 	int32 Count = 0;

@@ -69,6 +69,12 @@ void SWidget::MarkLayout(bool bSizeToo)
 	}
 }
 
+void SWidget::AssumeDesiredSize(const FVector2D& InSize)
+{
+	DesiredSize = InSize;
+	bDesiredSizeAssumed = true;
+}
+
 void SWidget::SlatePrepass(float LayoutScaleMultiplier)
 {
 	const bool bScaleChanged = PrepassScale != LayoutScaleMultiplier;
@@ -79,7 +85,11 @@ void SWidget::SlatePrepass(float LayoutScaleMultiplier)
 	bSizePending = false;
 	bOwnSizeStale |= bScaleChanged;
 	PrepassScale = LayoutScaleMultiplier;
-	PrepassChildren(LayoutScaleMultiplier, bScaleChanged);
+	bDesiredSizeAssumed = false;
+	if (CustomPrepass(LayoutScaleMultiplier))
+	{
+		PrepassChildren(LayoutScaleMultiplier, bScaleChanged);
+	}
 	if (!bOwnSizeStale)
 	{
 		return;

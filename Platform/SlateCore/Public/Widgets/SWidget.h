@@ -48,6 +48,13 @@ public:
 
 	// Layout
 
+	/**
+	 * For a widget that is made in the place of an equal one: its size, in units, until the first prepass. A parent whose children are laid
+	 * out by CustomPrepass may leave that until the widget is seen.
+	 */
+	void AssumeDesiredSize(const FVector2D& InSize);
+	bool IsDesiredSizeAssumed() const { return bDesiredSizeAssumed; }
+
 	/** Makes GetDesiredSize valid for this widget and what is in it. Costs nothing where nothing changed. */
 	void SlatePrepass(float LayoutScaleMultiplier);
 
@@ -156,6 +163,8 @@ protected:
 
 	/** What it wishes for in units. Children have their desired sizes. Not called for a collapsed widget. */
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const = 0;
+	/** Prepasses the children by rules of its own, where it returns false. */
+	virtual bool CustomPrepass(float LayoutScaleMultiplier) { return true; }
 
 	/** Called when its size changed or its layout is invalid, before its children are placed. The only pass-time call that may invalidate.
 	 */
@@ -251,6 +260,7 @@ private:
 
 	/** Pending: here or below. Own: here. */
 	bool bSizePending = true;
+	bool bDesiredSizeAssumed = false;
 	bool bOwnSizeStale = true;
 	bool bArrangePending = true;
 	bool bOwnArrangeStale = true;

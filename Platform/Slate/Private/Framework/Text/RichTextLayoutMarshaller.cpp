@@ -9,8 +9,26 @@
 #include "Styling/ISlateStyle.h"
 #include "Styling/SlateTypes.h"
 #include "TextLines.h"
+#include "Widgets/SWidget.h"
 
 #include <algorithm>
+
+namespace
+{
+/** Of one source the same decorators make equal widgets. */
+void AssumeWidgetSizes(const TArray<TSharedRef<IRun>>& Runs, const TArray<TSharedRef<IRun>>& Former)
+{
+	for (int32 Index = 0; Index < FMath::Min(Runs.Num(), Former.Num()); ++Index)
+	{
+		const TSharedPtr<SWidget> Widget = StaticCastSharedRef<ISlateRun>(Runs[Index])->GetWidget();
+		const TSharedPtr<SWidget> FormerWidget = StaticCastSharedRef<ISlateRun>(Former[Index])->GetWidget();
+		if (Widget && FormerWidget && !FormerWidget->GetDesiredSize().IsZero())
+		{
+			Widget->AssumeDesiredSize(FormerWidget->GetDesiredSize());
+		}
+	}
+}
+} // namespace
 
 TSharedRef<FRichTextLayoutMarshaller> FRichTextLayoutMarshaller::Create(
 	TArray<TSharedRef<ITextDecorator>> Decorators, const ISlateStyle* DecoratorStyleSet)
@@ -43,9 +61,16 @@ void FRichTextLayoutMarshaller::SetText(const FString& SourceString, FTextLayout
 	{
 		Begin = TextLines::FindLine(SourceString, Begin, Line);
 		const bool bUnchanged = NumLines < NumKnown && Begin != INDEX_NONE && Begin <= UnchangedLength;
-		if (!bUnchanged || LineIsDecorated[NumLines])
+		const FStringView Source = FStringView(SourceString).Mid(Line.BeginIndex, Line.Len());
+		if (!bUnchanged)
 		{
-			ReadLine(FStringView(SourceString).Mid(Line.BeginIndex, Line.Len()), NumLines, TargetTextLayout);
+			ReadLine(Source, NumLines, TargetTextLayout);
+		}
+		else if (LineIsDecorated[NumLines])
+		{
+			const TArray<TSharedRef<IRun>> Former = Lines[NumLines].Runs;
+			ReadLine(Source, NumLines, TargetTextLayout);
+			AssumeWidgetSizes(Lines[NumLines].Runs, Former);
 		}
 	}
 	Lines.RemoveAt(NumLines, Lines.Num() - NumLines);

@@ -59,6 +59,19 @@ void FSlateTextLayout::OnLinesChanged()
 	}
 }
 
+void FSlateTextLayout::PrepassWidgets(float Scale)
+{
+	for (const FInlineWidget& Inline : InlineWidgets)
+	{
+		SWidget& Widget = *Inline.Run->GetWidget();
+		const bool bAtLeisure = Widget.IsDesiredSizeAssumed() && Scale == GetScale();
+		if (!bAtLeisure && Widget.GetVisibility() != EVisibility::Collapsed)
+		{
+			Widget.SlatePrepass(Scale);
+		}
+	}
+}
+
 void FSlateTextLayout::UpdateWidgetSizes()
 {
 	for (FInlineWidget& Inline : InlineWidgets)
@@ -91,12 +104,26 @@ void FSlateTextLayout::ArrangeChildren(const FGeometry& TextGeometry, FArrangedC
 				const TSharedPtr<SWidget> Widget = Run.GetWidget();
 				if (Widget && ArrangedChildren.Accepts(Widget->GetVisibility()))
 				{
+					EnsureSize(*Widget, Scale);
 					const FSlateRect Rect = Run.GetWidgetRect(MakePlacement(Piece, Wrapped, TopLeft), Scale);
 					ArrangedChildren.AddWidget(
 						TextGeometry.MakeChild(Widget.ToSharedRef(), Rect.GetTopLeft() / Scale, Rect.GetSize() / Scale));
 				}
 			}
 		});
+}
+
+void FSlateTextLayout::EnsureSize(SWidget& Widget, float Scale)
+{
+	if (Widget.IsDesiredSizeAssumed())
+	{
+		const FVector2D Assumed = Widget.GetDesiredSize();
+		Widget.SlatePrepass(Scale);
+		if (Widget.GetDesiredSize() != Assumed)
+		{
+			Widget.GetParentWidget()->Invalidate(EInvalidateWidgetReason::Layout);
+		}
+	}
 }
 
 FRunPlacement FSlateTextLayout::MakePlacement(const FTextPiece& Piece, const FWrappedLine& Wrapped, const FVector2D& TopLeft) const

@@ -63,7 +63,7 @@ void SMultiLineEditableText::Construct(const FArguments& InArgs)
 	Mouse = MakeUnique<FEditableTextMouse>(*Controller);
 	Wrapping = MakeUnique<FTextWrapping>(FTextWrapping{InArgs._WrapTextAt, InArgs._AutoWrapText});
 	HintAttribute.Assign(*this, InArgs._HintText);
-	SetText(InArgs._Text);
+	TextAttribute.Assign(*this, InArgs._Text);
 	SetClipping(EWidgetClipping::ClipToBounds);
 }
 
@@ -79,14 +79,30 @@ TSharedRef<FSlateTextLayout> SMultiLineEditableText::MakeLayout(const FArguments
 void SMultiLineEditableText::SetText(const TAttribute<FText>& InText)
 {
 	TextAttribute.Assign(*this, InText);
+	LaidOutText.Reset();
 	ApplyText();
 	Invalidate(EInvalidateWidgetReason::Layout);
 }
 
 void SMultiLineEditableText::ApplyText() const
 {
-	LaidOutText = TextAttribute.Get();
-	Controller->SetText(LaidOutText.ToString());
+	if (!LaidOutText.IsSet() || !LaidOutText->EqualTo(TextAttribute.Get()))
+	{
+		LaidOutText = TextAttribute.Get();
+		Controller->SetText(LaidOutText->ToString());
+	}
+}
+
+FSlateTextLayout& SMultiLineEditableText::GetTextLayout() const
+{
+	ApplyText();
+	return *TextLayout;
+}
+
+FEditableTextController& SMultiLineEditableText::GetController() const
+{
+	ApplyText();
+	return *Controller;
 }
 
 void SMultiLineEditableText::ApplyHint() const
@@ -106,13 +122,13 @@ bool SMultiLineEditableText::IsTextReadOnly() const
 
 FText SMultiLineEditableText::GetText() const
 {
-	return Controller->IsReadOnly() ? TextAttribute.Get() : FText::FromString(Controller->GetText().GetText());
+	return Controller->IsReadOnly() ? TextAttribute.Get() : FText::FromString(GetController().GetText().GetText());
 }
 
 FString SMultiLineEditableText::GetShownText() const
 {
 	FString Text;
-	TextLayout->GetAsText(Text);
+	GetTextLayout().GetAsText(Text);
 	return Text.Replace(*FString::Chr(WidgetPlaceholder), TEXT(""), ESearchCase::CaseSensitive);
 }
 
@@ -123,22 +139,25 @@ void SMultiLineEditableText::SetCaretBlinking(bool bEnabled)
 
 bool SMultiLineEditableText::IsHintShown() const
 {
-	return HintLayout && Controller->GetText().IsEmpty() && !HintAttribute.Get().IsEmpty();
+	return HintLayout && GetController().GetText().IsEmpty() && !HintAttribute.Get().IsEmpty();
 }
 
 FChildren* SMultiLineEditableText::GetChildren()
 {
-	return &TextLayout->GetChildren();
+	return &GetTextLayout().GetChildren();
+}
+
+bool SMultiLineEditableText::CustomPrepass(float LayoutScaleMultiplier)
+{
+	GetTextLayout().PrepassWidgets(LayoutScaleMultiplier);
+	return false;
 }
 
 FVector2D SMultiLineEditableText::ComputeDesiredSize(float LayoutScaleMultiplier) const
 {
-	if (!LaidOutText.EqualTo(TextAttribute.Get()))
-	{
-		ApplyText();
-	}
-	TextLayout->UpdateWidgetSizes();
-	FVector2D Size = Wrapping->LayOut(*TextLayout, LayoutScaleMultiplier);
+	FSlateTextLayout& Layout = GetTextLayout();
+	Layout.UpdateWidgetSizes();
+	FVector2D Size = Wrapping->LayOut(Layout, LayoutScaleMultiplier);
 	if (IsHintShown())
 	{
 		ApplyHint();
@@ -176,7 +195,7 @@ void SMultiLineEditableText::OnArranged(const FGeometry& AllottedGeometry)
 FGeometry SMultiLineEditableText::GetTextGeometry(const FGeometry& AllottedGeometry) const
 {
 	// The tree may be asked where its widgets stand at any time, also between a change and the next frame.
-	TextLayout->UpdateIfNeeded();
+	GetTextLayout().UpdateIfNeeded();
 	const FVector2D Offset = Controller->GetScroller().GetOffset() / AllottedGeometry.GetScale();
 	return AllottedGeometry.MakeChild(TextLayout->GetSize(), FSlateLayoutTransform(-Offset));
 }
@@ -193,8 +212,9 @@ int32 SMultiLineEditableText::OnPaint(const FPaintArgs& Args, const FGeometry& A
 	FWidgetStyle WidgetStyle = InWidgetStyle;
 	WidgetStyle.SetForegroundColor(TextColor.GetColor(InWidgetStyle));
 	const FGeometry TextGeometry = GetTextGeometry(AllottedGeometry);
-	const FEditableTextPainter Painter(*Controller, TextGeometry, MyCullingRect.IntersectionWith(AllottedGeometry.GetRenderBoundingRect()),
-		OutDrawElements, WidgetStyle, bEnabled ? ESlateDrawEffect::None : ESlateDrawEffect::DisabledEffect);
+	const FEditableTextPainter Painter(GetController(), TextGeometry,
+		MyCullingRect.IntersectionWith(AllottedGeometry.GetRenderBoundingRect()), OutDrawElements, WidgetStyle,
+		bEnabled ? ESlateDrawEffect::None : ESlateDrawEffect::DisabledEffect);
 	Painter.PaintSelection(LayerId);
 	Painter.PaintText(*TextLayout, LayerId + 1);
 	if (IsHintShown())
@@ -228,7 +248,7 @@ void SMultiLineEditableText::ReportInputArea(const FGeometry& TextGeometry) cons
 FReply SMultiLineEditableText::OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent)
 {
 	InputArea.Reset();
-	Controller->OnFocusReceived();
+	GetController().OnFocusReceived();
 	return FReply::Handled();
 }
 
@@ -238,22 +258,22 @@ void SMultiLineEditableText::OnFocusLost(const FFocusEvent& InFocusEvent)
 	{
 		FSlateApplication::Get().SetTextInputArea(false, FSlateRect());
 	}
-	Controller->OnFocusLost();
+	GetController().OnFocusLost();
 }
 
 FReply SMultiLineEditableText::OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent)
 {
-	return Controller->OnKeyChar(InCharacterEvent);
+	return GetController().OnKeyChar(InCharacterEvent);
 }
 
 FReply SMultiLineEditableText::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
-	return Controller->OnKeyDown(InKeyEvent);
+	return GetController().OnKeyDown(InKeyEvent);
 }
 
 FReply SMultiLineEditableText::OnTextComposition(const FGeometry& MyGeometry, const FTextCompositionEvent& InEvent)
 {
-	return Controller->OnTextComposition(InEvent);
+	return GetController().OnTextComposition(InEvent);
 }
 
 FReply SMultiLineEditableText::OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)

@@ -20,9 +20,11 @@ public:
 	const FTextBlockStyle& GetDefaultTextStyle() const { return *DefaultTextStyle; }
 
 	FChildren& GetChildren() { return Children; }
+	/** But for widgets whose size is assumed until they are seen. */
+	void PrepassWidgets(float Scale);
 	/** Lays lines out anew whose widgets have changed their size. */
 	void UpdateWidgetSizes();
-	/** Adds the widgets that can be seen. `TextGeometry` begins at the layout's top left corner. */
+	/** Adds the widgets that can be seen, and makes sure of their size. `TextGeometry` begins at the layout's top left corner. */
 	void ArrangeChildren(const FGeometry& TextGeometry, FArrangedChildren& ArrangedChildren) const;
 
 	/** Draws the lines that meet `VisibleArea`, in device pixels of the layout, but not the widgets. */
@@ -45,6 +47,7 @@ private:
 
 	FSlateTextLayout(SWidget& InOwner, const FTextBlockStyle& InDefaultTextStyle);
 
+	static void EnsureSize(SWidget& Widget, float Scale);
 	FRunPlacement MakePlacement(const FTextPiece& Piece, const FWrappedLine& Wrapped, const FVector2D& TopLeft) const;
 
 	FSlotlessChildren Children;

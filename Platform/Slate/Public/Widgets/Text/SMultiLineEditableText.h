@@ -59,7 +59,7 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
-	/** Reads the text anew, also the same one: lines that did not change keep their runs, but for those with widgets. */
+	/** Reads the text anew, also the same one, once it is needed: lines that did not change keep their runs, but for those with widgets. */
 	void SetText(const TAttribute<FText>& InText);
 	/** What was edited; of a read-only text the source, with its markup. */
 	FText GetText() const;
@@ -87,6 +87,7 @@ public:
 	virtual FCursorReply OnCursorQuery(const FGeometry& MyGeometry, const FPointerEvent& CursorEvent) const override;
 
 protected:
+	virtual bool CustomPrepass(float LayoutScaleMultiplier) override;
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
 	virtual void OnArranged(const FGeometry& AllottedGeometry) override;
 	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
@@ -95,8 +96,11 @@ protected:
 
 private:
 	TSharedRef<FSlateTextLayout> MakeLayout(const FArguments& InArgs, const FTextBlockStyle& Style);
+	/** Brings the lines up to the text that was set last. */
 	void ApplyText() const;
 	void ApplyHint() const;
+	FSlateTextLayout& GetTextLayout() const;
+	FEditableTextController& GetController() const;
 	bool IsHintShown() const;
 	/** Behind the last letter of a line there must be room for the caret. In units. */
 	float GetCaretRoom() const;
@@ -113,8 +117,8 @@ private:
 	TUniquePtr<FEditableTextController> Controller;
 	TUniquePtr<FEditableTextMouse> Mouse;
 	FSlateColor TextColor;
-	/** What the lines were made of. */
-	mutable FText LaidOutText;
+	/** What the lines were made of; unset where they are to be made anew. */
+	mutable TOptional<FText> LaidOutText;
 	mutable TOptional<FText> LaidOutHint;
 	/** Where input methods were last told that the caret is; absolute. */
 	mutable TOptional<FSlateRect> InputArea;
