@@ -89,7 +89,7 @@ void FUserDriver::AdvanceTime(float Seconds)
 
 FPointerEvent FUserDriver::MakePointer(const FVector2D& Place, const FKey& Button, float WheelDelta) const
 {
-	return FPointerEvent(Place * Scale, Button, WheelDelta);
+	return FPointerEvent(Place * Scale, Button, WheelDelta, Modifiers);
 }
 
 TOptional<FVector2D> FUserDriver::LocateMiddle(const FString& Text)

@@ -49,6 +49,9 @@ public:
 	void MouseUp(const FVector2D& Place, const FKey& Button = EKeys::LeftMouseButton);
 	void LeaveWindow();
 
+	/** For what the mouse does from now on. */
+	void HoldModifiers(const FModifierKeysState& InModifiers) { Modifiers = InModifiers; }
+
 	/** Notches; negative towards the user, which scrolls down. */
 	void Wheel(const FString& Text, float Notches);
 	void WheelAt(const FVector2D& Place, float Notches);
@@ -101,4 +104,5 @@ private:
 	TSharedRef<SWindow> Window;
 	FVector2D Size;
 	float Scale;
+	FModifierKeysState Modifiers;
 };

@@ -125,7 +125,7 @@ protected:
 	FRichText()
 	{
 		FTextBlockStyle Large = Style;
-		Large.SetFont(FSlateFontInfo("Regular", 2 * Letter));
+		Large.SetFont(FSlateFontInfo("Regular", 2 * Points));
 		StyleSet.Set("Large", Large);
 		StyleSet.Set("Colored", FTextBlockStyle(Style).SetColorAndOpacity(FLinearColor::Red));
 	}
@@ -147,7 +147,7 @@ protected:
 	TArray<FBox> FindBoxes()
 	{
 		TArray<FBox> Boxes;
-		CollectBoxes(*Window->GetDisplayList(), Boxes);
+		CollectBoxes(*GetWindow()->GetDisplayList(), Boxes);
 		return Boxes;
 	}
 
@@ -222,9 +222,9 @@ TEST_P(FTextColumns, CellsAndListItemsKeepTheirColumn)
 	ShowMarkup(GetParam().Markup, {}, static_cast<float>(GetParam().Width) * Letter);
 	EXPECT_EQ(ReadScreen().ToGrid(Letter), FString(GetParam().Grid));
 	Focus();
-	Key(EKeys::A, Control());
-	Key(EKeys::C, Control());
-	EXPECT_EQ(Desktop->Clipboard, FString(GetParam().Markup).Replace(TEXT("<Colored>"), TEXT("")).Replace(TEXT("</>"), TEXT("")));
+	Press(TEXT("Ctrl+A"));
+	Press(TEXT("Ctrl+C"));
+	EXPECT_EQ(GetDesktop().Clipboard, FString(GetParam().Markup).Replace(TEXT("<Colored>"), TEXT("")).Replace(TEXT("</>"), TEXT("")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Tables, FTextColumns,
@@ -295,6 +295,7 @@ TEST_F(FRichText, AWidgetThatGrowsMovesTheWordsBehindIt)
 	ShowMarkup(TEXT("<widget></>end"), {MakeShared<FWidgetDecorator>([&Box](const FString&) { return Box; })});
 	EXPECT_EQ(ReadScreen().GetRowLeft(0), 50.0f);
 	Width = 80.0f;
+	AdvanceTime(0.0f);
 	EXPECT_EQ(ReadScreen().GetRowLeft(0), 80.0f);
 }
 
@@ -315,19 +316,18 @@ TEST_F(FRichText, TheMouseReachesTheWidgetsAmongTheText)
 	for (const TSharedRef<SWidget>& Button : Buttons)
 	{
 		const FVector2D Place = Button->GetCachedGeometry().GetAbsolutePosition() + FVector2D(40.0, 10.0);
-		MoveMouse(static_cast<float>(Place.X), static_cast<float>(Place.Y));
+		MoveTo(Place);
 		EXPECT_TRUE(Button->IsHovered());
-		Press(static_cast<float>(Place.X), static_cast<float>(Place.Y));
-		Release();
+		ClickAt(Place);
 	}
 	EXPECT_EQ(Clicked, FString(TEXT("123")));
-	Click(0);
+	ClickLetter(0);
 	EXPECT_EQ(Clicked, FString(TEXT("123")));
 	EXPECT_TRUE(Text->HasKeyboardFocus());
 
-	Key(EKeys::A, Control());
-	Key(EKeys::C, Control());
-	EXPECT_EQ(Desktop->Clipboard, FString(TEXT("ab\u200Bcd\u200B\n\u200B")));
+	Press(TEXT("Ctrl+A"));
+	Press(TEXT("Ctrl+C"));
+	EXPECT_EQ(GetDesktop().Clipboard, FString(TEXT("ab\u200Bcd\u200B\n\u200B")));
 }
 
 TEST_F(FRichText, WhatIsCutOffAtTheEdgeOfTheViewIsNotHit)
@@ -348,8 +348,7 @@ TEST_F(FRichText, WhatIsCutOffAtTheEdgeOfTheViewIsNotHit)
 	Show(SNew(SBox).HAlign(HAlign_Left)[SNew(SBox).WidthOverride(300.0f)[Text.ToSharedRef()]]);
 	for (const float X : {290.0f, 310.0f})
 	{
-		Press(X, 10.0f);
-		Release();
+		ClickAt(FVector2D(X, 10.0));
 	}
 	EXPECT_EQ(Clicks, 1);
 	EXPECT_GE(Text->GetChildren()->GetChildAt(0)->GetCachedGeometry().GetLocalSize().X, 620.0);
@@ -384,10 +383,10 @@ TEST_F(FRichText, WidgetsMadeAnewOutOfViewWaitUntilTheyAreSeen)
 	Frame();
 	EXPECT_LT(Application().GetFrameStats().NumDesiredSizes, Count);
 	EXPECT_LT(Text->GetDesiredSize().Y, Count * Height);
-	MoveMouse(20.0f, 20.0f);
+	MoveTo(FVector2D(20.0, 20.0));
 	for (int32 Index = 0; Index < Count; ++Index)
 	{
-		Wheel(-3.0f);
+		WheelAt(FVector2D(20.0, 20.0), -3.0f);
 	}
 	EXPECT_EQ(Text->GetDesiredSize().Y, Count * Height + Row);
 	EXPECT_EQ(Text->GetChildren()->GetChildAt(Count - 1)->GetCachedGeometry().GetAbsolutePosition().Y, 400.0 - Row - Height);
@@ -404,7 +403,7 @@ TEST_F(FRichText, OnlyLinesThatChangedAreMeasured)
 	EXPECT_EQ(Screen(), FString(TEXT("one\ntwo\nthree more\nfour")));
 
 	// Another width wraps what was measured.
-	Window->SetClientArea(FVector2D(60.0, 400.0), 1.0f);
+	Resize(FVector2D(60.0, 400.0));
 	EXPECT_EQ(Screen(), FString(TEXT("one\ntwo\nthree \nmore\nfour")));
 	EXPECT_EQ(Count, 3 + 3);
 }
@@ -452,11 +451,11 @@ TEST_F(FRichText, OnlyVisibleLinesArePainted)
 		Many.AppendInt(Line);
 	}
 	ShowText(Arguments().Text(FText::FromString(Many)).IsReadOnly(true), 200.0f, 100.0f);
-	EXPECT_EQ(Window->GetDisplayList()->GetItems().Num(), 1);
+	EXPECT_EQ(GetWindow()->GetDisplayList()->GetItems().Num(), 1);
 	const FString Shown = Screen();
 	EXPECT_TRUE(Shown.Equals(TEXT("0\n1\n2\n3\n4"))) << Shown;
-	MoveMouse(50.0f, 50.0f);
-	EXPECT_TRUE(Wheel(-1.0f));
+	MoveTo(FVector2D(50.0, 50.0));
+	WheelAt(FVector2D(50.0, 50.0), -1.0f);
 	const FString Scrolled = Screen();
 	EXPECT_TRUE(Scrolled.Equals(TEXT("3\n4\n5\n6\n7"))) << Scrolled;
 }
@@ -465,10 +464,10 @@ TEST_F(FRichText, ASelectionOutlivesTheGrowthOfTheText)
 {
 	const TSharedRef<FRichTextLayoutMarshaller> Marshaller = FRichTextLayoutMarshaller::Create({}, &StyleSet);
 	ShowText(Arguments().Text(INVTEXT("<Colored>one two</>")).Marshaller(Marshaller).IsReadOnly(true).ClearTextSelectionOnFocusLoss(false));
-	DoubleClick(5);
+	DoubleClickLetter(5);
 	EXPECT_EQ(Screen(), FString(TEXT("one [two]")));
 	Text->SetText(INVTEXT("<Colored>one two</> three"));
-	Application().ClearKeyboardFocus();
+	ClearFocus();
 	EXPECT_EQ(Screen(), FString(TEXT("one [two] three")));
 	EXPECT_EQ(Text->GetText().ToString(), FString(TEXT("<Colored>one two</> three")));
 }

@@ -2,7 +2,7 @@
 
 #include "TextDriver.h"
 
-#include "Containers/Ticker.h"
+#include "Widgets/SNullWidget.h"
 
 namespace
 {
@@ -10,38 +10,17 @@ const FLinearColor SelectionColor(0.1f, 0.2f, 0.7f);
 } // namespace
 
 FTextTest::FTextTest()
+	: FUserDriver(SNullWidget::NullWidget, FVector2D(1000.0, 400.0), 1.0f, EDriverFonts::Even)
 {
-	FSlateApplication::Create(Desktop);
-	Window = SNew(SWindow);
-	Application().AddWindow(Window.ToSharedRef());
-}
-
-FTextTest::~FTextTest()
-{
-	Text.Reset();
-	Window.Reset();
-	FSlateApplication::Shutdown();
-}
-
-FTextBlockStyle FTextTest::MakeStyle()
-{
-	FTextBlockStyle Style;
-	Style.SetFont(FSlateFontInfo("Regular", Letter));
+	Style.SetFont(FSlateFontInfo("Regular", Points));
 	Style.SetSelectedBackgroundColor(SelectionColor);
-	return Style;
 }
 
 void FTextTest::Show(const TSharedRef<SWidget>& Content, float Width, float Height, float Scale)
 {
-	Window->SetClientArea(FVector2D(Width, Height) * Scale, Scale);
-	Window->SetContent(Content);
-	Frame();
-}
-
-void FTextTest::Frame(float Seconds)
-{
-	FTSTicker::GetCoreTicker().Tick(Seconds);
-	Application().Tick(Seconds);
+	GetWindow()->SetContent(Content);
+	SetScale(Scale);
+	Resize(FVector2D(Width, Height));
 }
 
 SMultiLineEditableText::FArguments FTextTest::Arguments()
@@ -65,12 +44,7 @@ void FTextTest::ShowText(const SMultiLineEditableText::FArguments& Args, float W
 FTextScreen FTextTest::ReadScreen()
 {
 	Frame();
-	return FTextScreen(*Window->GetDisplayList(), SelectionColor, Row * Window->GetDPIScaleFactor());
-}
-
-FString FTextTest::Screen()
-{
-	return ReadScreen().ToString();
+	return FTextScreen(*GetWindow()->GetDisplayList(), SelectionColor, Row * GetWindow()->GetDPIScaleFactor());
 }
 
 void FTextTest::Focus()
@@ -79,78 +53,22 @@ void FTextTest::Focus()
 	Frame();
 }
 
-FPointerEvent FTextTest::MakePointer(float X, float Y, const FKey& Button, float WheelDelta, const FModifierKeysState& Modifiers)
+void FTextTest::ClickLetter(int32 Column, int32 RowIndex)
 {
-	MousePosition = FVector2D(X, Y);
-	return FPointerEvent(MousePosition, Button, WheelDelta, Modifiers);
+	ClickAt(FVector2D(Column * Letter + 1.0, RowIndex * Row + 5.0));
 }
 
-void FTextTest::Press(float X, float Y, const FModifierKeysState& Modifiers)
+void FTextTest::DoubleClickLetter(int32 Column, int32 RowIndex)
 {
-	MoveMouse(X, Y);
-	Application().ProcessMouseButtonDownEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::LeftMouseButton, 0.0f, Modifiers));
-	Frame();
+	DoubleClickAt(FVector2D(Column * Letter + 1.0, RowIndex * Row + 5.0));
 }
 
-void FTextTest::MoveMouse(float X, float Y)
-{
-	Application().ProcessMouseMoveEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::Invalid));
-	Frame();
-}
-
-void FTextTest::Release()
-{
-	const float X = static_cast<float>(MousePosition.X);
-	const float Y = static_cast<float>(MousePosition.Y);
-	Application().ProcessMouseButtonUpEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::LeftMouseButton));
-	Frame();
-}
-
-void FTextTest::Click(int32 Column, int32 RowIndex, const FModifierKeysState& Modifiers)
-{
-	Press(Column * Letter + 1.0f, RowIndex * Row + 5.0f, Modifiers);
-	Release();
-}
-
-void FTextTest::DoubleClick(int32 Column, int32 RowIndex)
-{
-	Click(Column, RowIndex);
-	const FPointerEvent Event = MakePointer(Column * Letter + 1.0f, RowIndex * Row + 5.0f, EKeys::LeftMouseButton);
-	Application().ProcessMouseButtonDoubleClickEvent(Window.ToSharedRef(), Event);
-	Release();
-}
-
-bool FTextTest::Wheel(float Notches)
-{
-	const float X = static_cast<float>(MousePosition.X);
-	const float Y = static_cast<float>(MousePosition.Y);
-	const bool bTaken = Application().ProcessMouseWheelEvent(Window.ToSharedRef(), MakePointer(X, Y, EKeys::Invalid, Notches));
-	Frame();
-	return bTaken;
-}
-
-void FTextTest::Key(const FKey& InKey, const FModifierKeysState& Modifiers)
-{
-	Application().ProcessKeyDownEvent(Window.ToSharedRef(), FKeyEvent(InKey, Modifiers));
-	Application().ProcessKeyUpEvent(Window.ToSharedRef(), FKeyEvent(InKey, Modifiers));
-	Frame();
-}
-
-void FTextTest::Keys(const FKey& InKey, int32 Count, const FModifierKeysState& Modifiers)
+void FTextTest::PressTimes(const FString& Key, int32 Count)
 {
 	for (int32 Index = 0; Index < Count; ++Index)
 	{
-		Key(InKey, Modifiers);
+		Press(Key);
 	}
-}
-
-void FTextTest::Type(const TCHAR* Characters)
-{
-	for (; *Characters; ++Characters)
-	{
-		Application().ProcessKeyCharEvent(Window.ToSharedRef(), FCharacterEvent(*Characters));
-	}
-	Frame();
 }
 
 void FTextTest::Compose(const TCHAR* Composition, const TCHAR* Commit, int32 ReplaceFrom, int32 ReplaceLength)
@@ -161,6 +79,6 @@ void FTextTest::Compose(const TCHAR* Composition, const TCHAR* Commit, int32 Rep
 	Event.Commit = Commit;
 	Event.ReplaceFrom = ReplaceFrom;
 	Event.ReplaceLength = ReplaceLength;
-	Application().ProcessTextCompositionEvent(Window.ToSharedRef(), Event);
+	Application().ProcessTextCompositionEvent(GetWindow(), Event);
 	Frame();
 }

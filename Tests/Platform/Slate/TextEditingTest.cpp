@@ -15,7 +15,7 @@ protected:
 	{
 		ShowText(FString(Source));
 		Focus();
-		Key(EKeys::Home, Control());
+		Press(TEXT("Ctrl+Home"));
 		const FString Behind(Before);
 		for (int32 Step = 0; Step < 1000 && !Behind.IsEmpty(); ++Step)
 		{
@@ -23,11 +23,11 @@ protected:
 			{
 				return;
 			}
-			Key(EKeys::Right);
+			Press(TEXT("Right"));
 		}
 		if (Behind.IsEmpty())
 		{
-			Key(EKeys::End, Control());
+			Press(TEXT("Ctrl+End"));
 		}
 	}
 };
@@ -36,250 +36,141 @@ struct FKeyCase
 {
 	const TCHAR* Text;
 	const TCHAR* Before;
-	const FKey& Key;
-	FModifierKeysState Modifiers;
+	/** Keys, and between quotes what is typed. */
+	const TCHAR* Keys;
 	const TCHAR* Screen;
 };
 
 class FCaretKeys : public FTextEditing, public testing::WithParamInterface<FKeyCase>
 {
+protected:
+	void Play(const FString& Keys)
+	{
+		for (int32 Index = 0; Index < Keys.Len();)
+		{
+			const bool bTyped = Keys[Index] == TEXT('\'');
+			Index += bTyped ? 1 : 0;
+			int32 End = Index;
+			while (End < Keys.Len() && Keys[End] != (bTyped ? TEXT('\'') : TEXT(' ')))
+			{
+				++End;
+			}
+			const FString Token = Keys.Mid(Index, End - Index);
+			bTyped ? Type(Token) : Press(Token);
+			Index = End + (bTyped ? 2 : 1);
+		}
+	}
 };
 
-TEST_P(FCaretKeys, MoveOrExtend)
+TEST_P(FCaretKeys, MoveExtendAndEdit)
 {
 	Edit(GetParam().Text, GetParam().Before);
-	Key(GetParam().Key, GetParam().Modifiers);
+	Play(GetParam().Keys);
 	EXPECT_EQ(Screen(), FString(GetParam().Screen));
 }
 
-const FModifierKeysState Plain;
-const FModifierKeysState WithShift(true, false, false);
-const FModifierKeysState WithControl(false, true, false);
-const FModifierKeysState WithBoth(true, true, false);
-
 INSTANTIATE_TEST_SUITE_P(Characters, FCaretKeys,
-	testing::Values(FKeyCase{TEXT("abc"), TEXT("b"), EKeys::Right, Plain, TEXT("ab|c")},
-		FKeyCase{TEXT("abc"), TEXT("b"), EKeys::Left, Plain, TEXT("|abc")},
-		FKeyCase{TEXT("abc"), TEXT("a"), EKeys::Left, Plain, TEXT("|abc")},
-		FKeyCase{TEXT("abc"), TEXT(""), EKeys::Right, Plain, TEXT("abc|")},
-		FKeyCase{TEXT("ab\nc"), TEXT("c"), EKeys::Left, Plain, TEXT("ab|\nc")},
-		FKeyCase{TEXT("ab\nc"), TEXT("b"), EKeys::Down, Plain, TEXT("ab\nc|")},
-		FKeyCase{TEXT("x" FAMILY "y"), TEXT(FAMILY), EKeys::Right, Plain, TEXT("x" FAMILY "|y")},
-		FKeyCase{TEXT("xe\u0301y"), TEXT("y"), EKeys::Left, Plain, TEXT("x|e\u0301y")},
-		FKeyCase{TEXT("x\U0001F600y"), TEXT("y"), EKeys::Left, Plain, TEXT("x|\U0001F600y")},
+	testing::Values(FKeyCase{TEXT("abc"), TEXT("b"), TEXT("Right"), TEXT("ab|c")},
+		FKeyCase{TEXT("abc"), TEXT("b"), TEXT("Left"), TEXT("|abc")}, FKeyCase{TEXT("abc"), TEXT("a"), TEXT("Left"), TEXT("|abc")},
+		FKeyCase{TEXT("abc"), TEXT(""), TEXT("Right"), TEXT("abc|")}, FKeyCase{TEXT("ab\nc"), TEXT("c"), TEXT("Left"), TEXT("ab|\nc")},
+		FKeyCase{TEXT("ab\nc"), TEXT("b"), TEXT("Down"), TEXT("ab\nc|")},
+		FKeyCase{TEXT("x" FAMILY "y"), TEXT(FAMILY), TEXT("Right"), TEXT("x" FAMILY "|y")},
+		FKeyCase{TEXT("xe\u0301y"), TEXT("y"), TEXT("Left"), TEXT("x|e\u0301y")},
+		FKeyCase{TEXT("x\U0001F600y"), TEXT("y"), TEXT("Left"), TEXT("x|\U0001F600y")},
 		// In a paragraph that runs from right to left the arrows keep to what the eye sees.
-		FKeyCase{TEXT("\u05D0\u05D1\u05D2"), TEXT(""), EKeys::Right, Plain, TEXT("\u05D2|\u05D1\u05D0")}));
+		FKeyCase{TEXT("\u05D0\u05D1\u05D2"), TEXT(""), TEXT("Right"), TEXT("\u05D2|\u05D1\u05D0")}));
 
 INSTANTIATE_TEST_SUITE_P(Words, FCaretKeys,
-	testing::Values(FKeyCase{TEXT("Lorem ipsum dolor"), TEXT("rem"), EKeys::Right, WithControl, TEXT("Lorem |ipsum dolor")},
-		FKeyCase{TEXT("Lorem ipsum dolor"), TEXT("m dolor"), EKeys::Left, WithControl, TEXT("Lorem |ipsum dolor")},
-		FKeyCase{TEXT("Lorem ipsum"), TEXT("ipsum"), EKeys::Left, WithControl, TEXT("|Lorem ipsum")},
-		FKeyCase{TEXT("a, b"), TEXT("a"), EKeys::Right, WithControl, TEXT("a|, b")},
-		FKeyCase{TEXT("a\nb"), TEXT("b"), EKeys::Left, WithControl, TEXT("a|\nb")},
-		FKeyCase{TEXT("one two"), TEXT("two"), EKeys::Right, WithBoth, TEXT("one [two]|")}));
+	testing::Values(FKeyCase{TEXT("Lorem ipsum dolor"), TEXT("rem"), TEXT("Ctrl+Right"), TEXT("Lorem |ipsum dolor")},
+		FKeyCase{TEXT("Lorem ipsum dolor"), TEXT("m dolor"), TEXT("Ctrl+Left"), TEXT("Lorem |ipsum dolor")},
+		FKeyCase{TEXT("Lorem ipsum"), TEXT("ipsum"), TEXT("Ctrl+Left"), TEXT("|Lorem ipsum")},
+		FKeyCase{TEXT("a, b"), TEXT("a"), TEXT("Ctrl+Right"), TEXT("a|, b")},
+		FKeyCase{TEXT("a\nb"), TEXT("b"), TEXT("Ctrl+Left"), TEXT("a|\nb")},
+		FKeyCase{TEXT("one two"), TEXT("two"), TEXT("Ctrl+Shift+Right"), TEXT("one [two]|")}));
 
 INSTANTIATE_TEST_SUITE_P(Lines, FCaretKeys,
-	testing::Values(FKeyCase{TEXT("ab\ncd"), TEXT("d"), EKeys::Home, Plain, TEXT("ab\n|cd")},
-		FKeyCase{TEXT("ab\ncd"), TEXT("b"), EKeys::End, Plain, TEXT("ab|\ncd")},
-		FKeyCase{TEXT("ab\ncd"), TEXT("d"), EKeys::Home, WithControl, TEXT("|ab\ncd")},
-		FKeyCase{TEXT("ab\ncd"), TEXT("b"), EKeys::End, WithControl, TEXT("ab\ncd|")},
-		FKeyCase{TEXT("ab\ncd"), TEXT("d"), EKeys::Up, Plain, TEXT("a|b\ncd")},
-		FKeyCase{TEXT("ab\ncd"), TEXT("b"), EKeys::Up, Plain, TEXT("|ab\ncd")},
-		FKeyCase{TEXT("ab\ncd"), TEXT("d"), EKeys::Down, Plain, TEXT("ab\ncd|")}));
+	testing::Values(FKeyCase{TEXT("ab\ncd"), TEXT("d"), TEXT("Home"), TEXT("ab\n|cd")},
+		FKeyCase{TEXT("ab\ncd"), TEXT("b"), TEXT("End"), TEXT("ab|\ncd")},
+		FKeyCase{TEXT("ab\ncd"), TEXT("d"), TEXT("Ctrl+Home"), TEXT("|ab\ncd")},
+		FKeyCase{TEXT("ab\ncd"), TEXT("b"), TEXT("Ctrl+End"), TEXT("ab\ncd|")},
+		FKeyCase{TEXT("ab\ncd"), TEXT("d"), TEXT("Up"), TEXT("a|b\ncd")}, FKeyCase{TEXT("ab\ncd"), TEXT("b"), TEXT("Up"), TEXT("|ab\ncd")},
+		FKeyCase{TEXT("ab\ncd"), TEXT("d"), TEXT("Down"), TEXT("ab\ncd|")}));
 
 INSTANTIATE_TEST_SUITE_P(Selecting, FCaretKeys,
-	testing::Values(FKeyCase{TEXT("abc"), TEXT("b"), EKeys::Right, WithShift, TEXT("a[b]|c")},
-		FKeyCase{TEXT("abc"), TEXT("b"), EKeys::Left, WithShift, TEXT("|[a]bc")},
-		FKeyCase{TEXT("ab\ncd"), TEXT("b"), EKeys::Down, WithShift, TEXT("a[b]\n[c]|d")},
-		FKeyCase{TEXT("abc"), TEXT("b"), EKeys::End, WithShift, TEXT("a[bc]|")},
-		FKeyCase{TEXT("abc"), TEXT("c"), EKeys::A, WithControl, TEXT("[abc]|")},
+	testing::Values(FKeyCase{TEXT("abc"), TEXT("b"), TEXT("Shift+Right"), TEXT("a[b]|c")},
+		FKeyCase{TEXT("abc"), TEXT("b"), TEXT("Shift+Left"), TEXT("|[a]bc")},
+		FKeyCase{TEXT("ab\ncd"), TEXT("b"), TEXT("Shift+Down"), TEXT("a[b]\n[c]|d")},
+		FKeyCase{TEXT("abc"), TEXT("b"), TEXT("Shift+End"), TEXT("a[bc]|")},
+		FKeyCase{TEXT("abc"), TEXT("c"), TEXT("Ctrl+A"), TEXT("[abc]|")},
 		// A selection over two directions is in two pieces.
-		FKeyCase{TEXT("ab\u05D0\u05D1cd"), TEXT("\u05D1\u05D0cd"), EKeys::A, WithControl, TEXT("[ab\u05D1\u05D0cd]|")}));
+		FKeyCase{TEXT("ab\u05D0\u05D1cd"), TEXT("\u05D1\u05D0cd"), TEXT("Ctrl+A"), TEXT("[ab\u05D1\u05D0cd]|")}));
 
-TEST_F(FTextEditing, UpAndDownKeepTheColumnOverShortLines)
-{
-	Edit(TEXT("abcdef\nab\nabcdef"), TEXT("ef\n"));
-	Key(EKeys::Home, Control());
-	Keys(EKeys::Right, 4);
-	Key(EKeys::Down);
-	EXPECT_EQ(Screen(), FString(TEXT("abcdef\nab|\nabcdef")));
-	Key(EKeys::Down);
-	EXPECT_EQ(Screen(), FString(TEXT("abcdef\nab\nabcd|ef")));
-}
+INSTANTIATE_TEST_SUITE_P(Columns, FCaretKeys,
+	testing::Values(FKeyCase{TEXT("abcdef\nab\nabcdef"), TEXT("ef\nab"), TEXT("Down"), TEXT("abcdef\nab|\nabcdef")},
+		FKeyCase{TEXT("abcdef\nab\nabcdef"), TEXT("ef\nab"), TEXT("Down Down"), TEXT("abcdef\nab\nabcd|ef")},
+		FKeyCase{TEXT("abcd"), TEXT("b"), TEXT("Shift+Right Shift+Right Left"), TEXT("a|bcd")},
+		FKeyCase{TEXT("abcd"), TEXT("b"), TEXT("Shift+Right Shift+Right Right"), TEXT("abc|d")}));
+
+INSTANTIATE_TEST_SUITE_P(Erasing, FCaretKeys,
+	testing::Values(FKeyCase{TEXT("xe\u0301" FAMILY "y"), TEXT("y"), TEXT("BackSpace"), TEXT("xe\u0301|y")},
+		FKeyCase{TEXT("xe\u0301" FAMILY "y"), TEXT("y"), TEXT("BackSpace BackSpace"), TEXT("x|y")},
+		FKeyCase{TEXT("e\u0301" FAMILY "!y"), TEXT(""), TEXT("Home Delete Delete"), TEXT("|!y")},
+		FKeyCase{TEXT("one two three"), TEXT("two"), TEXT("Ctrl+Delete"), TEXT("one |three")},
+		FKeyCase{TEXT("one two three"), TEXT("two"), TEXT("Ctrl+BackSpace"), TEXT("|two three")},
+		FKeyCase{TEXT("ab\ncd"), TEXT("cd"), TEXT("BackSpace"), TEXT("ab|cd")},
+		FKeyCase{TEXT("ab\ncd"), TEXT("cd"), TEXT("Left Delete"), TEXT("ab|cd")}));
+
+INSTANTIATE_TEST_SUITE_P(Typing, FCaretKeys,
+	testing::Values(FKeyCase{TEXT("xy"), TEXT("y"), TEXT("'\U0001F600!'"), TEXT("x\U0001F600!|y")},
+		FKeyCase{TEXT("abcd"), TEXT("cd"), TEXT("Enter"), TEXT("ab\n|cd")},
+		FKeyCase{TEXT("one two three"), TEXT("two"), TEXT("Ctrl+Shift+Right '2 '"), TEXT("one 2 |three")}));
+
+INSTANTIATE_TEST_SUITE_P(Undoing, FCaretKeys,
+	testing::Values(FKeyCase{TEXT(""), TEXT(""), TEXT("'one two' Ctrl+Z"), TEXT("one |")},
+		FKeyCase{TEXT(""), TEXT(""), TEXT("'one two' Ctrl+Z Ctrl+Z"), TEXT("|")},
+		FKeyCase{TEXT(""), TEXT(""), TEXT("'one two' Ctrl+Z Ctrl+Z Ctrl+Z Ctrl+Y Ctrl+Shift+Z Ctrl+Y"), TEXT("one two|")},
+		FKeyCase{TEXT("one two three"), TEXT("two"), TEXT("Ctrl+Shift+Right Delete Ctrl+Z"), TEXT("one [two ]|three")},
+		FKeyCase{TEXT("one two three"), TEXT("one"), TEXT("Delete Delete Delete Ctrl+Z"), TEXT("|one two three")},
+		FKeyCase{TEXT("one two three"), TEXT(""), TEXT("BackSpace BackSpace BackSpace Ctrl+Z"), TEXT("one two three|")},
+		FKeyCase{TEXT(""), TEXT(""), TEXT("'a' Ctrl+Z 'b' Ctrl+Y"), TEXT("b|")},
+		FKeyCase{TEXT(""), TEXT(""), TEXT("'ac' Left 'b' Ctrl+Z"), TEXT("a|c")},
+		FKeyCase{TEXT("1\n2"), TEXT(""), TEXT("Ctrl+A Ctrl+C Ctrl+End Ctrl+V 'x' Ctrl+Z Ctrl+Z"), TEXT("1\n2|")},
+		FKeyCase{TEXT("1\n2"), TEXT(""), TEXT("Ctrl+A Ctrl+C Ctrl+End Ctrl+V 'x' Ctrl+Z Ctrl+Z Ctrl+Y Ctrl+Y"), TEXT("1\n21\n2x|")}));
+
+INSTANTIATE_TEST_SUITE_P(Clipboard, FCaretKeys,
+	testing::Values(
+		FKeyCase{TEXT("one two\nthree"), TEXT("two"), TEXT("Ctrl+Shift+End Ctrl+X Ctrl+V Ctrl+V"), TEXT("one two\nthreetwo\nthree|")},
+		FKeyCase{TEXT("one"), TEXT(""), TEXT("Shift+Left Ctrl+C Right Ctrl+C Ctrl+X Ctrl+V"), TEXT("onee|")}));
 
 TEST_F(FTextEditing, AtAWrapTheCaretStaysOnTheLineOfTheKey)
 {
 	ShowText(FString(TEXT("abcdefgh")), 41.0f);
 	Focus();
-	Key(EKeys::Home, Control());
-	Key(EKeys::End);
+	Press(TEXT("Ctrl+Home"));
+	Press(TEXT("End"));
 	EXPECT_EQ(Screen(), FString(TEXT("abcd|\nefgh")));
-	Key(EKeys::Right);
+	Press(TEXT("Right"));
 	EXPECT_EQ(Screen(), FString(TEXT("abcd\ne|fgh")));
-	Key(EKeys::Home);
+	Press(TEXT("Home"));
 	EXPECT_EQ(Screen(), FString(TEXT("abcd\n|efgh")));
-}
-
-TEST_F(FTextEditing, AnArrowEndsASelectionAtItsEdge)
-{
-	Edit(TEXT("abcd"), TEXT("b"));
-	Keys(EKeys::Right, 2, Shift());
-	Key(EKeys::Left);
-	EXPECT_EQ(Screen(), FString(TEXT("a|bcd")));
-	Keys(EKeys::Right, 2, Shift());
-	Key(EKeys::Right);
-	EXPECT_EQ(Screen(), FString(TEXT("abc|d")));
-}
-
-TEST_F(FTextEditing, TypingAndErasingGoByCharacters)
-{
-	Edit(TEXT("xe\u0301" FAMILY "y"), TEXT("y"));
-	Key(EKeys::BackSpace);
-	EXPECT_EQ(Typed(), FString(TEXT("xe\u0301y")));
-	Key(EKeys::BackSpace);
-	EXPECT_EQ(Typed(), FString(TEXT("xy")));
-	Type(TEXT("\U0001F600!"));
-	EXPECT_EQ(Typed(), FString(TEXT("x\U0001F600!y")));
-	Key(EKeys::Home);
-	Key(EKeys::Delete);
-	Key(EKeys::Delete);
-	EXPECT_EQ(Screen(), FString(TEXT("|!y")));
-}
-
-TEST_F(FTextEditing, ControlErasesWords)
-{
-	Edit(TEXT("one two three"), TEXT("two"));
-	Key(EKeys::Delete, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("one |three")));
-	Key(EKeys::BackSpace, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("|three")));
-}
-
-TEST_F(FTextEditing, ErasingALineEndJoinsLines)
-{
-	Edit(TEXT("ab\ncd"), TEXT("cd"));
-	Key(EKeys::BackSpace);
-	EXPECT_EQ(Screen(), FString(TEXT("ab|cd")));
-	Key(EKeys::Enter);
-	EXPECT_EQ(Screen(), FString(TEXT("ab\n|cd")));
-	Key(EKeys::Left);
-	Key(EKeys::Delete);
-	EXPECT_EQ(Typed(), FString(TEXT("abcd")));
-}
-
-TEST_F(FTextEditing, TypingReplacesWhatIsSelected)
-{
-	Edit(TEXT("one two three"), TEXT("two"));
-	Key(EKeys::Right, ControlShift());
-	Type(TEXT("2 "));
-	EXPECT_EQ(Screen(), FString(TEXT("one 2 |three")));
 }
 
 TEST_F(FTextEditing, CommandsAndControlCharactersAreNotText)
 {
 	Edit(TEXT(""));
-	Application().ProcessKeyCharEvent(Window.ToSharedRef(), FCharacterEvent(TEXT('a'), Control()));
-	Application().ProcessKeyCharEvent(Window.ToSharedRef(), FCharacterEvent(TEXT('\b')));
-	Application().ProcessKeyCharEvent(Window.ToSharedRef(), FCharacterEvent(0x7F));
+	Application().ProcessKeyCharEvent(GetWindow(), FCharacterEvent(TEXT('a'), FModifierKeysState(false, true, false)));
+	Application().ProcessKeyCharEvent(GetWindow(), FCharacterEvent(TEXT('\b')));
+	Application().ProcessKeyCharEvent(GetWindow(), FCharacterEvent(0x7F));
 	// The third level of many keyboards.
-	Application().ProcessKeyCharEvent(Window.ToSharedRef(), FCharacterEvent(TEXT('@'), FModifierKeysState(false, true, true)));
+	Application().ProcessKeyCharEvent(GetWindow(), FCharacterEvent(TEXT('@'), FModifierKeysState(false, true, true)));
 	EXPECT_EQ(Typed(), FString(TEXT("@")));
-}
-
-TEST_F(FTextEditing, UndoTakesBackWordsAndGivesThemBack)
-{
-	Edit(TEXT(""));
-	Type(TEXT("one two"));
-	Key(EKeys::Z, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("one |")));
-	Key(EKeys::Z, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("|")));
-	Key(EKeys::Z, Control());
-	Key(EKeys::Y, Control());
-	Key(EKeys::Z, ControlShift());
-	EXPECT_EQ(Screen(), FString(TEXT("one two|")));
-	Key(EKeys::Y, Control());
-	EXPECT_EQ(Typed(), FString(TEXT("one two")));
-}
-
-TEST_F(FTextEditing, UndoRestoresCaretAndSelection)
-{
-	Edit(TEXT("one two three"), TEXT("two"));
-	Key(EKeys::Right, ControlShift());
-	Key(EKeys::Delete);
-	EXPECT_EQ(Screen(), FString(TEXT("one |three")));
-	Key(EKeys::Z, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("one [two ]|three")));
-	Key(EKeys::Home);
-	Keys(EKeys::Delete, 3);
-	Key(EKeys::Z, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("|one two three")));
-	Key(EKeys::End);
-	Keys(EKeys::BackSpace, 3);
-	Key(EKeys::Z, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("one two three|")));
-}
-
-TEST_F(FTextEditing, ANewEditEndsWhatCouldBeRedone)
-{
-	Edit(TEXT(""));
-	Type(TEXT("a"));
-	Key(EKeys::Z, Control());
-	Type(TEXT("b"));
-	Key(EKeys::Y, Control());
-	EXPECT_EQ(Typed(), FString(TEXT("b")));
-}
-
-TEST_F(FTextEditing, MovingTheCaretEndsAStepOfUndo)
-{
-	Edit(TEXT(""));
-	Type(TEXT("ac"));
-	Key(EKeys::Left);
-	Type(TEXT("b"));
-	Key(EKeys::Z, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("a|c")));
-}
-
-TEST_F(FTextEditing, UndoWorksAcrossLines)
-{
-	Edit(TEXT("a"));
-	Desktop->Clipboard = TEXT("1\n2\n3");
-	Key(EKeys::V, Control());
-	Type(TEXT("x"));
-	EXPECT_EQ(Screen(), FString(TEXT("a1\n2\n3x|")));
-	Keys(EKeys::Z, 2, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("a|")));
-	Keys(EKeys::Y, 2, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("a1\n2\n3x|")));
-}
-
-TEST_F(FTextEditing, TheClipboardTakesAndGivesText)
-{
-	Edit(TEXT("one two\nthree"), TEXT("two"));
-	Key(EKeys::End, ControlShift());
-	Key(EKeys::C, Control());
-	EXPECT_EQ(Desktop->Clipboard, FString(TEXT("two\nthree")));
-	Key(EKeys::X, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("one |")));
-	Keys(EKeys::V, 2, Control());
-	EXPECT_EQ(Screen(), FString(TEXT("one two\nthreetwo\nthree|")));
-}
-
-TEST_F(FTextEditing, CopyingNothingLeavesTheClipboardAlone)
-{
-	Edit(TEXT("one"));
-	Desktop->Clipboard = TEXT("kept");
-	Key(EKeys::C, Control());
-	Key(EKeys::X, Control());
-	EXPECT_EQ(Desktop->Clipboard, FString(TEXT("kept")));
-	EXPECT_EQ(Typed(), FString(TEXT("one")));
 }
 
 TEST_F(FTextEditing, PastedTextLosesControlCharactersAndKeepsTabs)
 {
 	Edit(TEXT(""));
-	Desktop->Clipboard = FString(TEXT("a\r\nb\rc\u2028d\te\x1B[31m\x7F"));
-	Key(EKeys::V, Control());
+	GetDesktop().Clipboard = FString(TEXT("a\r\nb\rc\u2028d\te\x1B[31m\x7F"));
+	Press(TEXT("Ctrl+V"));
 	EXPECT_EQ(Typed(), FString(TEXT("a\nb\nc\nd\te[31m")));
 }
 
@@ -288,28 +179,28 @@ TEST_F(FTextEditing, AMegabyteIsPastedAndEdited)
 	Edit(TEXT(""));
 	for (int32 Line = 0; Line < 20000; ++Line)
 	{
-		Desktop->Clipboard += TEXT("A line of fifty letters, which stands for a log.\n");
+		GetDesktop().Clipboard += TEXT("A line of fifty letters, which stands for a log.\n");
 	}
-	Key(EKeys::V, Control());
+	Press(TEXT("Ctrl+V"));
 	Type(TEXT("x"));
-	EXPECT_EQ(Typed().Len(), Desktop->Clipboard.Len() + 1);
+	EXPECT_EQ(Typed().Len(), GetDesktop().Clipboard.Len() + 1);
 	EXPECT_TRUE(Screen().EndsWith(TEXT("log.\nx|")));
-	Keys(EKeys::Z, 2, Control());
+	PressTimes(TEXT("Ctrl+Z"), 2);
 	EXPECT_TRUE(Typed().IsEmpty());
 }
 
 TEST_F(FTextEditing, AReadOnlyTextIsOnlyRead)
 {
 	ShowText(Arguments().Text(INVTEXT("one two")).IsReadOnly(true));
-	DoubleClick(5);
+	DoubleClickLetter(5);
 	Type(TEXT("x"));
-	Key(EKeys::BackSpace);
-	Key(EKeys::X, Control());
-	Key(EKeys::V, Control());
+	Press(TEXT("BackSpace"));
+	Press(TEXT("Ctrl+X"));
+	Press(TEXT("Ctrl+V"));
 	EXPECT_EQ(Screen(), FString(TEXT("one [two]")));
-	Key(EKeys::C, Control());
-	EXPECT_EQ(Desktop->Clipboard, FString(TEXT("two")));
-	Key(EKeys::A, Control());
-	Key(EKeys::C, Control());
-	EXPECT_EQ(Desktop->Clipboard, FString(TEXT("one two")));
+	Press(TEXT("Ctrl+C"));
+	EXPECT_EQ(GetDesktop().Clipboard, FString(TEXT("two")));
+	Press(TEXT("Ctrl+A"));
+	Press(TEXT("Ctrl+C"));
+	EXPECT_EQ(GetDesktop().Clipboard, FString(TEXT("one two")));
 }

@@ -40,12 +40,12 @@ TEST_F(FTextInput, EnterCommitsAndWithTheModifierMakesALine)
 {
 	ShowInput();
 	Type(TEXT("a"));
-	Key(EKeys::Enter, Shift());
+	Press(TEXT("Shift+Enter"));
 	Type(TEXT("b"));
-	Key(EKeys::Enter);
+	Press(TEXT("Enter"));
 	EXPECT_EQ(Commits, TArray<FString>({FString(TEXT("Enter:a\nb"))}));
 	EXPECT_EQ(Typed(), FString(TEXT("a\nb")));
-	Key(EKeys::Enter, Control());
+	Press(TEXT("Ctrl+Enter"));
 	EXPECT_EQ(Commits.Num(), 2);
 }
 
@@ -54,7 +54,7 @@ TEST_F(FTextInput, WithoutAModifierEnterMakesALine)
 	ShowText(InputArguments().ModiferKeyForNewLine(EModifierKey::None));
 	Focus();
 	Type(TEXT("a"));
-	Key(EKeys::Enter);
+	Press(TEXT("Enter"));
 	EXPECT_EQ(Typed(), FString(TEXT("a\n")));
 	EXPECT_TRUE(Commits.IsEmpty());
 }
@@ -63,9 +63,9 @@ TEST_F(FTextInput, ASingleLineTakesNoLineEnds)
 {
 	ShowText(InputArguments().ModiferKeyForNewLine(EModifierKey::None).AllowMultiLine(false));
 	Focus();
-	Desktop->Clipboard = TEXT("a\r\nb");
-	Key(EKeys::V, Control());
-	Key(EKeys::Enter);
+	GetDesktop().Clipboard = TEXT("a\r\nb");
+	Press(TEXT("Ctrl+V"));
+	Press(TEXT("Enter"));
 	EXPECT_EQ(Commits, TArray<FString>({FString(TEXT("Enter:a b"))}));
 }
 
@@ -73,8 +73,8 @@ TEST_F(FTextInput, LosingTheFocusCommitsAndClearsTheSelection)
 {
 	ShowInput();
 	Type(TEXT("abc"));
-	Key(EKeys::A, Control());
-	Application().ClearKeyboardFocus();
+	Press(TEXT("Ctrl+A"));
+	ClearFocus();
 	EXPECT_EQ(Commits, TArray<FString>({FString(TEXT("Focus:abc"))}));
 	EXPECT_EQ(Screen(), FString(TEXT("abc")));
 }
@@ -83,8 +83,8 @@ TEST_F(FTextInput, EveryChangeByTheUserIsTold)
 {
 	ShowInput();
 	Type(TEXT("ab"));
-	Key(EKeys::Left);
-	Key(EKeys::BackSpace);
+	Press(TEXT("Left"));
+	Press(TEXT("BackSpace"));
 	Text->SetText(INVTEXT("set"));
 	EXPECT_EQ(Changes, TArray<FString>({FString(TEXT("a")), FString(TEXT("ab")), FString(TEXT("b"))}));
 }
@@ -95,7 +95,7 @@ TEST_F(FTextInput, ATextThatIsSetReplacesWhatWasTypedAndItsHistory)
 	Type(TEXT("typed"));
 	Text->SetText(FText::GetEmpty());
 	EXPECT_EQ(Screen(), FString(TEXT("|")));
-	Key(EKeys::Z, Control());
+	Press(TEXT("Ctrl+Z"));
 	EXPECT_EQ(Typed(), FString());
 	Text->SetText(INVTEXT("given back"));
 	EXPECT_EQ(Screen(), FString(TEXT("given back|")));
@@ -105,10 +105,10 @@ TEST_F(FTextInput, EscapeClearsTheSelectionAndIsThenLeftToOthers)
 {
 	ShowInput();
 	Type(TEXT("abc"));
-	Key(EKeys::A, Control());
-	EXPECT_TRUE(Application().ProcessKeyDownEvent(Window.ToSharedRef(), FKeyEvent(EKeys::Escape)));
+	Press(TEXT("Ctrl+A"));
+	EXPECT_TRUE(Application().ProcessKeyDownEvent(GetWindow(), FKeyEvent(EKeys::Escape)));
 	EXPECT_EQ(Screen(), FString(TEXT("abc|")));
-	EXPECT_FALSE(Application().ProcessKeyDownEvent(Window.ToSharedRef(), FKeyEvent(EKeys::Escape)));
+	EXPECT_FALSE(Application().ProcessKeyDownEvent(GetWindow(), FKeyEvent(EKeys::Escape)));
 }
 
 TEST_F(FTextInput, AHintStandsInAnEmptyText)
@@ -120,7 +120,7 @@ TEST_F(FTextInput, AHintStandsInAnEmptyText)
 	Focus();
 	Type(TEXT("x"));
 	EXPECT_EQ(Screen(), FString(TEXT("x|")));
-	Key(EKeys::BackSpace);
+	Press(TEXT("BackSpace"));
 	EXPECT_EQ(Screen(), FString(TEXT("|Type here")));
 }
 
@@ -128,7 +128,7 @@ TEST_F(FTextInput, WhatIsComposedIsShownButNotYetText)
 {
 	ShowInput();
 	Type(TEXT("ab"));
-	Key(EKeys::Left);
+	Press(TEXT("Left"));
 	Compose(TEXT("ni"));
 	EXPECT_EQ(Screen(), FString(TEXT("a{ni}|b")));
 	EXPECT_EQ(Typed(), FString(TEXT("ab")));
@@ -136,7 +136,7 @@ TEST_F(FTextInput, WhatIsComposedIsShownButNotYetText)
 	EXPECT_EQ(Screen(), FString(TEXT("a{nih}|b")));
 	Compose(TEXT(""), TEXT("\u4F60"));
 	EXPECT_EQ(Screen(), FString(TEXT("a\u4F60|b")));
-	Key(EKeys::Z, Control());
+	Press(TEXT("Ctrl+Z"));
 	EXPECT_EQ(Screen(), FString(TEXT("a|b")));
 }
 
@@ -144,11 +144,11 @@ TEST_F(FTextInput, AnEnterWithinACompositionCommitsNothing)
 {
 	ShowInput();
 	Compose(TEXT("ni"));
-	Key(EKeys::Enter);
+	Press(TEXT("Enter"));
 	EXPECT_TRUE(Commits.IsEmpty());
 	Compose(TEXT(""), TEXT("\u4F60"));
 	EXPECT_TRUE(Commits.IsEmpty());
-	Key(EKeys::Enter);
+	Press(TEXT("Enter"));
 	EXPECT_EQ(Commits, TArray<FString>({FString(TEXT("Enter:\u4F60"))}));
 }
 
@@ -156,13 +156,13 @@ TEST_F(FTextInput, ACompositionReplacesTheSelectionAndCanBeGivenUp)
 {
 	ShowInput();
 	Type(TEXT("abc"));
-	Key(EKeys::Left, Shift());
+	Press(TEXT("Shift+Left"));
 	Compose(TEXT("ni"));
 	EXPECT_EQ(Screen(), FString(TEXT("ab{ni}|")));
-	Key(EKeys::Escape);
+	Press(TEXT("Escape"));
 	EXPECT_EQ(Screen(), FString(TEXT("ab|")));
 	Compose(TEXT("ni"));
-	Application().ClearKeyboardFocus();
+	ClearFocus();
 	EXPECT_EQ(Commits, TArray<FString>({FString(TEXT("Focus:ab"))}));
 	EXPECT_EQ(Screen(), FString(TEXT("ab")));
 }
@@ -172,14 +172,14 @@ TEST_F(FTextInput, GoingElsewhereGivesACompositionUp)
 	ShowInput();
 	Type(TEXT("ab"));
 	Compose(TEXT("ni"));
-	Key(EKeys::A, Control());
+	Press(TEXT("Ctrl+A"));
 	EXPECT_EQ(Screen(), FString(TEXT("[ab]|")));
-	Key(EKeys::End);
+	Press(TEXT("End"));
 	Compose(TEXT("ni"));
-	Key(EKeys::Left);
+	Press(TEXT("Left"));
 	EXPECT_EQ(Screen(), FString(TEXT("a|b")));
 	Compose(TEXT("ni"));
-	Click(0);
+	ClickLetter(0);
 	EXPECT_EQ(Screen(), FString(TEXT("|ab")));
 }
 
@@ -195,13 +195,13 @@ TEST_F(FTextInput, InputMethodsLearnWhereTheCaretIs)
 {
 	ShowInput();
 	Type(TEXT("ab"));
-	ASSERT_TRUE(Desktop->InputArea.IsSet());
-	EXPECT_EQ(Desktop->InputArea->GetTopLeft(), FVector2D(2 * Letter, 0.0));
-	EXPECT_EQ(Desktop->InputArea->Bottom, Row);
-	Key(EKeys::Enter, Shift());
-	EXPECT_EQ(Desktop->InputArea->GetTopLeft(), FVector2D(0.0, Row));
-	Application().ClearKeyboardFocus();
-	EXPECT_FALSE(Desktop->InputArea.IsSet());
+	ASSERT_TRUE(GetDesktop().TextInputArea.IsSet());
+	EXPECT_EQ(GetDesktop().TextInputArea->GetTopLeft(), FVector2D(2 * Letter, 0.0));
+	EXPECT_EQ(GetDesktop().TextInputArea->Bottom, Row);
+	Press(TEXT("Shift+Enter"));
+	EXPECT_EQ(GetDesktop().TextInputArea->GetTopLeft(), FVector2D(0.0, Row));
+	ClearFocus();
+	EXPECT_FALSE(GetDesktop().TextInputArea.IsSet());
 }
 
 TEST_F(FTextInput, TheCaretBlinksAndNothingElseIsPainted)
@@ -209,19 +209,19 @@ TEST_F(FTextInput, TheCaretBlinksAndNothingElseIsPainted)
 	ShowInput();
 	Type(TEXT("ab"));
 	EXPECT_EQ(Screen(), FString(TEXT("ab|")));
-	Window->TakeDamage();
-	Frame(0.3f);
-	EXPECT_TRUE(Window->TakeDamage().IsEmpty());
-	Frame(0.3f);
+	GetWindow()->TakeDamage();
+	AdvanceTime(0.3f);
+	EXPECT_TRUE(GetWindow()->TakeDamage().IsEmpty());
+	AdvanceTime(0.3f);
 	EXPECT_EQ(Screen(), FString(TEXT("ab")));
-	const TArray<FSlateRect> Damage = Window->TakeDamage();
+	const TArray<FSlateRect> Damage = GetWindow()->TakeDamage();
 	ASSERT_EQ(Damage.Num(), 1);
 	EXPECT_LE(Damage[0].GetSize().X, 4.0);
 	EXPECT_EQ(Application().GetFrameStats().NumDesiredSizes, 0);
-	Frame(0.5f);
+	AdvanceTime(0.5f);
 	EXPECT_EQ(Screen(), FString(TEXT("ab|")));
-	Application().ClearKeyboardFocus();
-	Frame(0.0f);
+	ClearFocus();
+	Frame();
 	EXPECT_FALSE(FTSTicker::GetCoreTicker().GetTimeToNextTick().IsSet());
 }
 
@@ -229,7 +229,7 @@ TEST_F(FTextInput, BlinkingCanBeSwitchedOff)
 {
 	SMultiLineEditableText::SetCaretBlinking(false);
 	ShowInput();
-	Frame(0.6f);
+	AdvanceTime(0.6f);
 	EXPECT_EQ(Screen(), FString(TEXT("|")));
 	EXPECT_FALSE(FTSTicker::GetCoreTicker().GetTimeToNextTick().IsSet());
 	SMultiLineEditableText::SetCaretBlinking(true);
@@ -245,18 +245,17 @@ TEST_F(FTextInput, TheBoxGrowsWithItsTextAndThenScrolls)
 	Type(TEXT("1"));
 	for (const TCHAR* Line : {TEXT("2"), TEXT("3"), TEXT("4"), TEXT("5")})
 	{
-		Key(EKeys::Enter);
+		Press(TEXT("Enter"));
 		Type(Line);
 	}
 	EXPECT_EQ(Box->GetDesiredSize().Y, 60.0);
 	EXPECT_EQ(Screen(), FString(TEXT("3\n4\n5|")));
-	Key(EKeys::Home, Control());
+	Press(TEXT("Ctrl+Home"));
 	EXPECT_EQ(Screen(), FString(TEXT("|1\n2\n3")));
-	Key(EKeys::PageDown);
+	Press(TEXT("PageDown"));
 	EXPECT_EQ(Screen(), FString(TEXT("2\n3\n|4")));
-	MoveMouse(10.0f, 10.0f);
-	EXPECT_TRUE(Wheel(1.0f));
-	EXPECT_FALSE(Wheel(1.0f));
+	MoveTo(FVector2D(10.0, 10.0));
+	WheelAt(FVector2D(10.0, 10.0), 1.0f);
 	EXPECT_TRUE(Screen().StartsWith(TEXT("1\n2\n3")));
 }
 
@@ -266,7 +265,7 @@ TEST_F(FTextInput, WithoutWrappingTheCaretScrollsSideways)
 	Focus();
 	Type(TEXT("abcdefgh"));
 	EXPECT_TRUE(Screen().EndsWith(TEXT("efgh|"))) << Screen();
-	Key(EKeys::Home);
+	Press(TEXT("Home"));
 	EXPECT_EQ(Screen(), FString(TEXT("|abcde")));
 }
 
@@ -277,65 +276,63 @@ class FTextMouse : public FTextTest
 TEST_F(FTextMouse, AClickPlacesTheCaretAtTheNearestGap)
 {
 	ShowText(FString(TEXT("one two\nthree")));
-	Press(44.0f, 10.0f);
-	Release();
+	ClickAt(FVector2D(44.0, 10.0));
 	EXPECT_EQ(Screen(), FString(TEXT("one |two\nthree")));
-	Press(46.0f, 30.0f);
-	Release();
+	ClickAt(FVector2D(46.0, 30.0));
 	EXPECT_EQ(Screen(), FString(TEXT("one two\nthree|")));
-	Press(500.0f, 300.0f);
-	Release();
+	ClickAt(FVector2D(500.0, 300.0));
 	EXPECT_EQ(Screen(), FString(TEXT("one two\nthree|")));
 }
 
 TEST_F(FTextMouse, ClicksSelectWordAndLine)
 {
 	ShowText(FString(TEXT("one two three\nfour")));
-	DoubleClick(6);
+	DoubleClickLetter(6);
 	EXPECT_EQ(Screen(), FString(TEXT("one [two]| three\nfour")));
-	Click(6);
+	ClickLetter(6);
 	EXPECT_EQ(Screen(), FString(TEXT("[one two three]|\nfour")));
-	Click(6);
+	ClickLetter(6);
 	EXPECT_EQ(Screen(), FString(TEXT("one tw|o three\nfour")));
-	DoubleClick(1);
-	Frame(0.6f);
-	Click(1);
+	DoubleClickLetter(1);
+	AdvanceTime(0.6f);
+	ClickLetter(1);
 	EXPECT_EQ(Screen(), FString(TEXT("o|ne two three\nfour")));
 }
 
 TEST_F(FTextMouse, DraggingSelects)
 {
 	ShowText(FString(TEXT("one two three")));
-	Press(21.0f, 5.0f);
-	MoveMouse(61.0f, 5.0f);
+	MouseDown(FVector2D(21.0, 5.0));
+	MoveTo(FVector2D(61.0, 5.0));
 	EXPECT_EQ(Screen(), FString(TEXT("on[e tw]|o three")));
-	MoveMouse(1.0f, 5.0f);
+	MoveTo(FVector2D(1.0, 5.0));
 	EXPECT_EQ(Screen(), FString(TEXT("|[on]e two three")));
-	Release();
-	MoveMouse(100.0f, 5.0f);
+	MouseUp(FVector2D(1.0, 5.0));
+	MoveTo(FVector2D(100.0, 5.0));
 	EXPECT_EQ(Screen(), FString(TEXT("|[on]e two three")));
 }
 
 TEST_F(FTextMouse, DraggingAfterADoubleClickSelectsWords)
 {
 	ShowText(FString(TEXT("one two three")));
-	Click(5);
+	ClickLetter(5);
 	const FPointerEvent Event(FVector2D(51.0, 5.0), EKeys::LeftMouseButton);
-	Application().ProcessMouseButtonDoubleClickEvent(Window.ToSharedRef(), Event);
-	MoveMouse(95.0f, 5.0f);
+	Application().ProcessMouseButtonDoubleClickEvent(GetWindow(), Event);
+	MoveTo(FVector2D(95.0, 5.0));
 	EXPECT_EQ(Screen(), FString(TEXT("one [two three]|")));
-	MoveMouse(15.0f, 5.0f);
+	MoveTo(FVector2D(15.0, 5.0));
 	EXPECT_EQ(Screen(), FString(TEXT("|[one two] three")));
-	Release();
+	MouseUp(FVector2D(15.0, 5.0));
 }
 
 TEST_F(FTextMouse, ShiftAndAClickExtend)
 {
 	ShowText(FString(TEXT("one two three")));
-	Click(4);
-	Click(8, 0, Shift());
+	ClickLetter(4);
+	HoldModifiers(FModifierKeysState(true, false, false));
+	ClickLetter(8);
 	EXPECT_EQ(Screen(), FString(TEXT("one [two ]|three")));
-	Click(1, 0, Shift());
+	ClickLetter(1);
 	EXPECT_EQ(Screen(), FString(TEXT("o|[ne ]two three")));
 }
 
@@ -343,29 +340,29 @@ TEST_F(FTextMouse, DraggingBeyondTheEdgeScrolls)
 {
 	ShowText(FString(TEXT("1\n2\n3\n4\n5\n6")), 200.0f, 60.0f);
 	EXPECT_TRUE(Screen().StartsWith(TEXT("1\n2\n3"))) << Screen();
-	Press(1.0f, 5.0f);
-	MoveMouse(9.0f, 100.0f);
+	MouseDown(FVector2D(1.0, 5.0));
+	MoveTo(FVector2D(9.0, 100.0));
 	for (int32 Step = 0; Step < 20; ++Step)
 	{
-		Frame(0.05f);
+		AdvanceTime(0.05f);
 	}
 	EXPECT_EQ(Screen(), FString(TEXT("[4]\n[5]\n[6]|")));
-	Release();
-	Frame(0.05f);
-	Key(EKeys::C, Control());
-	EXPECT_EQ(Desktop->Clipboard, FString(TEXT("1\n2\n3\n4\n5\n6")));
+	MouseUp(FVector2D(9.0, 100.0));
+	AdvanceTime(0.05f);
+	Press(TEXT("Ctrl+C"));
+	EXPECT_EQ(GetDesktop().Clipboard, FString(TEXT("1\n2\n3\n4\n5\n6")));
 }
 
 TEST_F(FTextMouse, OtherButtonsAreLeftToOthers)
 {
 	ShowText(FString(TEXT("one")));
 	const FPointerEvent Event(FVector2D(5.0, 5.0), EKeys::RightMouseButton);
-	EXPECT_FALSE(Application().ProcessMouseButtonDownEvent(Window.ToSharedRef(), Event));
+	EXPECT_FALSE(Application().ProcessMouseButtonDownEvent(GetWindow(), Event));
 }
 
 TEST_F(FTextMouse, TheCursorIsABeam)
 {
 	ShowText(Arguments().Text(INVTEXT("one")).IsReadOnly(true));
-	MoveMouse(5.0f, 5.0f);
-	EXPECT_EQ(Desktop->Cursor, EMouseCursor::TextEditBeam);
+	MoveTo(FVector2D(5.0, 5.0));
+	EXPECT_EQ(GetDesktop().Cursor, EMouseCursor::TextEditBeam);
 }

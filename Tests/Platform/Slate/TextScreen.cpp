@@ -3,57 +3,7 @@
 #include "TextScreen.h"
 
 #include "Rendering/DrawElements.h"
-
-namespace
-{
-bool IsContinuation(FStringView Text, int32 Index)
-{
-	const TCHAR Character = Text[Index];
-	const bool bSecondHalf = Character >= 0xDC00 && Character < 0xE000;
-	const bool bCombining = (Character >= 0x0300 && Character < 0x0370) || Character == 0x200D || Character == 0xFE0F;
-	const bool bJoined = Index > 0 && Text[Index - 1] == 0x200D;
-	return bSecondHalf || bCombining || bJoined;
-}
-} // namespace
-
-TSharedRef<const FShapedText> FFixedWidthShaper::Shape(
-	FStringView Text, const FSlateFontInfo& Font, float Scale, TextBiDi::ETextDirection Direction, ETextShapingMethod)
-{
-	const TSharedRef<FReadableShapedText> Shaped = MakeShared<FReadableShapedText>();
-	Shaped->Letters = FString(Text);
-	for (int32 Index = 0; Index < Text.Len(); ++Index)
-	{
-		Shaped->CaretOffsets.Add(Shaped->Width);
-		// The carets within a character stand at its end.
-		Shaped->CaretOffsets.Last() = Shaped->Width;
-		Shaped->Width += IsContinuation(Text, Index) ? 0.0f : Font.Size * Scale;
-	}
-	Shaped->CaretOffsets.Add(Shaped->Width);
-	if (Direction == TextBiDi::ETextDirection::RightToLeft)
-	{
-		for (float& Offset : Shaped->CaretOffsets)
-		{
-			Offset = Shaped->Width - Offset;
-		}
-	}
-	return Shaped;
-}
-
-FFontMetrics FFixedWidthShaper::GetMetrics(const FSlateFontInfo& Font, float Scale)
-{
-	FFontMetrics Metrics;
-	Metrics.Ascent = Font.Size * Scale * 1.5f;
-	Metrics.Descent = Font.Size * Scale * 0.5f;
-	Metrics.LineHeight = Font.Size * Scale * 2.0f;
-	Metrics.UnderlineOffset = Scale;
-	Metrics.UnderlineThickness = Scale;
-	return Metrics;
-}
-
-void FTextTestDesktop::SetTextInputArea(bool bEnabled, const FSlateRect& CaretRect)
-{
-	InputArea = bEnabled ? TOptional<FSlateRect>(CaretRect) : TOptional<FSlateRect>();
-}
+#include "Support/EvenTextShaper.h"
 
 FTextScreen::FTextScreen(const FSlateDrawChunk& DisplayList, const FLinearColor& InSelectionColor, float InRowHeight)
 	: SelectionColor(InSelectionColor)

@@ -2,48 +2,11 @@
 
 #pragma once
 
-#include "Application/SlateDesktop.h"
-#include "Fonts/TextShaper.h"
+#include "CoreMinimal.h"
+#include "Layout/SlateRect.h"
 
+class FReadableShapedText;
 class FSlateDrawChunk;
-
-/** Shaped text that still knows its letters, so that a test can read what was painted. */
-class FReadableShapedText final : public FShapedText
-{
-public:
-	FString Letters;
-};
-
-/**
- * A font whose letters are as wide as its size: 10 points at scale 1 are 10 pixels, a line is twice as high. What continues a character, be
- * it the second half of a pair, a combining mark or what is joined by U+200D, takes no room.
- */
-class FFixedWidthShaper final : public ITextShaper
-{
-public:
-	virtual TSharedRef<const FShapedText> Shape(
-		FStringView Text, const FSlateFontInfo& Font, float Scale, TextBiDi::ETextDirection Direction, ETextShapingMethod Method) override;
-	virtual FFontMetrics GetMetrics(const FSlateFontInfo& Font, float Scale) override;
-};
-
-/** A machine without a window: a clipboard, and what the application told it. */
-class FTextTestDesktop final : public ISlateDesktop
-{
-public:
-	virtual ITextShaper& GetTextShaper() override { return Shaper; }
-	virtual FString GetClipboardText() override { return Clipboard; }
-	virtual void SetClipboardText(const FString& Text) override { Clipboard = Text; }
-	virtual void LaunchURL(const FString&) override {}
-	virtual void RequestFrame() override {}
-	virtual void SetCursor(EMouseCursor::Type InCursor) override { Cursor = InCursor; }
-	virtual void SetTextInputArea(bool bEnabled, const FSlateRect& CaretRect) override;
-
-	FFixedWidthShaper Shaper;
-	FString Clipboard;
-	EMouseCursor::Type Cursor = EMouseCursor::Default;
-	/** Unset while no text can be composed. */
-	TOptional<FSlateRect> InputArea;
-};
 
 /**
  * What a display list shows, as text: one line for each row, the letters from left to right as they stand on the screen. The caret is a

@@ -156,12 +156,11 @@ TEST_F(FLabels, WrapsWithinTheFrameInWhichItLearnsItsWidth)
 	const TSharedRef<STextBlock> Label = SNew(STextBlock).TextStyle(&Style).Text(INVTEXT("one two three")).AutoWrapText(true);
 	const TSharedRef<STextBlock> Below = SNew(STextBlock).TextStyle(&Style).Text(INVTEXT("below"));
 	Show(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Label] + SVerticalBox::Slot().AutoHeight()[Below], 79.0f);
-	EXPECT_EQ(FTextScreen(*Window->GetDisplayList(), FLinearColor::Red, Row).ToString(), FString(TEXT("one two \nthree\nbelow")));
+	EXPECT_EQ(FTextScreen(*GetWindow()->GetDisplayList(), FLinearColor::Red, Row).ToString(), FString(TEXT("one two \nthree\nbelow")));
 	EXPECT_EQ(Label->GetDesiredSize(), FVector2D(130.0, 2 * Row));
 
-	Window->SetClientArea(FVector2D(130.0, 400.0), 1.0f);
-	Frame();
-	EXPECT_EQ(FTextScreen(*Window->GetDisplayList(), FLinearColor::Red, Row).ToString(), FString(TEXT("one two three\nbelow")));
+	Resize(FVector2D(130.0, 400.0));
+	EXPECT_EQ(FTextScreen(*GetWindow()->GetDisplayList(), FLinearColor::Red, Row).ToString(), FString(TEXT("one two three\nbelow")));
 }
 
 TEST_F(FLabels, CountsTheBlanksAtItsEndsUnlessItIsWrapped)
@@ -195,6 +194,7 @@ TEST_F(FLabels, FollowsABoundText)
 	Show(Label);
 	EXPECT_EQ(Screen(), FString(TEXT("first")));
 	Shown = TEXT("and second");
+	AdvanceTime(0.0f);
 	EXPECT_EQ(Screen(), FString(TEXT("and second")));
 	EXPECT_EQ(Label->GetDesiredSize().X, 100.0);
 	EXPECT_EQ(Label->GetShownText(), FString(TEXT("and second")));
@@ -208,7 +208,7 @@ TEST_F(FLabels, AnotherColorIsPaintedWithoutLayout)
 	Frame();
 	EXPECT_EQ(Application().GetFrameStats().NumDesiredSizes, 0);
 	EXPECT_GT(Application().GetFrameStats().NumPainted, 0);
-	Frame();
+	AdvanceTime(0.0f);
 	EXPECT_EQ(Application().GetFrameStats().NumPainted, 0);
 }
 
