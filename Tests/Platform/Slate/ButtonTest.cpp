@@ -117,6 +117,7 @@ TEST_F(Button, TakesEnterAndSpaceWhileItHasTheFocus)
 	EXPECT_EQ(NumClicks, 0);
 	User.Press(TEXT("Tab"));
 	EXPECT_TRUE(Widget->HasKeyboardFocus());
+	EXPECT_EQ(ColorOfButton(), QColor(0, 255, 0)) << "whoever came by the keyboard sees where it is";
 	User.Press(TEXT("Enter"));
 	User.Press(TEXT("SpaceBar"));
 	EXPECT_EQ(NumClicks, 2);
@@ -127,6 +128,7 @@ TEST_F(Button, TakesEnterAndSpaceWhileItHasTheFocus)
 	EXPECT_TRUE(Widget->IsPressed());
 	User.ClearFocus();
 	EXPECT_FALSE(Widget->IsPressed());
+	EXPECT_EQ(ColorOfButton(), QColor(255, 0, 0));
 	User.KeyUp(TEXT("SpaceBar"));
 	EXPECT_EQ(NumClicks, 2);
 }

@@ -60,7 +60,7 @@ const FSlateBrush* SButton::GetBackground(bool bEnabled) const
 	{
 		return &Style->Pressed;
 	}
-	return IsHovered() ? &Style->Hovered : &Style->Normal;
+	return LooksHovered() ? &Style->Hovered : &Style->Normal;
 }
 
 FSlateColor SButton::GetForegroundColor() const
@@ -73,7 +73,7 @@ FSlateColor SButton::GetForegroundColor() const
 	{
 		return Style->PressedForeground;
 	}
-	return IsHovered() ? Style->HoveredForeground : Style->NormalForeground;
+	return LooksHovered() ? Style->HoveredForeground : Style->NormalForeground;
 }
 
 FText SButton::ComputeAccessibleText() const
@@ -116,8 +116,17 @@ FReply SButton::OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent
 	return OnClicked.IsBound() ? OnClicked.Execute() : FReply::Handled();
 }
 
+FReply SButton::OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent)
+{
+	bHasFocusByKeys = InFocusEvent.GetCause() == EFocusCause::Navigation;
+	Invalidate(EInvalidateWidgetReason::Paint);
+	return SBorder::OnFocusReceived(MyGeometry, InFocusEvent);
+}
+
 void SButton::OnFocusLost(const FFocusEvent&)
 {
+	bHasFocusByKeys = false;
+	Invalidate(EInvalidateWidgetReason::Paint);
 	if (!HasMouseCapture())
 	{
 		SetPressed(false);

@@ -31,6 +31,7 @@ public:
 	virtual bool SupportsKeyboardFocus() const override { return true; }
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 	virtual FReply OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
+	virtual FReply OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent) override;
 	virtual void OnFocusLost(const FFocusEvent& InFocusEvent) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
@@ -45,9 +46,12 @@ protected:
 
 private:
 	void SetPressed(bool bInPressed);
+	bool LooksHovered() const { return IsHovered() || bHasFocusByKeys; }
 
 	const FButtonStyle* Style = nullptr;
 	FMargin ContentPadding;
 	FOnClicked OnClicked;
 	bool bIsPressed = false;
+	/** Whoever came by the keyboard must see where it is. */
+	bool bHasFocusByKeys = false;
 };
