@@ -17,7 +17,8 @@ class BottomBar : public testing::Test
 protected:
 	BottomBar()
 	{
-		Actions->OnChatModeSelected.BindLambda([this](const FString& ModeName) { Fired += "mode " + ToUtf8(ModeName) + "; "; });
+		Actions->OnChatModeSelected.BindLambda(
+			[this](const FString& ModeName) { Fired += TakeLog(Log) + "mode " + ToUtf8(ModeName) + "; "; });
 		Actions->OnLogoutClicked.BindLambda([this] { Fired += "logout; "; });
 		Client.Calls->Allow(TEXT("Logout"));
 	}
@@ -53,7 +54,7 @@ protected:
 	std::string Fired;
 	TSharedRef<FChatPanelActions> Actions = MakeShared<FChatPanelActions>();
 	TSharedRef<SBottomBar> Widget = MakeBar(Client.Chat->ChatModeNames, TEXT("ask"), Actions);
-	FUserDriver User{SNew(SOverlay) + SOverlay::Slot().VAlign(VAlign_Bottom)[Widget], FVector2D(680.0, 300.0)};
+	FUserDriver User{SNew(SOverlay) + SOverlay::Slot().VAlign(VAlign_Bottom)[Widget], FVector2D(680.0, 300.0), 1.0f, EDriverFonts::Even};
 };
 
 } // namespace
@@ -64,6 +65,26 @@ TEST_F(BottomBar, ShowsWhatItIsGiven)
 	Widget->UpdateUserData(FString(), 0);
 	User.AdvanceTime(0.0f);
 	EXPECT_EQ(ReadTexts(Widget), "Ask | Credits: 0 | Licenced to:  | Logout");
+}
+
+TEST_F(BottomBar, HasItsMeasures)
+{
+	EXPECT_EQ(ToUtf8(User.Tree()), R"(SOverlay 0,0 680x300
+  SBottomBar 0,260 680x40
+    SBox 0,260 680x40
+      SHorizontalBox 1,268 679x22
+        SComboBox 1,268 56x22
+          SHorizontalBox 11,271 40x16
+            SBox 11,271 24x16
+              STextBlock 11,271 24x16 "Ask"
+            SImage 37,273 12x12
+        SHorizontalBox 69,272.5 133x13
+          SImage 69,273 12x12
+          STextBlock 86,272.5 116x13 "Credits: 1,234,567"
+        STextBlock 214,272.5 425x13 "Licenced to: Kim"
+        SHyperlink 639,272 39x14
+          STextBlock 639,272 39x13 "Logout"
+)");
 }
 
 TEST_F(BottomBar, FollowsTheModeAndLocksABegunAgentConversation)
@@ -95,12 +116,16 @@ TEST_F(BottomBar, FollowsTheModeAndLocksABegunAgentConversation)
 
 TEST_F(BottomBar, ReportsTheUsersChoice)
 {
+	Pick(User, Widget, TEXT("Ask"));
+	EXPECT_EQ(Fired, "") << "it is the mode already";
 	Pick(User, Widget, TEXT("Reagent Lab"));
-	EXPECT_EQ(Fired, "mode Reagent Lab; ");
-	EXPECT_EQ(TakeLog(Log), "Log: Chat mode changed to: Reagent Lab\n");
+	EXPECT_EQ(std::exchange(Fired, ""), "Log: Chat mode changed to: Reagent Lab\nmode Reagent Lab; ");
 	EXPECT_EQ(Read(User, Widget), "Reagent Lab");
+	Widget->UpdateSelectedMode(TEXT("Default Agent"), true);
+	Pick(User, Widget, TEXT("Default Agent"));
+	EXPECT_EQ(Fired, "") << "by code it has become the mode";
 	Pick(User, Widget, TEXT("Reagent Lab"));
-	EXPECT_EQ(Fired, "mode Reagent Lab; ");
+	EXPECT_EQ(Fired, "Log: Chat mode changed to: Reagent Lab\nmode Reagent Lab; ");
 }
 
 TEST_F(BottomBar, AmongEqualNamesTheLastIsShownAtFirstAndTheFirstIsFoundLater)

@@ -18,9 +18,9 @@ protected:
 	ChatHistory()
 	{
 		Actions->OnChatHistorySelected.BindLambda(
-			[this](TObjectPtr<USerializableChatHistory> Item) { Fired += "open " + ToUtf8(Item->Id) + "; "; });
+			[this](TObjectPtr<USerializableChatHistory> Item) { Fired += TakeLog(Log) + "open " + ToUtf8(Item->Id) + "; "; });
 		Actions->OnChatDeleted.BindLambda(
-			[this](TObjectPtr<USerializableChatHistory> Item) { Fired += "delete " + ToUtf8(Item->Id) + "; "; });
+			[this](TObjectPtr<USerializableChatHistory> Item) { Fired += TakeLog(Log) + "delete " + ToUtf8(Item->Id) + "; "; });
 	}
 
 	void Announce() { Actions->OnChatHistoriesRefreshed.ExecuteIfBound(Client.Chat->ChatHistories); }
@@ -32,7 +32,8 @@ protected:
 		User.ClickAt(Middle);
 	}
 
-	std::string TakeFired() { return std::exchange(Fired, ""); }
+	// What was fired and logged since the last time, in its order.
+	std::string TakeFired() { return std::exchange(Fired, "") + TakeLog(Log); }
 
 	FFakeClient Client;
 	FLogCapture Log;
@@ -42,7 +43,7 @@ protected:
 	// clang-format off
 	FUserDriver User{
 		SNew(SOverlay) + SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Top)[Widget],
-		FVector2D(400.0, 300.0)};
+		FVector2D(400.0, 300.0), 1.0f, EDriverFonts::Even};
 	// clang-format on
 };
 
@@ -57,14 +58,17 @@ TEST_F(ChatHistory, ListsWhatIsAnnouncedInItsOrder)
 	User.Frame();
 	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | first | A title of more than");
 	User.Click(TEXT("first"));
-	EXPECT_EQ(TakeFired(), "open first; ");
-	EXPECT_EQ(TakeLog(Log), "Log: Chat history selection changed to first\n");
+	EXPECT_EQ(TakeFired(), "Log: Chat history selection changed to first\nopen first; ");
 	EXPECT_EQ(ReadTexts(User.GetWindow()), "History");
+	const TArray<TObjectPtr<USerializableChatHistory>> Former = Client.Chat->ChatHistories;
 	Client.Chat->ChatHistories.Empty();
 	Announce();
 	User.Click(TEXT("History"));
 	EXPECT_EQ(ReadTexts(User.GetWindow()), "History");
-	EXPECT_EQ(TakeFired(), "") << "the selection is not touched";
+	Client.Chat->ChatHistories = Former;
+	Announce();
+	User.Click(TEXT("first"));
+	EXPECT_EQ(TakeFired(), "") << "the selection was not touched";
 }
 
 TEST_F(ChatHistory, AnInvalidConversationIsAnEmptyRowThatCanBeChosen)
@@ -73,18 +77,58 @@ TEST_F(ChatHistory, AnInvalidConversationIsAnEmptyRowThatCanBeChosen)
 	Client.Chat->ChatHistories.Add(nullptr);
 	Announce();
 	User.Click(TEXT("History"));
-	EXPECT_EQ(TakeLog(Log), "Error: Invalid chat history passed to chat history item widget\n"
-							"Error: Invalid chat history passed to chat history item widget\n");
+	EXPECT_EQ(TakeFired(), "Error: Invalid chat history passed to chat history item widget\n"
+						   "Error: Invalid chat history passed to chat history item widget\n");
 	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | first");
 	EXPECT_EQ(FindAll(User.GetWindow(), TEXT("SComboRow")).size(), 3u);
 	User.Press(TEXT("Down"));
 	User.Press(TEXT("Down"));
 	User.Press(TEXT("Enter"));
-	EXPECT_EQ(TakeFired(), "open broken; ");
+	EXPECT_EQ(TakeFired(), "Log: Chat history selection changed to broken\nopen broken; ");
 	User.Press(TEXT("Enter"));
+	User.Press(TEXT("End"));
+	TakeFired();
+	User.Press(TEXT("Enter"));
+	EXPECT_EQ(TakeFired(), "");
+}
+
+TEST_F(ChatHistory, AConversationThatIsGoneCanBeNeitherDeletedNorOpened)
+{
+	const TObjectPtr<UFakeChatHistory> Gone = Client.MakeHistory(TEXT("gone"));
+	Announce();
+	User.Click(TEXT("History"));
+	Gone->MarkAsGarbage();
+	ClickDeleteInRow(1);
+	EXPECT_EQ(TakeFired(), "");
+	Announce();
+	User.Frame();
+	EXPECT_EQ(TakeFired(), "Error: Invalid chat history passed to chat history item widget\n");
+	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | first");
 	User.Press(TEXT("End"));
 	User.Press(TEXT("Enter"));
 	EXPECT_EQ(TakeFired(), "");
+}
+
+TEST_F(ChatHistory, HasItsMeasures)
+{
+	Announce();
+	User.Click(TEXT("History"));
+	EXPECT_EQ(ToUtf8(User.Tree()), R"(SOverlay 0,0 400x300
+  SChatHistory 0,0 92x22
+    SBox 0,0 92x22
+      SComboBox 0,0 92x22
+        SHorizontalBox 12,3 72x16
+          SBox 12,3 56x16
+            STextBlock 12,3 56x16 "History"
+          SImage 70,5 12x12
+SBorder 0,24 92x36
+  SComboList 4,28 84x28 focused
+    SComboRow 4,28 84x28
+      SHorizontalBox 12,32 68x20
+        STextBlock 12,34 42x16 "first"
+        SButton 56,32 24x20 name="Delete"
+          SImage 60,34 16x16
+)");
 }
 
 TEST_F(ChatHistory, ADeletionOpensTheFirstThatIsLeftUnlessItIsSelected)
@@ -94,13 +138,13 @@ TEST_F(ChatHistory, ADeletionOpensTheFirstThatIsLeftUnlessItIsSelected)
 	Announce();
 	User.Click(TEXT("History"));
 	ClickDeleteInRow(1);
-	EXPECT_EQ(TakeFired(), "delete second; open first; ");
-	EXPECT_EQ(TakeLog(Log), "Log: Chat history deleted second\nLog: Chat history selection changed to first\n");
+	EXPECT_EQ(TakeFired(), "Log: Chat history deleted second\ndelete second; Log: Chat history selection changed to first\nopen first; ");
 	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | first | third") << "the list stays open";
+	EXPECT_EQ(FindOne(User.GetWindow(), TEXT("SComboRow"))->GetTag(), FName(TEXT("selected")));
 	ClickDeleteInRow(1);
-	EXPECT_EQ(TakeFired(), "delete third; ");
+	EXPECT_EQ(TakeFired(), "Log: Chat history deleted third\ndelete third; ");
 	ClickDeleteInRow(0);
-	EXPECT_EQ(TakeFired(), "delete first; ");
+	EXPECT_EQ(TakeFired(), "Log: Chat history deleted first\ndelete first; ");
 	EXPECT_EQ(ReadTexts(User.GetWindow()), "History");
 }
 
@@ -116,7 +160,7 @@ TEST_F(ChatHistory, TheListThatADeletionBringsKeepsTheSelection)
 	Announce();
 	User.Click(TEXT("History"));
 	ClickDeleteInRow(0);
-	EXPECT_EQ(TakeFired(), "open second; ");
+	EXPECT_EQ(TakeFired(), "Log: Chat history deleted first\nLog: Chat history selection changed to second\nopen second; ");
 	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | second");
 	User.Click(TEXT("second"));
 	EXPECT_EQ(TakeFired(), "");

@@ -9,19 +9,31 @@
 
 TEST(TopBar, KeepsItsPartsInTheirPlacesInAnyWidth)
 {
-	for (const double Width : {320.0, 1000.0})
-	{
-		const TSharedRef<STopBar> Bar = SNew(STopBar);
-		FUserDriver User(SNew(SOverlay) + SOverlay::Slot().VAlign(VAlign_Top)[Bar], FVector2D(Width, 300.0));
-		const FGeometry& Logo = FindOne(Bar, TEXT("SImage"))->GetCachedGeometry();
-		EXPECT_EQ(Logo.GetAbsolutePosition(), FVector2D(30.0, 15.0));
-		EXPECT_EQ(Logo.GetLocalSize(), FVector2D(125.0, 26.25));
-		const FGeometry& Button = FindOne(Bar, TEXT("SButton"))->GetCachedGeometry();
-		EXPECT_EQ(Button.GetLocalSize(), FVector2D(25.0, 25.0));
-		const FGeometry& History = FindOne(Bar, TEXT("SChatHistory"))->GetCachedGeometry();
-		EXPECT_EQ(History.GetRenderBoundingRect().Right, Width - 20.0);
-		EXPECT_EQ(History.GetAbsolutePosition().X - Button.GetRenderBoundingRect().Right, 5.0);
-	}
+	const TSharedRef<STopBar> Bar = SNew(STopBar);
+	FUserDriver User(SNew(SOverlay) + SOverlay::Slot().VAlign(VAlign_Top)[Bar], FVector2D(320.0, 300.0), 1.0f, EDriverFonts::Even);
+	EXPECT_EQ(ToUtf8(User.Tree()), R"(SOverlay 0,0 320x300
+  STopBar 0,0 320x56.25
+    SBorder 0,0 320x56.25
+      SBox 0,0 320x56.25
+        SHorizontalBox 20,15 280x26.25
+          SImage 30,15 125x26.25
+          SNullWidget 155,15 23x26.25
+          SBox 178,15.63 25x25
+            SButton 178,15.63 25x25 name="NewChat"
+              SImage 184,21.63 13x13
+          SChatHistory 208,15 92x26.25
+            SBox 208,15 92x26.25
+              SComboBox 208,15 92x26.25
+                SHorizontalBox 220,20.13 72x16
+                  SBox 220,20.13 56x16
+                    STextBlock 220,20.13 56x16 "History"
+                  SImage 278,22.13 12x12
+)");
+	EXPECT_EQ(FindOne(Bar, TEXT("SImage"), 1)->GetDesiredSize(), FVector2D(12.0, 12.0));
+	User.Resize(FVector2D(1000.0, 300.0));
+	EXPECT_EQ(FindOne(Bar, TEXT("SImage"))->GetCachedGeometry().GetLocalSize(), FVector2D(125.0, 26.25));
+	EXPECT_EQ(FindOne(Bar, TEXT("SButton"))->GetCachedGeometry().GetAbsolutePosition(), FVector2D(858.0, 15.625));
+	EXPECT_EQ(FindOne(Bar, TEXT("SChatHistory"))->GetCachedGeometry().GetRenderBoundingRect().Right, 980.0);
 }
 
 TEST(TopBar, PassesTheClickOn)

@@ -34,7 +34,10 @@ public:
 	FString Title;
 
 	bool IsValidHistory() const override { return bIsValidHistory; }
-	FString GetDisplayableTitle(bool bShorten, int32 MaxLength) override { return Title.Left(MaxLength); }
+	FString GetDisplayableTitle(bool bShorten, int32 MaxLength) override
+	{
+		return (bShorten ? FString() : FString(TEXT("whole "))) + Title.Left(MaxLength);
+	}
 
 	TObjectPtr<UMessage> AddMessage(EChatRole Role, const TArray<FString>& Texts);
 };
