@@ -131,10 +131,15 @@ TEST_F(Accessibility, AnOpenListIsReadWithItsHighlightAsTheFocus)
 	using FOption = TSharedPtr<FString>;
 	const TArray<FOption> Options = {MakeShared<FString>(TEXT("Ask")), MakeShared<FString>(TEXT("Agent"))};
 	// clang-format off
-	const TSharedRef<SWidget> Box =
+	const TSharedRef<SComboBox<FOption>> Box =
 		SNew(SComboBox<FOption>)
 		.OptionsSource(&Options)
-		.OnGenerateWidget_Lambda([](FOption Option) { return SNew(STextBlock).Text(FText::FromString(*Option)); })
+		.OnGenerateWidget_Lambda([](FOption Option)
+		{
+			return SNew(SHorizontalBox)
+				+ SHorizontalBox::Slot()[SNew(STextBlock).Text(FText::FromString(*Option))]
+				+ SHorizontalBox::Slot()[SNew(SButton)[SNew(SImage).Image(FAppStyle::Get().GetBrush(TEXT("Icons.Plus")))]];
+		})
 		.InitiallySelectedItem(Options[0])
 		[
 			SNew(STextBlock).Text(INVTEXT("Mode"))
@@ -149,8 +154,14 @@ TEST_F(Accessibility, AnOpenListIsReadWithItsHighlightAsTheFocus)
 	FSlateApplication::Get().ProcessKeyDownEvent(Host.Window, FKeyEvent(EKeys::Down));
 	RunFrames();
 	EXPECT_TRUE(Find("Mode")->state().expanded);
-	EXPECT_EQ(Root()->childCount(), 3);
+	EXPECT_EQ(Root()->childCount(), 5);
 	EXPECT_TRUE(Find("Ask")->state().selected);
 	EXPECT_EQ(Find("Agent")->role(), QAccessible::ListItem);
 	EXPECT_EQ(Root()->focusChild(), Find("Agent"));
+	FSlateApplication::Get().ProcessKeyDownEvent(Host.Window, FKeyEvent(EKeys::Tab));
+	EXPECT_EQ(Root()->focusChild()->text(QAccessible::Name), "Plus") << "what Enter presses now";
+	EXPECT_FALSE(Find("Agent")->state().focused);
+	Find("Agent")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+	EXPECT_EQ(Box->GetSelectedItem(), Options[1]);
+	EXPECT_FALSE(Box->IsOpen());
 }

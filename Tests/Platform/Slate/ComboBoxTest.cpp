@@ -1,6 +1,7 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "Containers/Ticker.h"
+#include "Framework/Application/SlateApplication.h"
 #include "Support/UserDriver.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SComboBox.h"
@@ -123,7 +124,11 @@ TEST_F(ComboBox, AClickOpensItAClickChoosesAndTheSameAgainIsNotReported)
 	User.Click(TEXT("Pick"));
 	EXPECT_TRUE(Box->IsOpen());
 	EXPECT_TRUE(User.Sees(TEXT("c 2")));
-	User.Click(TEXT("b 1"));
+	const FVector2D Place = User.Find(TEXT("b 1"))->GetCachedGeometry().LocalToAbsolute(FVector2D(2.0, 2.0));
+	User.MouseDown(Place);
+	User.MouseUp(Place, EKeys::RightMouseButton);
+	EXPECT_TRUE(Box->IsOpen()) << "another button";
+	User.MouseUp(Place);
 	EXPECT_FALSE(Box->IsOpen());
 	EXPECT_EQ(TakeChanges(), TEXT("b 1 by click;"));
 	EXPECT_TRUE(Box->HasKeyboardFocus());
@@ -175,25 +180,35 @@ TEST_F(ComboBox, KeysMoveTheHighlightAndEnterChooses)
 
 TEST_F(ComboBox, TypingFindsAnOptionByItsBeginning)
 {
-	SetOptions(2000);
 	User.Press(TEXT("Tab"));
+	EXPECT_EQ(ChooseBy({TEXT("'1")}), TEXT("b 1 by key;")) << "no option begins so, but a word in one";
+	SetOptions(2000);
 	EXPECT_EQ(ChooseBy({TEXT("'B")}), TEXT("b 1 by key;"));
 	EXPECT_EQ(ChooseBy({TEXT("'c"), TEXT("' 5")}), TEXT("c 5 by key;"));
 	EXPECT_EQ(ChooseBy({TEXT("Down"), TEXT("'a")}), TEXT("a 3 by key;"));
 	EXPECT_EQ(ChooseBy({TEXT("End"), TEXT("'a")}), TEXT("a 0 by key;"));
 	EXPECT_EQ(ChooseBy({TEXT("'z")}), FString());
-	// Far options are found in the frames that follow.
 	User.Press(TEXT("Down"));
-	User.Type(TEXT("a 1998"));
-	for (int32 Count = 0; Count < 8; ++Count)
-	{
-		User.AdvanceTime(0.5f);
-	}
-	EXPECT_TRUE(User.Sees(TEXT("a 1998")));
+	const FModifierKeysState AltGr(false, true, true);
+	FSlateApplication::Get().ProcessKeyCharEvent(User.GetWindow(), FCharacterEvent(u'c', AltGr));
+	User.Press(TEXT("Enter"));
+	EXPECT_EQ(TakeChanges(), TEXT("c 2 by key;"));
+	Box->SetSelectedItem(nullptr);
+	TakeChanges();
+	// Far options are found in the frames that follow, also when the typing is long over.
+	SetOptions(20'000);
+	User.Press(TEXT("Down"));
+	User.Type(TEXT("a 19998"));
+	EXPECT_FALSE(User.Sees(TEXT("a 19998")));
 	User.AdvanceTime(1.1f);
+	for (int32 Count = 0; Count < 40; ++Count)
+	{
+		User.AdvanceTime(0.016f);
+	}
+	EXPECT_TRUE(User.Sees(TEXT("a 19998")));
 	User.Type(TEXT("b"));
 	User.Press(TEXT("Enter"));
-	EXPECT_EQ(TakeChanges(), TEXT("b 1999 by key;")) << "after a while, a letter begins anew";
+	EXPECT_EQ(TakeChanges(), TEXT("b 19999 by key;")) << "after a while, a letter begins anew";
 }
 
 TEST_F(ComboBox, OnlyRowsInViewAreMade)
@@ -223,13 +238,15 @@ TEST_F(ComboBox, AButtonInARowIsTheButtonsAlone)
 	EXPECT_TRUE(Box->IsOpen());
 	EXPECT_FALSE(User.Sees(TEXT("b 1")));
 	EXPECT_EQ(TakeChanges(), FString());
-	User.Press(TEXT("Home"));
+	User.Press(TEXT("End"));
 	User.Press(TEXT("Tab"));
 	User.Press(TEXT("Enter"));
-	EXPECT_TRUE(Box->IsOpen()) << "the first row's button";
-	EXPECT_FALSE(User.Sees(TEXT("a 0")));
+	EXPECT_TRUE(Box->IsOpen()) << "the highlighted row's button";
+	EXPECT_FALSE(User.Sees(TEXT("c 2")));
 	User.Press(TEXT("Enter"));
-	EXPECT_EQ(TakeChanges(), TEXT("c 2 by key;")) << "the list has the keys again";
+	EXPECT_EQ(TakeChanges(), TEXT("a 0 by key;")) << "the list has the keys again";
+	SetOptions(3);
+	EXPECT_EQ(ChooseBy({TEXT("Home"), TEXT("Tab"), TEXT("Tab"), TEXT("Down")}), TEXT("c 2 by key;")) << "the highlight went along";
 }
 
 TEST_F(ComboBox, ItsOptionsMayChangeWhileItIsOpen)
@@ -239,12 +256,27 @@ TEST_F(ComboBox, ItsOptionsMayChangeWhileItIsOpen)
 	User.Click(TEXT("a 0"));
 	EXPECT_EQ(TakeChanges(), TEXT("a 0 by click;"));
 
+	SetOptions(100);
 	User.Click(TEXT("Pick"));
+	User.Press(TEXT("End"));
+	Options.Insert(Options.Pop(), 0);
+	Box->RefreshOptions();
+	User.Frame();
+	EXPECT_TRUE(User.Sees(TEXT("a 99"))) << "the highlight goes where its option goes";
+	User.Press(TEXT("Enter"));
+	EXPECT_EQ(TakeChanges(), TEXT("a 99 by key;"));
+
+	User.Click(TEXT("Pick"));
+	EXPECT_TRUE(User.Tree().Contains(TEXT("tag=selected"))) << User.Tree();
 	User.Press(TEXT("End"));
 	Options.Empty();
 	User.Press(TEXT("Enter"));
 	EXPECT_EQ(TakeChanges(), FString()) << "also without a word";
 	EXPECT_TRUE(Box->IsOpen());
+	SetOptions(100);
+	Options.Empty();
+	User.WheelAt(FVector2D(30.0, 100.0), -3.0f);
+	EXPECT_FALSE(User.Sees(TEXT("a 0"))) << "what is no option any more is an empty row";
 	Options.Add(nullptr);
 	Box->RefreshOptions();
 	User.Click(TEXT("(none)"));

@@ -104,9 +104,10 @@ QString FAccessibleWidget::text(QAccessible::Text Kind) const
 bool FAccessibleWidget::HasFocus() const
 {
 	const TSharedPtr<SWidget> Shown = Widget.Pin();
-	// An open list has the focus as a whole; what its keys act on is one of its rows.
+	// While an open list has the focus as a whole, what its keys act on is one of its rows.
 	const SComboRow* Row = dynamic_cast<const SComboRow*>(Shown.Get());
-	return Shown && (Shown->HasKeyboardFocus() || (Row && Row->IsHighlighted()));
+	const TSharedPtr<SWidget> List = Row && Row->IsHighlighted() ? Row->GetParentWidget() : nullptr;
+	return Shown && (Shown->HasKeyboardFocus() || (List && List->HasKeyboardFocus()));
 }
 
 QRect FAccessibleWidget::rect() const
@@ -161,7 +162,8 @@ void* FAccessibleWidget::interface_cast(QAccessible::InterfaceType Type)
 QStringList FAccessibleWidget::actionNames() const
 {
 	QStringList Names;
-	if (role() == QAccessible::Button || role() == QAccessible::Link || role() == QAccessible::ComboBox)
+	const QAccessible::Role Role = role();
+	if (Role == QAccessible::Button || Role == QAccessible::Link || Role == QAccessible::ComboBox || Role == QAccessible::ListItem)
 	{
 		Names.append(pressAction());
 	}
@@ -177,6 +179,11 @@ void FAccessibleWidget::doAction(const QString& ActionName)
 	const TSharedPtr<SWidget> Shown = Widget.Pin();
 	if (!Shown || state().disabled || !actionNames().contains(ActionName))
 	{
+		return;
+	}
+	if (const SComboRow* Row = dynamic_cast<const SComboRow*>(&*Shown))
+	{
+		Row->Choose();
 		return;
 	}
 	FSlateApplication& Application = FSlateApplication::Get();

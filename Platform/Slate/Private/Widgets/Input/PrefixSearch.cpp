@@ -20,6 +20,7 @@ void FPrefixSearch::Type(TCHAR Character, int32 Highlighted, int32 InNumOptions)
 
 	NumOptions = InNumOptions;
 	NumLeft = InNumOptions;
+	FirstWithin = INDEX_NONE;
 	// A first letter leaves the option it is typed at, further ones may keep it.
 	Next = FMath::Max(0, Prefix.Len() == 1 ? Highlighted + 1 : Highlighted);
 	if (Continue(0.0f) && !bContinuing)
@@ -44,19 +45,32 @@ bool FPrefixSearch::ForgetPrefix(float)
 
 bool FPrefixSearch::Continue(float)
 {
-	for (int32 Count = 0; Count < MostReadsPerFrame && NumLeft > 0; ++Count)
+	const int32 MostTexts = Texts.Num() + MostReadsPerFrame;
+	while (NumLeft > 0 && Texts.Num() < MostTexts)
 	{
 		const int32 Index = Next % NumOptions;
 		Next = Index + 1;
 		--NumLeft;
-		if (GetText(Index).StartsWith(Sought))
-		{
-			NumLeft = 0;
-			OnFound.ExecuteIfBound(Index);
-		}
+		Compare(Index);
 	}
 	bContinuing = bContinuing && NumLeft > 0;
 	return NumLeft > 0;
+}
+
+void FPrefixSearch::Compare(int32 Index)
+{
+	const FString& Text = GetText(Index);
+	const bool bBegins = Text.StartsWith(Sought);
+	if (!bBegins && FirstWithin == INDEX_NONE && Text.Contains(TEXT(" ") + Sought))
+	{
+		FirstWithin = Index;
+	}
+	const int32 Found = bBegins ? Index : NumLeft == 0 ? FirstWithin : INDEX_NONE;
+	if (Found != INDEX_NONE)
+	{
+		NumLeft = 0;
+		OnFound.ExecuteIfBound(Found);
+	}
 }
 
 const FString& FPrefixSearch::GetText(int32 Index)

@@ -5,8 +5,9 @@
 #include "CoreMinimal.h"
 
 /**
- * Finds an option by the beginning of its text, as it is typed. Letters that follow each other within a second make one beginning. Since
- * reading an option may mean to build its row, only some are read at once, and the others in the frames that follow.
+ * Finds an option by the beginning of its text, as it is typed, or else by that of a later word. Letters that follow each other within a
+ * second make one beginning. Since reading an option may mean to build its row, only some are read at once, and the others in the frames
+ * that follow.
  */
 class FPrefixSearch : public TSharedFromThis<FPrefixSearch>
 {
@@ -30,6 +31,7 @@ public:
 private:
 	bool ForgetPrefix(float);
 	bool Continue(float);
+	void Compare(int32 Index);
 	const FString& GetText(int32 Index);
 
 	FReadOption ReadOption;
@@ -44,5 +46,7 @@ private:
 	int32 NumOptions = 0;
 	int32 Next = 0;
 	int32 NumLeft = 0;
+	/** The first option in which a later word begins so. */
+	int32 FirstWithin = INDEX_NONE;
 	bool bContinuing = false;
 };

@@ -103,19 +103,11 @@ void SComboBoxBase::ChooseOption(int32 Index, ESelectInfo::Type SelectInfo)
 	SelectOption(Index, SelectInfo);
 }
 
-void SComboBoxBase::ShowOptions()
+void SComboBoxBase::RefreshList()
 {
 	if (const TSharedPtr<SComboList> Opened = List.Pin())
 	{
 		Opened->Refresh();
-	}
-}
-
-void SComboBoxBase::ShowSelection()
-{
-	if (const TSharedPtr<SComboList> Opened = List.Pin())
-	{
-		Opened->ShowSelection();
 	}
 }
 

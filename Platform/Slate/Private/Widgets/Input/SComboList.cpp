@@ -44,12 +44,11 @@ void SComboList::Construct(const FArguments& InArgs)
 		FPrefixSearch::FOnFound::CreateSP(this, &SComboList::HighlightByKey));
 	Bar.SetLengths(0.0, MaxHeight);
 	Refresh();
-	Highlighted = Selected;
+	Highlight(Selected);
 	if (Selected != INDEX_NONE)
 	{
 		ScrollTo((Selected + 0.5) * GetRowHeight() - Bar.GetViewLength() / 2.0);
 	}
-	ShowStates();
 }
 
 void SComboList::Refresh()
@@ -57,7 +56,7 @@ void SComboList::Refresh()
 	const TSharedPtr<SComboBoxBase> Box = Owner.Pin();
 	NumOptions = Box.IsValid() ? Box->GetNumOptions() : 0;
 	Selected = Box.IsValid() ? Box->FindSelectedOption() : INDEX_NONE;
-	Highlighted = FMath::Min(Highlighted, NumOptions - 1);
+	const int32 NumMoved = KeepHighlight();
 	Pressed = INDEX_NONE;
 	Search->Reset();
 	while (Rows.Num() > 0)
@@ -65,8 +64,21 @@ void SComboList::Refresh()
 		DropRow(Rows.Num() - 1);
 	}
 	Bar.SetLengths(NumOptions * GetRowHeight(), Bar.GetViewLength());
-	MakeRowsInView();
+	ScrollTo(Bar.GetOffset() + NumMoved * GetRowHeight());
 	Invalidate(EInvalidateWidgetReason::Layout);
+}
+
+int32 SComboList::KeepHighlight()
+{
+	const TSharedPtr<SComboBoxBase> Box = Owner.Pin();
+	const int32 Former = Highlighted;
+	const int32 Found = Box.IsValid() && Former != INDEX_NONE ? Box->FindNotedOption() : INDEX_NONE;
+	Highlighted = Found != INDEX_NONE ? Found : FMath::Min(Former, NumOptions - 1);
+	if (Box.IsValid())
+	{
+		Box->NoteOption(Highlighted);
+	}
+	return Found != INDEX_NONE ? Found - Former : 0;
 }
 
 void SComboList::RefreshIfStale()
@@ -76,13 +88,6 @@ void SComboList::RefreshIfStale()
 	{
 		Refresh();
 	}
-}
-
-void SComboList::ShowSelection()
-{
-	const TSharedPtr<SComboBoxBase> Box = Owner.Pin();
-	Selected = Box.IsValid() ? Box->FindSelectedOption() : INDEX_NONE;
-	ShowStates();
 }
 
 double SComboList::GetRowHeight() const
@@ -139,16 +144,20 @@ TSharedRef<SComboRow> SComboList::MakeRow(int32 Index)
 {
 	const TSharedPtr<SComboBoxBase> Box = Owner.Pin();
 	const TSharedRef<SWidget> Content = Box.IsValid() ? Box->MakeOptionWidget(Index) : SNullWidget::NullWidget;
+	const bool bSelected = Index == Selected;
 	// clang-format off
 	const TSharedRef<SComboRow> Row =
 		SNew(SComboRow)
+		.Tag(bSelected ? FName(TEXT("selected")) : NAME_None)
+		.IsSelected(bSelected)
+		.OnChosen(FSimpleDelegate::CreateSP(this, &SComboList::Choose, Index, ESelectInfo::OnMouseClick))
 		.Style(&FCoreStyle::Get().GetWidgetStyle<FTableRowStyle>(TEXT("ComboBox.Row")))
 		.Padding(RowPadding)
 		[
 			Content
 		];
 	// clang-format on
-	Row->SetState(Index == Highlighted, Index == Selected);
+	Row->SetHighlighted(Index == Highlighted);
 	Row->SlatePrepass(Box.IsValid() ? Box->GetCachedGeometry().GetScale() : 1.0f);
 	Measure(*Row);
 	return Row;
@@ -169,11 +178,11 @@ SComboRow& SComboList::GetRow(int32 Slot) const
 	return static_cast<SComboRow&>(*Rows[Slot].GetWidget());
 }
 
-void SComboList::ShowStates()
+void SComboList::ShowHighlight()
 {
 	for (int32 Slot = 0; Slot < Rows.Num(); ++Slot)
 	{
-		GetRow(Slot).SetState(FirstRow + Slot == Highlighted, FirstRow + Slot == Selected);
+		GetRow(Slot).SetHighlighted(FirstRow + Slot == Highlighted);
 	}
 }
 
@@ -195,7 +204,11 @@ void SComboList::Highlight(int32 Index)
 	if (Highlighted != Index)
 	{
 		Highlighted = Index;
-		ShowStates();
+		ShowHighlight();
+		if (const TSharedPtr<SComboBoxBase> Box = Owner.Pin())
+		{
+			Box->NoteOption(Index);
+		}
 	}
 }
 

@@ -28,14 +28,12 @@ public:
 	virtual ~SComboList() override;
 	void Construct(const FArguments& InArgs);
 
-	/** Makes all rows anew, from the options as they are now. */
+	/** Makes all rows anew, from the options and the selection as they are now. */
 	void Refresh();
-
-	/** Shows which option is selected now. */
-	void ShowSelection();
 
 	virtual FChildren* GetChildren() override { return &Rows; }
 	virtual bool SupportsKeyboardFocus() const override { return true; }
+	virtual void OnFocusChanging(const TSharedRef<SWidget>& NewFocused, const FFocusEvent& InFocusEvent) override;
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 	virtual FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
@@ -63,7 +61,9 @@ private:
 	TSharedRef<SComboRow> MakeRow(int32 Index);
 	void DropRow(int32 Slot);
 	SComboRow& GetRow(int32 Slot) const;
-	void ShowStates();
+	void ShowHighlight();
+	/** The highlight stays on its option, and where that is gone, on its place. Returns by how many rows it moved with its option. */
+	int32 KeepHighlight();
 
 	void ScrollTo(double Offset);
 	void ScrollIntoView(int32 Index);
@@ -75,6 +75,9 @@ private:
 
 	/** The options may have changed without a word. */
 	void RefreshIfStale();
+
+	/** What Tab goes to in the highlighted row; null where there is nothing. */
+	TSharedPtr<SWidget> FindStopInHighlight();
 
 	/** INDEX_NONE where there is no row. */
 	int32 FindRowAt(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) const;

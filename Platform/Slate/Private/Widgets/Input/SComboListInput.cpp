@@ -2,12 +2,38 @@
 
 #include "Widgets/Input/PrefixSearch.h"
 #include "Widgets/Input/SComboList.h"
+#include "Widgets/Input/SComboRow.h"
 
 namespace
 {
 bool HasCommandModifier(const FInputEvent& Event)
 {
 	return Event.IsControlDown() || Event.IsAltDown() || Event.IsCommandDown();
+}
+
+/** AltGr, which types characters, comes as Control and Alt. */
+bool IsTyped(const FCharacterEvent& Event)
+{
+	return Event.IsControlDown() == Event.IsAltDown() && !Event.IsCommandDown();
+}
+
+TSharedPtr<SWidget> FindStop(SWidget& Widget)
+{
+	if (!Widget.GetVisibility().IsVisible() || !Widget.IsEnabled())
+	{
+		return nullptr;
+	}
+	TSharedPtr<SWidget> Stop;
+	if (Widget.SupportsKeyboardFocus())
+	{
+		Stop = Widget.AsShared();
+	}
+	FChildren& Children = *Widget.GetChildren();
+	for (int32 Index = 0; !Stop.IsValid() && Index < Children.Num(); ++Index)
+	{
+		Stop = FindStop(*Children.GetChildAt(Index));
+	}
+	return Stop;
 }
 } // namespace
 
@@ -23,6 +49,11 @@ FReply SComboList::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKey
 		Choose(Highlighted, ESelectInfo::OnKeyPress);
 		return FReply::Handled();
 	}
+	const bool bEntersRow = InKeyEvent.GetKey() == EKeys::Tab && !InKeyEvent.IsShiftDown() && HasKeyboardFocus();
+	if (const TSharedPtr<SWidget> Stop = bEntersRow ? FindStopInHighlight() : nullptr)
+	{
+		return FReply::Handled().SetUserFocus(Stop.ToSharedRef(), EFocusCause::Navigation);
+	}
 	const TOptional<int32> Target = FindKeyTarget(InKeyEvent.GetKey());
 	if (!Target.IsSet())
 	{
@@ -31,6 +62,31 @@ FReply SComboList::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKey
 	HighlightByKey(*Target);
 	// It may have been on a button in a row, which Enter would press.
 	return FReply::Handled().SetUserFocus(AsShared());
+}
+
+TSharedPtr<SWidget> SComboList::FindStopInHighlight()
+{
+	if (Highlighted == INDEX_NONE)
+	{
+		return nullptr;
+	}
+	ScrollIntoView(Highlighted);
+	const int32 Slot = Highlighted - FirstRow;
+	return Slot >= 0 && Slot < Rows.Num() ? FindStop(GetRow(Slot)) : nullptr;
+}
+
+void SComboList::OnFocusChanging(const TSharedRef<SWidget>&, const FFocusEvent& InFocusEvent)
+{
+	for (int32 Slot = 0; Slot < Rows.Num(); ++Slot)
+	{
+		if (GetRow(Slot).HasAnyUserFocusOrFocusedDescendants())
+		{
+			// Under the mouse nothing may move, or the click would miss.
+			const bool bByKeys = InFocusEvent.GetCause() == EFocusCause::Navigation;
+			bByKeys ? HighlightByKey(FirstRow + Slot) : Highlight(FirstRow + Slot);
+			return;
+		}
+	}
 }
 
 TOptional<int32> SComboList::FindKeyTarget(const FKey& Key) const
@@ -54,7 +110,7 @@ FReply SComboList::OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent&
 {
 	const TCHAR Character = InCharacterEvent.GetCharacter();
 	const bool bPrints = Character > u' ' || (Character == u' ' && Search->IsTyping());
-	if (HasCommandModifier(InCharacterEvent) || !bPrints)
+	if (!IsTyped(InCharacterEvent) || !bPrints)
 	{
 		return SPanel::OnKeyChar(MyGeometry, InCharacterEvent);
 	}
@@ -89,6 +145,10 @@ FReply SComboList::OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEv
 	if (Bar.OnMouseButtonUp(MouseEvent))
 	{
 		return FReply::Handled().ReleaseMouseCapture();
+	}
+	if (MouseEvent.GetEffectingButton() != EKeys::LeftMouseButton)
+	{
+		return FReply::Handled();
 	}
 	RefreshIfStale();
 	if (Pressed != INDEX_NONE && Pressed == FindRowAt(MyGeometry, MouseEvent))

@@ -7,13 +7,14 @@
 void SComboRow::Construct(const FArguments& InArgs)
 {
 	Style = InArgs._Style;
+	bSelected = InArgs._IsSelected;
+	OnChosen = InArgs._OnChosen;
 	SBorder::Construct(SBorder::FArguments().Padding(InArgs._Padding).VAlign(VAlign_Center)[InArgs._Content.Widget]);
 }
 
-void SComboRow::SetState(bool bInHighlighted, bool bInSelected)
+void SComboRow::SetHighlighted(bool bInHighlighted)
 {
 	bHighlighted = bInHighlighted;
-	bSelected = bInSelected;
 	const FSlateBrush* const WhileHighlighted = bSelected ? &Style->ActiveHoveredBrush : &Style->InactiveHoveredBrush;
 	const FSlateBrush* const Otherwise = bSelected ? &Style->ActiveBrush : nullptr;
 	SetBorderImage(bHighlighted ? WhileHighlighted : Otherwise);

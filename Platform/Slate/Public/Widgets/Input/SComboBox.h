@@ -37,7 +37,7 @@ public:
 	}
 
 	/** The options changed. What is selected stays, also where it is no option any more. */
-	void RefreshOptions() { ShowOptions(); }
+	void RefreshOptions() { RefreshList(); }
 
 	/** A change is reported; the same item again is not. */
 	void SetSelectedItem(OptionType InSelectedItem, ESelectInfo::Type InSelectInfo = ESelectInfo::Direct)
@@ -45,7 +45,7 @@ public:
 		if (!(SelectedItem == InSelectedItem))
 		{
 			SelectedItem = InSelectedItem;
-			ShowSelection();
+			RefreshList();
 			OnSelectionChanged.ExecuteIfBound(InSelectedItem, InSelectInfo);
 		}
 	}
@@ -55,11 +55,22 @@ public:
 	virtual int32 GetNumOptions() const override { return OptionsSource != nullptr ? OptionsSource->Num() : 0; }
 	virtual TSharedRef<SWidget> MakeOptionWidget(int32 Index) override
 	{
-		return OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute((*OptionsSource)[Index]) : SNullWidget::NullWidget;
+		// The options may have become fewer without a word.
+		const bool bHasOption = OptionsSource != nullptr && OptionsSource->IsValidIndex(Index);
+		return bHasOption && OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute((*OptionsSource)[Index]) : SNullWidget::NullWidget;
 	}
 	virtual int32 FindSelectedOption() const override
 	{
 		return OptionsSource != nullptr && SelectedItem ? OptionsSource->Find(SelectedItem) : INDEX_NONE;
+	}
+	virtual void NoteOption(int32 Index) override
+	{
+		const bool bHasOption = OptionsSource != nullptr && OptionsSource->IsValidIndex(Index);
+		NotedItem = bHasOption ? TOptional<OptionType>((*OptionsSource)[Index]) : NullOpt;
+	}
+	virtual int32 FindNotedOption() const override
+	{
+		return OptionsSource != nullptr && NotedItem.IsSet() ? OptionsSource->Find(*NotedItem) : INDEX_NONE;
 	}
 
 protected:
@@ -76,4 +87,5 @@ private:
 	FOnGenerateWidget OnGenerateWidget;
 	FOnSelectionChanged OnSelectionChanged;
 	OptionType SelectedItem = OptionType();
+	TOptional<OptionType> NotedItem;
 };

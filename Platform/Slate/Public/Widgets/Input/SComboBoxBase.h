@@ -20,6 +20,10 @@ public:
 	/** INDEX_NONE where none is selected, or the selected one is no option any more. */
 	virtual int32 FindSelectedOption() const = 0;
 
+	/** Keeps an option in mind, so that it is found again where it has moved to. INDEX_NONE keeps none. */
+	virtual void NoteOption(int32 Index) = 0;
+	virtual int32 FindNotedOption() const = 0;
+
 	/** The user's choice: closes the list and selects. */
 	void ChooseOption(int32 Index, ESelectInfo::Type SelectInfo);
 
@@ -32,9 +36,8 @@ protected:
 
 	virtual void SelectOption(int32 Index, ESelectInfo::Type SelectInfo) = 0;
 
-	/** For the list, while it is open. */
-	void ShowOptions();
-	void ShowSelection();
+	/** Where it is open: the options, or the selection, changed. */
+	void RefreshList();
 
 private:
 	void Open();

@@ -13,17 +13,23 @@ public:
 	SLATE_BEGIN_ARGS(SComboRow) {}
 	SLATE_STYLE_ARGUMENT(FTableRowStyle, Style)
 	SLATE_ARGUMENT(FMargin, Padding)
+	SLATE_ARGUMENT(bool, IsSelected)
+	SLATE_EVENT(FSimpleDelegate, OnChosen)
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);
 
-	void SetState(bool bInHighlighted, bool bInSelected);
+	void SetHighlighted(bool bInHighlighted);
 	bool IsHighlighted() const { return bHighlighted; }
 	bool IsSelected() const { return bSelected; }
 
+	/** What a click does, for assistive technology. */
+	void Choose() const { OnChosen.ExecuteIfBound(); }
+
 private:
 	const FTableRowStyle* Style = nullptr;
+	FSimpleDelegate OnChosen;
 	bool bHighlighted = false;
 	bool bSelected = false;
 };
