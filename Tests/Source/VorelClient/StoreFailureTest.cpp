@@ -51,7 +51,11 @@ protected:
 	std::string ReadLog() { return Folder.Read(TEXT("conversations.sqlite-wal")); }
 	void WriteStore(std::string_view Bytes) { Folder.Write(FConversationStore::FileName, Bytes); }
 	// The change stands in the log alone.
-	void Execute(const char* Sql) { FSqliteDatabase(StoreFile, false).Execute(Sql); }
+	void Execute(const char* Sql)
+	{
+		FSqliteDatabase(StoreFile, false).Execute(Sql);
+		EXPECT_NE(ReadLog(), "");
+	}
 
 	// The program starts, says this, and works as ever.
 	void ExpectWorksAndTells(const FString& Sentences, bool bOldThere = false)

@@ -4,7 +4,6 @@
 
 #include "Store/SqliteDatabase.h"
 #include "Store/StoreSchema.h"
-#include <barrier>
 #include <nlohmann/json.hpp>
 #include <thread>
 
@@ -124,29 +123,21 @@ TEST_F(FStoreTest, SharesTheFileWithAnotherProgram)
 	EXPECT_EQ(ReadFile(Open->Id), TEXT(""));
 }
 
-TEST_F(FStoreTest, ManyProgramsMayBeginItAtOnce)
+TEST_F(FStoreTest, AFirstStartWaitsForAnother)
 {
-	constexpr int32 NumPrograms = 8;
-	for (int32 Round = 0; Round < 5; ++Round)
-	{
-		const FString File = Folder.GetPath(*FString::Printf(TEXT("%d.sqlite"), Round));
-		std::barrier Start(NumPrograms);
-		std::vector<std::thread> Programs;
-		for (int32 Program = 0; Program < NumPrograms; ++Program)
+	FSqliteDatabase First(StoreFile, true);
+	First.Execute("BEGIN IMMEDIATE");
+	std::thread Releasing(
+		[&]
 		{
-			Programs.emplace_back(
-				[&]
-				{
-					FStoreError Error;
-					Start.arrive_and_wait();
-					EXPECT_TRUE(FConversationStore::Open(File, FConversationStore::EMissingFile::Create, Error)) << Error.Detail;
-				});
-		}
-		for (std::thread& Program : Programs)
-		{
-			Program.join();
-		}
-	}
+			FSqliteDatabase Waiting(StoreFile, false);
+			Waiting.Execute("PRAGMA busy_timeout = 200");
+			EXPECT_THROW(Waiting.Execute("BEGIN IMMEDIATE"), FStoreError);
+			First.Execute("COMMIT");
+		});
+	FStoreError Error;
+	EXPECT_TRUE(FConversationStore::Open(StoreFile, FConversationStore::EMissingFile::Create, Error)) << Error.Detail;
+	Releasing.join();
 }
 
 TEST_F(FStoreTest, MigratesStepByStepWithABackup)

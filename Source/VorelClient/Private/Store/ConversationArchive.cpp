@@ -17,6 +17,9 @@ DEFINE_LOG_CATEGORY(LogVorelStore);
 // Long enough for a slow disk, and too short to be noticed.
 static constexpr std::chrono::milliseconds LongestWait{250};
 
+// All is read anew, and a program that streams an answer writes several times a second.
+static constexpr float SecondsBetweenForeignChanges = 0.5f;
+
 namespace
 {
 void Tell(const FStoreError& Error, const FString& File, const FText& Consequence)
@@ -186,12 +189,13 @@ void FConversationArchive::RepeatForeignChange()
 	else if (!Parts->Frame.IsValid())
 	{
 		Parts->Frame = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateLambda(
-			[this](float)
-			{
-				Parts->Frame.Reset();
-				OnForeignChange();
-				return false;
-			}));
+																[this](float)
+																{
+																	Parts->Frame.Reset();
+																	OnForeignChange();
+																	return false;
+																}),
+			SecondsBetweenForeignChanges);
 	}
 }
 

@@ -19,7 +19,7 @@ public:
 	// Returns once all is written that can be.
 	~FConversationArchive();
 
-	// Another program has changed the store, and nothing of our own waits to be written. Fires in a frame.
+	// Another program has changed the store, and nothing of our own waits to be written. Fires in a frame soon after.
 	TFunction<void()> OnForeignChange;
 
 	// The last used first. False where not all could be read.
