@@ -5,49 +5,6 @@
 #include <gtest/gtest.h>
 #include <random>
 
-static FString KeysOf(const TMap<FString, int32>& Map)
-{
-	FString Result;
-	for (const auto& [Key, Value] : Map)
-	{
-		Result += Key;
-	}
-	return Result;
-}
-
-TEST(MapTest, IteratesInTheOrderOfAdding)
-{
-	TMap<FString, int32> Map;
-	for (const TCHAR* Key : {TEXT("z"), TEXT("a"), TEXT("m"), TEXT("b")})
-	{
-		Map.Add(Key, 1);
-	}
-	EXPECT_TEXT(KeysOf(Map), TEXT("zamb"));
-	Map.Add(TEXT("a"), 2);
-	EXPECT_TEXT(KeysOf(Map), TEXT("zamb"));
-	Map.Remove(TEXT("a"));
-	EXPECT_TEXT(KeysOf(Map), TEXT("zmb"));
-	Map.Add(TEXT("a"), 3);
-	EXPECT_TEXT(KeysOf(Map), TEXT("zmba"));
-}
-
-TEST(MapTest, FindsAndReplaces)
-{
-	TMap<FName, FString> Map = {{"one", TEXT("1")}, {"two", TEXT("2")}};
-	EXPECT_TEXT(*Map.Find("ONE"), TEXT("1"));
-	EXPECT_EQ(Map.Find("three"), nullptr);
-	EXPECT_TEXT(Map.FindRef("three"), TEXT(""));
-	Map["two"] = TEXT("zwei");
-	EXPECT_TEXT(Map.FindChecked("two"), TEXT("zwei"));
-	Map.FindOrAdd("three") += TEXT("3");
-	Map.FindOrAdd("three") += TEXT("3");
-	EXPECT_TEXT(Map["three"], TEXT("33"));
-	EXPECT_EQ(*Map.FindKey(TEXT("zwei")), FName("two"));
-	EXPECT_EQ(Map.Remove("one"), 1);
-	EXPECT_EQ(Map.Remove("one"), 0);
-	EXPECT_EQ(Map.Num(), 2);
-}
-
 TEST(MapTest, AgreesWithAPlainListUnderRandomUse)
 {
 	std::mt19937 Random(7);
@@ -74,12 +31,6 @@ TEST(MapTest, AgreesWithAPlainListUnderRandomUse)
 		Seen.Add(Pair);
 	}
 	EXPECT_EQ(Seen, List);
-}
-
-TEST(MapDeathTest, StopsWhereACheckedKeyIsMissing)
-{
-	const TMap<int32, int32> Map;
-	EXPECT_DEATH(Map[1], "Assertion failed");
 }
 
 TEST(SetTest, HoldsEachElementOnceInOrder)

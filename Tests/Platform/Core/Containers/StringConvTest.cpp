@@ -16,25 +16,16 @@ TEST(StringConvTest, ConvertsBothWaysWithoutLoss)
 	EXPECT_EQ(FUTF8ToTCHAR(nullptr).Length(), 0);
 }
 
-struct FInvalidUtf8Case
+TEST(StringConvTest, ReplacesInvalidBytes)
 {
-	const char* Bytes;
-	const TCHAR* Expected;
-};
-
-class InvalidUtf8Test : public testing::TestWithParam<FInvalidUtf8Case>
-{
-};
-
-TEST_P(InvalidUtf8Test, BecomesReplacementCharacters)
-{
-	EXPECT_TEXT(FUTF8ToTCHAR(GetParam().Bytes), GetParam().Expected);
+	const TPair<const char*, const TCHAR*> Cases[] = {{"a\x80z", TEXT("a\uFFFDz")}, {"\xE2\x82", TEXT("\uFFFD")},
+		{"\xF0\x9F\x98z", TEXT("\uFFFDz")}, {"\xC0\xAF", TEXT("\uFFFD\uFFFD")}, {"\xED\xA0\x80", TEXT("\uFFFD\uFFFD\uFFFD")},
+		{"\xFF", TEXT("\uFFFD")}};
+	for (const auto& [Bytes, Expected] : Cases)
+	{
+		EXPECT_TEXT(FUTF8ToTCHAR(Bytes), Expected);
+	}
 }
-
-INSTANTIATE_TEST_SUITE_P(StringConvTest, InvalidUtf8Test,
-	testing::Values(FInvalidUtf8Case{"a\x80z", TEXT("a\uFFFDz")}, FInvalidUtf8Case{"\xE2\x82", TEXT("\uFFFD")},
-		FInvalidUtf8Case{"\xF0\x9F\x98z", TEXT("\uFFFDz")}, FInvalidUtf8Case{"\xC0\xAF", TEXT("\uFFFD\uFFFD")},
-		FInvalidUtf8Case{"\xED\xA0\x80", TEXT("\uFFFD\uFFFD\uFFFD")}, FInvalidUtf8Case{"\xFF", TEXT("\uFFFD")}));
 
 TEST(StringConvTest, ReplacesSurrogatesWithoutPair)
 {

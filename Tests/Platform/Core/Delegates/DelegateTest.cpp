@@ -16,7 +16,6 @@ struct FListener : TSharedFromThis<FListener>
 
 	void OnText(const FString& Text) { Heard += Text; }
 	void OnTextWith(const FString& Text, int32 Number, FString Tail) { Heard += FString::Printf(TEXT("%s%d%s"), *Text, Number, *Tail); }
-	int32 Add(int32 Value) const { return Value + 1; }
 
 	FString Heard;
 };
@@ -33,30 +32,6 @@ public:
 	FString Heard;
 };
 } // namespace
-
-static int32 Twice(int32 Value)
-{
-	return 2 * Value;
-}
-
-TEST(DelegateTest, DoesNothingWhileUnbound)
-{
-	FOnText Delegate;
-	EXPECT_FALSE(Delegate.IsBound());
-	EXPECT_FALSE(Delegate.ExecuteIfBound(TEXT("x")));
-	Delegate.BindLambda([](const FString&) {});
-	EXPECT_TRUE(Delegate.ExecuteIfBound(TEXT("x")));
-	Delegate.Unbind();
-	EXPECT_FALSE(Delegate.ExecuteIfBound(TEXT("x")));
-}
-
-TEST(DelegateTest, BindsFunctionsMethodsAndLambdas)
-{
-	FListener Listener;
-	EXPECT_EQ(FOnSum::CreateStatic(&Twice).Execute(4), 8);
-	EXPECT_EQ(FOnSum::CreateRaw(&Listener, &FListener::Add).Execute(4), 5);
-	EXPECT_EQ(FOnSum::CreateLambda([](int32 Value, int32 Extra) { return Value * Extra; }, 10).Execute(4), 40);
-}
 
 TEST(DelegateTest, AddsPayloadBehindTheParameters)
 {

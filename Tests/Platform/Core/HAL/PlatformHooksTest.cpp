@@ -14,30 +14,6 @@ protected:
 	~PlatformHooksTest() override { FPlatformHooks::Get() = FPlatformHooks(); }
 };
 
-TEST_F(PlatformHooksTest, HandsOverAddressAndText)
-{
-	FString Launched;
-	FString Copied;
-	FPlatformHooks::Get().LaunchURL = [&](const FString& URL, FString&)
-	{
-		Launched = URL;
-		return true;
-	};
-	FPlatformHooks::Get().ClipboardCopy = [&](const FString& Text)
-	{
-		Copied = Text;
-	};
-
-	FString Error = TEXT("old");
-	FWindowsPlatformProcess::LaunchURL(TEXT("https://example.com/"), TEXT("?a=1"), &Error);
-	EXPECT_TEXT(Launched, TEXT("https://example.com/?a=1"));
-	EXPECT_TEXT(Error, TEXT(""));
-	FWindowsPlatformProcess::LaunchURL(TEXT("https://example.com/b"), nullptr, nullptr);
-	EXPECT_TEXT(Launched, TEXT("https://example.com/b"));
-	FWindowsPlatformApplicationMisc::ClipboardCopy(TEXT("a\nb"));
-	EXPECT_TEXT(Copied, TEXT("a\nb"));
-}
-
 TEST_F(PlatformHooksTest, SaysWhyNothingHappened)
 {
 	const FLogCapture Log;

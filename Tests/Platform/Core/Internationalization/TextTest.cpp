@@ -97,22 +97,6 @@ TEST_F(TextTest, AFormatFollowsTheCultureOfItsParts)
 	EXPECT_TEXT(Text.ToString(), TEXT("1.000 Punkte"));
 }
 
-TEST_F(TextTest, ComparesByWhatIsShown)
-{
-	EXPECT_TRUE(INVTEXT("a").EqualTo(FText::FromString(TEXT("a"))));
-	EXPECT_FALSE(INVTEXT("a").EqualTo(INVTEXT("A")));
-	EXPECT_TRUE(LOCTEXT("K", "a").EqualTo(LOCTEXT("L", "a")));
-	EXPECT_TRUE(FText().IsEmpty());
-	EXPECT_FALSE(INVTEXT(" ").IsEmpty());
-}
-
-TEST_F(TextTest, CopiesShareOneString)
-{
-	const FText Text = FText::FromString(FString::ChrN(1000000, TEXT('x')));
-	const FText Copy = Text;
-	EXPECT_EQ(&Copy.ToString(), &Text.ToString());
-}
-
 TEST_F(TextTest, TellsOfACultureThatChangedAndRefusesOneThatDoesNotExist)
 {
 	int32 NumChanges = 0;

@@ -13,17 +13,6 @@ TEST(MathTest, RoundsTowardsPlusInfinityAtHalves)
 	EXPECT_EQ(FMath::Clamp(5, 0, 3), 3);
 }
 
-TEST(MathTest, VectorsAddScaleAndConvert)
-{
-	const FVector2D A(1.0, 2.0);
-	EXPECT_EQ(A + FVector2D(3.0, 4.0), FVector2D(4.0, 6.0));
-	EXPECT_EQ(A * 2.0, FVector2D(2.0, 4.0));
-	EXPECT_EQ(FVector2D(3.0, 4.0).Size(), 5.0);
-	EXPECT_EQ(FVector2D(FVector2f(0.5f, 0.25f)), FVector2D(0.5, 0.25));
-	EXPECT_TRUE(FVector2D::ZeroVector.IsZero());
-	EXPECT_TRUE(A.Equals(FVector2D(1.00001, 2.0)));
-}
-
 TEST(ColorTest, ConvertsBetweenLinearAndSrgb)
 {
 	EXPECT_EQ(FLinearColor(0.5f, 0.0f, 1.0f).ToFColor(true), FColor(188, 0, 255));

@@ -18,30 +18,6 @@ struct FSource : TSharedFromThis<FSource>
 };
 } // namespace
 
-TEST(AttributeTest, HoldsAValue)
-{
-	TAttribute<float> Attribute;
-	EXPECT_FALSE(Attribute.IsSet());
-	EXPECT_EQ(Attribute.Get(7.0f), 7.0f);
-	Attribute = 3.0f;
-	EXPECT_TRUE(Attribute.IsSet());
-	EXPECT_FALSE(Attribute.IsBound());
-	EXPECT_EQ(Attribute.Get(7.0f), 3.0f);
-	Attribute.Set(4.0f);
-	EXPECT_EQ(Attribute.Get(), 4.0f);
-}
-
-TEST(AttributeTest, CallsItsGetterAtEachRead)
-{
-	const TSharedRef<FSource> Source = MakeShared<FSource>();
-	const TAttribute<FText> Attribute = TAttribute<FText>::CreateSP(&Source.Get(), &FSource::GetText);
-	EXPECT_EQ(Source->NumReads, 0);
-	EXPECT_TEXT(Attribute.Get().ToString(), TEXT("1"));
-	EXPECT_TEXT(Attribute.Get().ToString(), TEXT("2"));
-	const TAttribute<FText> Copy = Attribute;
-	EXPECT_TEXT(Copy.Get().ToString(), TEXT("3"));
-}
-
 TEST(AttributeTest, KeepsItsLastValueWhenTheObjectIsGone)
 {
 	TSharedPtr<FSource> Source = MakeShared<FSource>();

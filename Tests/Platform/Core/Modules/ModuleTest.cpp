@@ -38,16 +38,6 @@ protected:
 	~ModuleTest() override { FModuleManager::Get().UnloadModulesAtShutdown(); }
 };
 
-TEST_F(ModuleTest, LoadsOnTheFirstAsk)
-{
-	FModuleManager& Manager = FModuleManager::Get();
-	EXPECT_FALSE(Manager.IsModuleLoaded("TestModule1"));
-	IModuleInterface& First = Manager.LoadModuleChecked("TestModule1");
-	EXPECT_EQ(&Manager.LoadModuleChecked("TestModule1"), &First);
-	EXPECT_EQ(Manager.GetModule("testmodule1"), &First);
-	EXPECT_TEXT(Events, TEXT("+1 "));
-}
-
 TEST_F(ModuleTest, ShutsDownInReverseOrder)
 {
 	FModuleManager::Get().LoadModule("TestModule2");
@@ -64,11 +54,6 @@ TEST_F(ModuleTest, StartsAgainAfterUnloading)
 	EXPECT_FALSE(FModuleManager::Get().UnloadModule("TestModule1"));
 	FModuleManager::Get().LoadModule("TestModule1");
 	EXPECT_TEXT(Events, TEXT("+1 -1 ~1 +1 "));
-}
-
-TEST_F(ModuleTest, DoesNotKnowOthers)
-{
-	EXPECT_EQ(FModuleManager::Get().LoadModule("NoSuchModule"), nullptr);
 }
 
 TEST(ModuleDeathTest, StopsWhereAModuleCannotBeLoaded)

@@ -70,14 +70,6 @@ TEST_F(PluginTest, LeavesOutWhatIsNoDescriptorAndSaysWhy)
 	}
 }
 
-TEST_F(PluginTest, DoesNotKnowOthersAndToleratesMissingFolders)
-{
-	const FLogCapture Log;
-	EXPECT_FALSE(IPluginManager::Get().FindPlugin(TEXT("NoSuchPlugin")));
-	IPluginManager::Get().AddPluginSearchPath(Folder / TEXT("NoSuchFolder"));
-	EXPECT_EQ(Log.GetMessages().Num(), 0);
-}
-
 TEST_F(PluginTest, ReportsModulesThatThisProgramDoesNotHave)
 {
 	ASSERT_TRUE(Read(TEXT("Foreign"), TEXT("{\"Modules\": [{\"Name\": \"NoSuchModule\"}]}")));

@@ -53,25 +53,6 @@ TEST(SharedPointerTest, KeepsAnObjectAsLongAsSomebodyOwnsIt)
 	EXPECT_FALSE(Weak.Pin().IsValid());
 }
 
-TEST(SharedPointerTest, ConvertsBetweenBaseAndDerived)
-{
-	int32 Alive = 0;
-	const TSharedRef<FDerived> Derived = MakeShareable(new FDerived(Alive));
-	const TSharedRef<FCounted> Base = Derived;
-	EXPECT_EQ(StaticCastSharedRef<FDerived>(Base), Derived);
-	EXPECT_EQ(StaticCastSharedPtr<FDerived>(TSharedPtr<FCounted>(Base)), Derived);
-	EXPECT_EQ(Derived.GetSharedReferenceCount(), 2);
-	EXPECT_EQ(GetTypeHash(Base), GetTypeHash(TSharedPtr<FCounted>(Base)));
-}
-
-TEST(SharedPointerTest, AMovedFromReferenceIsStillNotNull)
-{
-	int32 Alive = 0;
-	TSharedRef<FCounted> Source = MakeShared<FCounted>(Alive);
-	const TSharedRef<FCounted> Target = MoveTemp(Source);
-	EXPECT_EQ(&Source.Get(), &Target.Get());
-}
-
 TEST(SharedPointerTest, HandsOutItselfOnceItIsHeld)
 {
 	const TSharedRef<FDerivedSelf> Self = MakeShared<FDerivedSelf>();

@@ -14,13 +14,3 @@ TEST(NameTest, IgnoresCaseAndKeepsTheFirstSpelling)
 	EXPECT_TRUE(First == TEXT("VORELAI.spellingtest"));
 	EXPECT_NE(First, FName(TEXT("VorelAI.Other")));
 }
-
-TEST(NameTest, HasAnEmptyName)
-{
-	EXPECT_TRUE(FName().IsNone());
-	EXPECT_TRUE(FName(TEXT("")).IsNone());
-	EXPECT_TRUE(FName(TEXT("none")).IsNone());
-	EXPECT_EQ(FName(NAME_None), FName());
-	EXPECT_TEXT(FName().ToString(), TEXT("None"));
-	EXPECT_FALSE(FName(TEXT("x")).IsNone());
-}

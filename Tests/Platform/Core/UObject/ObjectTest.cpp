@@ -38,38 +38,10 @@ protected:
 		UNode::NumDestroyed = 0;
 	}
 
-	static UNode* MakeKept()
-	{
-		UNode* Node = NewObject<UNode>(GetTransientPackage(), NAME_None, RF_Standalone);
-		return Node;
-	}
+	static UNode* MakeKept() { return NewObject<UNode>(GetTransientPackage(), NAME_None, RF_Standalone); }
 
 	~ObjectTest() override { CollectGarbage(RF_NoFlags); }
 };
-
-TEST_F(ObjectTest, IsMadeWithOuterNameAndFlags)
-{
-	UNode* Node = NewObject<UNode>();
-	EXPECT_EQ(Node->GetOuter(), GetTransientPackage());
-	EXPECT_FALSE(Node->GetFName().IsNone());
-	EXPECT_FALSE(Node->HasAnyFlags(RF_Standalone));
-	const UNode* Inner = NewObject<UNode>(Node, "Inner", RF_Public | RF_Transient);
-	EXPECT_EQ(Inner->GetOuter(), Node);
-	EXPECT_TEXT(Inner->GetName(), TEXT("Inner"));
-	EXPECT_TRUE(Inner->HasAnyFlags(RF_Transient));
-	EXPECT_FALSE(Inner->HasAnyFlags(RF_Standalone));
-}
-
-TEST_F(ObjectTest, GoesWhenNothingKeepsIt)
-{
-	const TObjectPtr<UNode> Node = NewObject<UNode>();
-	EXPECT_TRUE(IsValid(Node));
-	CollectGarbage();
-	EXPECT_EQ(UNode::NumDestroyed, 1);
-	EXPECT_FALSE(IsValid(Node));
-	EXPECT_FALSE(Node);
-	EXPECT_EQ(Node.Get(), nullptr);
-}
 
 TEST_F(ObjectTest, StandaloneFlagAndRootSetKeep)
 {
@@ -139,20 +111,6 @@ TEST_F(ObjectTest, DestructorsDoNotReachWhatDiesWithThem)
 	CollectGarbage();
 	EXPECT_EQ(UNode::NumDestroyed, 2);
 	EXPECT_FALSE(UNode::bSawDyingNeighbour);
-}
-
-TEST_F(ObjectTest, PointersCompareByObject)
-{
-	UNode* Node = NewObject<UNode>();
-	const TObjectPtr<UNode> Ptr = Node;
-	const TObjectPtr<UObject> Base = Ptr;
-	EXPECT_TRUE(Ptr == Node);
-	EXPECT_TRUE(Base == Ptr);
-	EXPECT_TRUE(Ptr != nullptr);
-	EXPECT_TRUE(TObjectPtr<UNode>() == nullptr);
-	EXPECT_EQ(GetTypeHash(Ptr), GetTypeHash(Base));
-	EXPECT_FALSE(IsValid(TObjectPtr<UNode>(nullptr)));
-	EXPECT_FALSE(IsValid(static_cast<UNode*>(nullptr)));
 }
 
 TEST(ObjectDeathTest, StopsAtMisuse)
