@@ -100,17 +100,6 @@ TEST_F(TabManagerTest, ClosingTheForegroundTabBringsAnotherForward)
 	EXPECT_TRUE(A->IsForeground());
 }
 
-TEST_F(TabManagerTest, ATabWithoutLabelShowsTheDisplayNameOfItsSpawner)
-{
-	Register("A").SetDisplayName(INVTEXT("Shown name")).SetMenuType(ETabSpawnerMenuType::Hidden);
-	EXPECT_EQ(GetManager().GetSpawners().Last()->GetMenuType(), ETabSpawnerMenuType::Hidden);
-	const TSharedPtr<SDockTab> Tab = GetManager().TryInvokeTab(FTabId("A"));
-	EXPECT_TEXT(Tab->GetTabLabel().ToString(), TEXT("Shown name"));
-	const TSharedRef<SDockTab> Labelled = SNew(SDockTab).Label(INVTEXT("Own"));
-	EXPECT_TEXT(Labelled->GetTabLabel().ToString(), TEXT("Own"));
-	EXPECT_TEXT(Register("B").GetDisplayName().ToString(), TEXT("B"));
-}
-
 TEST_F(TabManagerTest, AnOpenTabOutlivesItsSpawner)
 {
 	Register("A");

@@ -125,14 +125,3 @@ TEST_F(TimerManagerTest, SkipsObjectsThatAreGoneAndTellsTheHost)
 	Timers.Tick(1.0f);
 	EXPECT_FALSE(Timers.TimerExists(Handle));
 }
-
-TEST(EditorEngineTest, IsThereBetweenStartupAndShutdown)
-{
-	EXPECT_EQ(GEditor, nullptr);
-	UEditorEngine::Startup();
-	CollectGarbage();
-	ASSERT_TRUE(IsValid(GEditor));
-	EXPECT_FALSE(GEditor->GetTimerManager()->GetTimeToNextTimer().IsSet());
-	UEditorEngine::Shutdown();
-	EXPECT_EQ(GEditor, nullptr);
-}
