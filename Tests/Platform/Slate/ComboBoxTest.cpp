@@ -187,6 +187,7 @@ TEST_F(ComboBox, TypingFindsAnOptionByItsBeginning)
 	EXPECT_EQ(ChooseBy({TEXT("'c"), TEXT("' 5")}), TEXT("c 5 by key;"));
 	EXPECT_EQ(ChooseBy({TEXT("Down"), TEXT("'a")}), TEXT("a 3 by key;"));
 	EXPECT_EQ(ChooseBy({TEXT("End"), TEXT("'a")}), TEXT("a 0 by key;"));
+	EXPECT_EQ(ChooseBy({TEXT("'a"), TEXT("Down"), TEXT("'a")}), TEXT("a 3 by key;")) << "another key ends the typing";
 	EXPECT_EQ(ChooseBy({TEXT("'z")}), FString());
 	User.Press(TEXT("Down"));
 	const FModifierKeysState AltGr(false, true, true);

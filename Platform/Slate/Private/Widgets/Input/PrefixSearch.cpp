@@ -30,11 +30,16 @@ void FPrefixSearch::Type(TCHAR Character, int32 Highlighted, int32 InNumOptions)
 	}
 }
 
-void FPrefixSearch::Reset()
+void FPrefixSearch::Stop()
 {
 	Prefix.Empty();
-	Texts.Empty();
 	NumLeft = 0;
+}
+
+void FPrefixSearch::Reset()
+{
+	Stop();
+	Texts.Empty();
 }
 
 bool FPrefixSearch::ForgetPrefix(float)

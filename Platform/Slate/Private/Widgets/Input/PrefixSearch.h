@@ -25,6 +25,9 @@ public:
 	void Type(TCHAR Character, int32 Highlighted, int32 InNumOptions);
 	bool IsTyping() const { return !Prefix.IsEmpty(); }
 
+	/** The user goes on by other means. */
+	void Stop();
+
 	/** The options changed. */
 	void Reset();
 

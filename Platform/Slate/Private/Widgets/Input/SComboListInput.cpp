@@ -59,6 +59,7 @@ FReply SComboList::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKey
 	{
 		return SPanel::OnKeyDown(MyGeometry, InKeyEvent);
 	}
+	Search->Stop();
 	HighlightByKey(*Target);
 	// It may have been on a button in a row, which Enter would press.
 	return FReply::Handled().SetUserFocus(AsShared());
