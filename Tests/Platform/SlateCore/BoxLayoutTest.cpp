@@ -24,14 +24,6 @@ FBoxSlotInput Fill(float Weight, float Padding = 0.0f, float MaxSize = 0.0f)
 	return {50.0f, Padding, Weight, MaxSize};
 }
 
-void PrintTo(const FRow& Row, std::ostream* Stream)
-{
-	*Stream << Row.Name;
-}
-
-class BoxLayout : public testing::TestWithParam<FRow>
-{
-};
 } // namespace
 
 static void PrintTo(const FBoxSlotExtent& Extent, std::ostream* Stream)
@@ -39,26 +31,20 @@ static void PrintTo(const FBoxSlotExtent& Extent, std::ostream* Stream)
 	*Stream << Extent.Offset << "+" << Extent.Size;
 }
 
-TEST_P(BoxLayout, DividesABoxAmongItsSlots)
+TEST(BoxLayout, DividesABoxAmongItsSlots)
 {
-	const TArray<FBoxSlotExtent> Extents = ArrangeBoxSlots(GetParam().Slots, GetParam().Allotted);
-	ASSERT_EQ(Extents.Num(), GetParam().Expected.Num());
-	for (int32 Index = 0; Index < Extents.Num(); ++Index)
+	const FRow Rows[] = {{"No slots", {}, 100.0f, {}},
+		{"What is wished for, wherever the box ends", {Auto(30.0f), Auto(90.0f)}, 100.0f, {{0.0f, 30.0f}, {30.0f, 90.0f}}},
+		{"One that fills takes the rest", {Auto(30.0f), Fill(1.0f), Auto(20.0f)}, 100.0f, {{0.0f, 30.0f}, {30.0f, 50.0f}, {80.0f, 20.0f}}},
+		{"Weights", {Fill(1.0f), Fill(3.0f)}, 100.0f, {{0.0f, 25.0f}, {25.0f, 75.0f}}},
+		{"A child that fills may get less than it wishes", {Auto(80.0f), Fill(1.0f)}, 100.0f, {{0.0f, 80.0f}, {80.0f, 20.0f}}},
+		{"Nothing is left", {Auto(130.0f), Fill(1.0f)}, 100.0f, {{0.0f, 130.0f}, {130.0f, 0.0f}}},
+		{"Padding is part of the slot, and comes before sharing", {Auto(30.0f, 10.0f), Fill(1.0f, 20.0f), Fill(1.0f)}, 100.0f,
+			{{0.0f, 40.0f}, {40.0f, 40.0f}, {80.0f, 20.0f}}},
+		{"A limit without its padding", {Auto(30.0f, 5.0f, 25.0f), Fill(1.0f)}, 100.0f, {{0.0f, 30.0f}, {30.0f, 70.0f}}},
+		{"What a limited slot leaves stays empty", {Fill(1.0f, 0.0f, 10.0f), Fill(1.0f)}, 100.0f, {{0.0f, 10.0f}, {10.0f, 50.0f}}}};
+	for (const FRow& Row : Rows)
 	{
-		EXPECT_EQ(Extents[Index], GetParam().Expected[Index]) << "slot " << Index;
+		EXPECT_EQ(ArrangeBoxSlots(Row.Slots, Row.Allotted), Row.Expected) << Row.Name;
 	}
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, BoxLayout,
-	testing::Values(FRow{"No slots", {}, 100.0f, {}},
-		FRow{"What is wished for, wherever the box ends", {Auto(30.0f), Auto(90.0f)}, 100.0f, {{0.0f, 30.0f}, {30.0f, 90.0f}}},
-		FRow{"One that fills takes the rest", {Auto(30.0f), Fill(1.0f), Auto(20.0f)}, 100.0f,
-			{{0.0f, 30.0f}, {30.0f, 50.0f}, {80.0f, 20.0f}}},
-		FRow{"Weights", {Fill(1.0f), Fill(3.0f)}, 100.0f, {{0.0f, 25.0f}, {25.0f, 75.0f}}},
-		FRow{"A child that fills may get less than it wishes", {Auto(80.0f), Fill(1.0f)}, 100.0f, {{0.0f, 80.0f}, {80.0f, 20.0f}}},
-		FRow{"Nothing is left", {Auto(130.0f), Fill(1.0f)}, 100.0f, {{0.0f, 130.0f}, {130.0f, 0.0f}}},
-		FRow{"Padding is part of the slot, and comes before sharing", {Auto(30.0f, 10.0f), Fill(1.0f, 20.0f), Fill(1.0f)}, 100.0f,
-			{{0.0f, 40.0f}, {40.0f, 40.0f}, {80.0f, 20.0f}}},
-		FRow{"A limit without its padding", {Auto(30.0f, 5.0f, 25.0f), Fill(1.0f)}, 100.0f, {{0.0f, 30.0f}, {30.0f, 70.0f}}},
-		FRow{"What a limited slot leaves stays empty", {Fill(1.0f, 0.0f, 10.0f), Fill(1.0f)}, 100.0f, {{0.0f, 10.0f}, {10.0f, 50.0f}}}),
-	[](const testing::TestParamInfo<FRow>& Info) { return "Row" + std::to_string(Info.index); });

@@ -4,7 +4,6 @@
 #include "Probes.h"
 #include "Support/UserDriver.h"
 #include "Widgets/SBoxPanel.h"
-#include "Widgets/SCompoundWidget.h"
 #include "Widgets/SWindow.h"
 
 #include <gtest/gtest.h>
@@ -30,10 +29,6 @@ private:
 class SDerivedTickingProbe : public STickingProbe
 {
 };
-
-static_assert(CWidgetWithoutTick<SProbe>);
-static_assert(!CWidgetWithoutTick<STickingProbe>);
-static_assert(!CWidgetWithoutTick<SDerivedTickingProbe>);
 
 struct FBound
 {
@@ -104,36 +99,6 @@ TEST(BoundAttributes, ABoundVisibilityBringsACollapsedWidgetBack)
 	bShown = false;
 	User.AdvanceTime(0.0f);
 	EXPECT_EQ(User.GetWindow()->GetContent()->GetDesiredSize(), FVector2D(0.0, 0.0));
-}
-
-namespace
-{
-/** As a view that binds what it shows to getters of its own. */
-class SPresenter : public SCompoundWidget
-{
-public:
-	SLATE_BEGIN_ARGS(SPresenter) {}
-	SLATE_END_ARGS()
-
-	void Construct(const FArguments&) { ChildSlot[SAssignNew(Probe, SProbe).BoundSize(this, &SPresenter::GetSize)]; }
-	FVector2D GetSize() const { return FVector2D(7.0, 7.0); }
-
-	TSharedPtr<SProbe> Probe;
-};
-} // namespace
-
-TEST(BoundAttributes, AWidgetThatHasGoneLeavesItsLastValue)
-{
-	TSharedPtr<SPresenter> Presenter = SNew(SPresenter);
-	const TSharedRef<SProbe> Probe = Presenter->Probe.ToSharedRef();
-	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox);
-	Box->AddSlot().AutoHeight()[Presenter.ToSharedRef()];
-	FUserDriver User(Box, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
-	Box->AddSlot().AutoHeight()[Probe];
-	Box->RemoveSlot(Presenter.ToSharedRef());
-	Presenter.Reset();
-	User.AdvanceTime(0.0f);
-	EXPECT_EQ(Probe->GetDesiredSize(), FVector2D(7.0, 7.0));
 }
 
 TEST(Ticking, AWidgetInViewTicksAndKeepsTheFramesComing)

@@ -136,12 +136,3 @@ TEST_F(LongBox, CollapsingAndRemovingFarAwayShortensIt)
 	EXPECT_EQ(TopOf(8002), 0.0);
 	EXPECT_LE(Stats().NumPainted, 20);
 }
-
-TEST_F(LongBox, TheTreeListsWhatIsOutOfViewWhereItWouldStand)
-{
-	View->ShowFrom(50000.0);
-	User.Frame();
-	const FString Tree = User.Tree();
-	EXPECT_TRUE(Tree.StartsWith(TEXT("SViewport 0,0 100x100\n  SVerticalBox 0,-50000 100x100000\n    SWrappingProbe 0,-50000 100x10\n")));
-	EXPECT_TRUE(Tree.EndsWith(TEXT("    SWrappingProbe 0,49990 100x10\n")));
-}

@@ -1,11 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Brushes/SlateBorderBrush.h"
-#include "Brushes/SlateBoxBrush.h"
 #include "Brushes/SlateColorBrush.h"
-#include "Brushes/SlateImageBrush.h"
-#include "Brushes/SlateNoResource.h"
-#include "Brushes/SlateRoundedBoxBrush.h"
 #include "Styling/SlateStyle.h"
 #include "Styling/SlateStyleRegistry.h"
 #include "Styling/SlateTypes.h"
@@ -27,26 +22,9 @@ protected:
 
 TEST_F(Style, AMissingNameYieldsTheDefaultOfItsKind)
 {
-	EXPECT_EQ(Set.GetColor("None"), FLinearColor::White);
 	EXPECT_EQ(Set.GetColor("None", nullptr, Orange), Orange);
-	EXPECT_EQ(Set.GetSlateColor("None", nullptr, FSlateColor::UseForeground()), FSlateColor::UseForeground());
-	EXPECT_EQ(Set.GetSlateColor("None"), FStyleDefaults::DefaultSlateColor);
-	EXPECT_EQ(Set.GetFloat("None", nullptr, 3.0f), 3.0f);
-	EXPECT_EQ(Set.GetVector("None"), FVector2D(0.0, 0.0));
-	EXPECT_EQ(Set.GetMargin("None"), FMargin());
 	EXPECT_EQ(Set.GetBrush("None")->DrawAs, ESlateBrushDrawType::NoDrawType);
 	EXPECT_EQ(Set.GetOptionalBrush("None", nullptr, nullptr), nullptr);
-	EXPECT_EQ(&Set.GetWidgetStyle<FButtonStyle>("None"), &FButtonStyle::GetDefault());
-	EXPECT_FALSE(Set.HasWidgetStyle<FButtonStyle>("None"));
-	EXPECT_EQ(FButtonStyle::GetDefault().Normal.DrawAs, ESlateBrushDrawType::NoDrawType);
-}
-
-TEST_F(Style, NamesCompareIgnoringCaseAndTakeASpecifier)
-{
-	Set.Set("Button.Color", Orange);
-	Set.Set("Button.Color.Hovered", FLinearColor::Red);
-	EXPECT_EQ(Set.GetColor("button.COLOR"), Orange);
-	EXPECT_EQ(Set.GetColor("Button.Color", ".Hovered"), FLinearColor::Red);
 }
 
 TEST_F(Style, EachKindOfColorIsReadAsEither)
@@ -84,13 +62,6 @@ TEST_F(Style, WhatWasHandedOutOutlivesBeingReplaced)
 	EXPECT_EQ(Set.GetBrush("Brush")->TintColor, FSlateColor(FLinearColor::Red));
 }
 
-TEST_F(Style, PathsStartAtTheContentRoot)
-{
-	EXPECT_EQ(Set.RootToContentDir(TEXT("Old/Line"), TEXT(".png")), TEXT("Old/Line.png"));
-	Set.SetContentRoot(TEXT("Content/Slate"));
-	EXPECT_EQ(Set.RootToContentDir(TEXT("Old/Line"), TEXT(".png")), TEXT("Content/Slate/Old/Line.png"));
-}
-
 TEST_F(Style, TheRegistryBearsRepetitionAndNamesBrushes)
 {
 	Set.Set("Icon.Send", new FSlateColorBrush(Orange));
@@ -110,24 +81,6 @@ TEST_F(Style, TheRegistryBearsRepetitionAndNamesBrushes)
 	FSlateStyleRegistry::UnRegisterSlateStyle(Set);
 	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("TestStyle"), nullptr);
 	EXPECT_EQ(FSlateStyleRegistry::FindBrushName(Brush), FName());
-}
-
-TEST(Brushes, SayWhatTheyAre)
-{
-	EXPECT_EQ(FSlateColorBrush(Orange).TintColor, FSlateColor(Orange));
-	const FSlateRoundedBoxBrush Rounded(Orange, 4.0f);
-	EXPECT_EQ(Rounded.DrawAs, ESlateBrushDrawType::RoundedBox);
-	EXPECT_EQ(Rounded.OutlineSettings.CornerRadii, (FVector4{4.0, 4.0, 4.0, 4.0}));
-	EXPECT_EQ(Rounded.OutlineSettings.Color, FSlateColor(FLinearColor::Transparent));
-	EXPECT_EQ(Rounded.OutlineSettings.Width, 0.0f);
-	const FSlateImageBrush Image(TEXT("a.png"), FVector2D(16.0, 8.0));
-	EXPECT_EQ(Image.GetResourceName(), FName("a.png"));
-	EXPECT_EQ(Image.ImageType, ESlateBrushImageType::FullColor);
-	EXPECT_EQ(FSlateVectorImageBrush(TEXT("a.svg"), FVector2D(16.0, 8.0)).ImageType, ESlateBrushImageType::Vector);
-	EXPECT_EQ(FSlateBoxBrush(TEXT("a.png"), FMargin(0.375f)).DrawAs, ESlateBrushDrawType::Box);
-	EXPECT_EQ(FSlateBorderBrush(TEXT("a.png"), FMargin(0.0f, 0.0f, 0.0f, 0.1875f)).Margin.Bottom, 0.1875f);
-	EXPECT_EQ(FSlateNoResource().GetImageSize(), FVector2D(0.0, 0.0));
-	EXPECT_FALSE(Image == FSlateImageBrush(TEXT("b.png"), FVector2D(16.0, 8.0)));
 }
 
 TEST(SlateColor, IsTakenFromItsSurroundingsOrGiven)
