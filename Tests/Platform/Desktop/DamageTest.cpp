@@ -54,20 +54,3 @@ TEST(Damage, RepaintingWhatChangedIsAsGoodAsRepaintingAll)
 		ASSERT_EQ(Host.Widget.GetPicture(), PaintAnew(Host)) << "after step " << Step;
 	}
 }
-
-TEST(Damage, WhatDidNotChangeIsNotTouched)
-{
-	const TSharedRef<SProbe> Left = SNew(SProbe);
-	const TSharedRef<SProbe> Right = SNew(SProbe);
-	FTestHost Host(SNew(SHorizontalBox) + SHorizontalBox::Slot().FillWidth(1.0f)[Left] + SHorizontalBox::Slot().FillWidth(1.0f)[Right]);
-	Left->SetColor(FLinearColor::Red);
-	FSlateApplication::Get().Tick(0.016f);
-	const TArray<FSlateRect> Damage = Host.Window->TakeDamage();
-	ASSERT_GE(Damage.Num(), 1);
-	for (const FSlateRect& Rect : Damage)
-	{
-		EXPECT_GE(Rect.Left, -2.0f);
-		EXPECT_LE(Rect.Right, 52.0f);
-	}
-	RunFrames();
-}

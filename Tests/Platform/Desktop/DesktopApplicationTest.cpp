@@ -1,7 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "DesktopApplication.h"
-#include "HAL/PlatformApplicationMisc.h"
 #include "HAL/PlatformProcess.h"
 #include "Support/LogCapture.h"
 #include "Support/Printers.h"
@@ -25,13 +24,4 @@ TEST(Desktop, OnlyWebAndMailAddressesAreOpened)
 	Desktop.LaunchURL(TEXT("mailto:someone@example.com"));
 	ASSERT_EQ(Desktop.GetOpenedAddresses().Num(), Before + 2);
 	EXPECT_EQ(Desktop.GetOpenedAddresses()[Before], FString(TEXT("https://example.com/tos?a=b#c")));
-}
-
-TEST(Desktop, TheClipboardKeepsTextExactly)
-{
-	const FString Code(TEXT("int a;\n\tb -> \u00fc \U0001F600\n"));
-	FPlatformApplicationMisc::ClipboardCopy(*Code);
-	EXPECT_TRUE(FDesktopApplication::Get().GetClipboardText().Equals(Code));
-	FDesktopApplication::Get().SetClipboardText(FString());
-	EXPECT_TRUE(FDesktopApplication::Get().GetClipboardText().IsEmpty());
 }

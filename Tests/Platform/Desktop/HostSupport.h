@@ -41,57 +41,26 @@ public:
 
 	FReply OnMouseButtonDown(const FGeometry&, const FPointerEvent& Event) override
 	{
-		Note("down ", Event);
-		return FReply::Handled().CaptureMouse(SharedThis(this));
+		return Note("down ", Event).CaptureMouse(SharedThis(this));
 	}
-	FReply OnMouseButtonUp(const FGeometry&, const FPointerEvent& Event) override
-	{
-		Note("up ", Event);
-		return FReply::Handled().ReleaseMouseCapture();
-	}
-	FReply OnMouseButtonDoubleClick(const FGeometry&, const FPointerEvent& Event) override
-	{
-		Note("double ", Event);
-		return FReply::Handled();
-	}
-	FReply OnMouseMove(const FGeometry&, const FPointerEvent& Event) override
-	{
-		Note("move", Event);
-		return FReply::Handled();
-	}
-	FReply OnMouseWheel(const FGeometry&, const FPointerEvent& Event) override
-	{
-		Note("wheel", Event);
-		return FReply::Handled();
-	}
-	void OnMouseLeave(const FPointerEvent&) override { Events.push_back("leave"); }
-	FReply OnKeyDown(const FGeometry&, const FKeyEvent& Event) override
-	{
-		Events.push_back("key " + Name(Event.GetKey()));
-		return FReply::Handled();
-	}
-	FReply OnKeyUp(const FGeometry&, const FKeyEvent& Event) override
-	{
-		Events.push_back("keyup " + Name(Event.GetKey()));
-		return FReply::Handled();
-	}
+	FReply OnMouseButtonUp(const FGeometry&, const FPointerEvent& Event) override { return Note("up ", Event).ReleaseMouseCapture(); }
+	FReply OnMouseButtonDoubleClick(const FGeometry&, const FPointerEvent& Event) override { return Note("double ", Event); }
+	FReply OnMouseMove(const FGeometry&, const FPointerEvent& Event) override { return Note("move", Event); }
+	FReply OnMouseWheel(const FGeometry&, const FPointerEvent& Event) override { return Note("wheel", Event); }
+	void OnMouseLeave(const FPointerEvent&) override { Note("leave"); }
+	FReply OnKeyDown(const FGeometry&, const FKeyEvent& Event) override { return Note("key " + Name(Event.GetKey())); }
+	FReply OnKeyUp(const FGeometry&, const FKeyEvent& Event) override { return Note("keyup " + Name(Event.GetKey())); }
 	FReply OnKeyChar(const FGeometry&, const FCharacterEvent& Event) override
 	{
-		Events.push_back("char " + QString::number(Event.GetCharacter(), 16).toStdString());
-		return FReply::Handled();
+		return Note("char " + QString::number(Event.GetCharacter(), 16).toStdString());
 	}
 	FReply OnTextComposition(const FGeometry&, const FTextCompositionEvent& Event) override
 	{
 		Composition = Event;
-		Events.push_back("composition");
-		return FReply::Handled();
+		return Note("composition");
 	}
-	FReply OnFocusReceived(const FGeometry&, const FFocusEvent&) override
-	{
-		Events.push_back("focus");
-		return FReply::Handled();
-	}
-	void OnFocusLost(const FFocusEvent&) override { Events.push_back("blur"); }
+	FReply OnFocusReceived(const FGeometry&, const FFocusEvent&) override { return Note("focus"); }
+	void OnFocusLost(const FFocusEvent&) override { Note("blur"); }
 
 protected:
 	FVector2D ComputeDesiredSize(float) const override { return FVector2D(40.0, 20.0); }
@@ -107,10 +76,16 @@ protected:
 private:
 	static std::string Name(const FKey& Key) { return TCHAR_TO_UTF8(*Key.ToString()); }
 
-	void Note(const char* Word, const FPointerEvent& Event)
+	FReply Note(const std::string& Word)
+	{
+		Events.push_back(Word);
+		return FReply::Handled();
+	}
+
+	FReply Note(const char* Word, const FPointerEvent& Event)
 	{
 		PointerEvents.Add(Event);
-		Events.push_back(Word + (Event.GetEffectingButton().IsValid() ? Name(Event.GetEffectingButton()) : std::string()));
+		return Note(Word + (Event.GetEffectingButton().IsValid() ? Name(Event.GetEffectingButton()) : std::string()));
 	}
 
 	FLinearColor Color = FLinearColor::White;
