@@ -30,19 +30,14 @@ FKey FindKey(const FString& Name)
 
 FKeyEvent ParseKeyEvent(const FString& KeyWithModifiers)
 {
-	FString Name = KeyWithModifiers;
-	bool bShift = false;
-	bool bControl = false;
-	bool bAlt = false;
-	for (bool bFound = true; bFound;)
+	TArray<FString> Words;
+	KeyWithModifiers.ParseIntoArray(Words, TEXT("+"));
+	const FString Name = Words.Pop();
+	const auto TakeModifier = [&Words](const TCHAR* Modifier)
 	{
-		const bool bShiftHere = Name.RemoveFromStart(TEXT("Shift+"));
-		const bool bControlHere = Name.RemoveFromStart(TEXT("Ctrl+"));
-		const bool bAltHere = Name.RemoveFromStart(TEXT("Alt+"));
-		bFound = bShiftHere || bControlHere || bAltHere;
-		bShift |= bShiftHere;
-		bControl |= bControlHere;
-		bAlt |= bAltHere;
-	}
-	return FKeyEvent(FindKey(Name), FModifierKeysState(bShift, bControl, bAlt));
+		return Words.Remove(Modifier) > 0;
+	};
+	const FModifierKeysState Modifiers(TakeModifier(TEXT("Shift")), TakeModifier(TEXT("Ctrl")), TakeModifier(TEXT("Alt")));
+	EXPECT_TRUE(Words.IsEmpty()) << KeyWithModifiers;
+	return FKeyEvent(FindKey(Name), Modifiers);
 }

@@ -14,7 +14,6 @@ void PrintTo(const FStringView& View, std::ostream* Stream);
 void PrintTo(const FName& Name, std::ostream* Stream);
 void PrintTo(const FText& Text, std::ostream* Stream);
 void PrintTo(const FVector2D& Vector, std::ostream* Stream);
-void PrintTo(const FVector2f& Vector, std::ostream* Stream);
 void PrintTo(const FLinearColor& Color, std::ostream* Stream);
 void PrintTo(const FColor& Color, std::ostream* Stream);
 

@@ -128,14 +128,6 @@ void FUserDriver::DoubleClickAt(const FVector2D& Place)
 	MouseUp(Place);
 }
 
-void FUserDriver::Hover(const FString& Text)
-{
-	if (const TOptional<FVector2D> Middle = LocateMiddle(Text))
-	{
-		MoveTo(*Middle);
-	}
-}
-
 void FUserDriver::MoveTo(const FVector2D& Place)
 {
 	FSlateApplication::Get().ProcessMouseMoveEvent(Window, MakePointer(Place, FKey()));

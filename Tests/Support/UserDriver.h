@@ -43,7 +43,6 @@ public:
 	void Click(const FString& Text);
 	void ClickAt(const FVector2D& Place);
 	void DoubleClickAt(const FVector2D& Place);
-	void Hover(const FString& Text);
 	void MoveTo(const FVector2D& Place);
 	void MouseDown(const FVector2D& Place, const FKey& Button = EKeys::LeftMouseButton);
 	void MouseUp(const FVector2D& Place, const FKey& Button = EKeys::LeftMouseButton);

@@ -27,11 +27,6 @@ void PrintTo(const FVector2D& Vector, std::ostream* Stream)
 	*Stream << '(' << Vector.X << ", " << Vector.Y << ')';
 }
 
-void PrintTo(const FVector2f& Vector, std::ostream* Stream)
-{
-	PrintTo(FVector2D(Vector), Stream);
-}
-
 void PrintTo(const FLinearColor& Color, std::ostream* Stream)
 {
 	*Stream << '(' << Color.R << ", " << Color.G << ", " << Color.B << ", " << Color.A << ')';

@@ -120,14 +120,9 @@ TObjectPtr<UFakeChatHistory> FFakeClient::OpenHistory(const FString& Id)
 	return Conversation;
 }
 
-TObjectPtr<UMessage> FFakeClient::StoreMessage(EChatRole Role, const FString& Text)
-{
-	return Conversation->AddMessage(Role, {Text});
-}
-
 void FFakeClient::AddMessage(EChatRole Role, const FString& Text)
 {
-	Chat->OnMessageAdded.Broadcast(StoreMessage(Role, Text));
+	Chat->OnMessageAdded.Broadcast(Conversation->AddMessage(Role, {Text}));
 }
 
 void FFakeClient::StartTurn(const FString& Question)

@@ -117,7 +117,6 @@ public:
 	// Opens a new, empty conversation, without an event.
 	TObjectPtr<UFakeChatHistory> OpenHistory(const FString& Id);
 
-	TObjectPtr<UMessage> StoreMessage(EChatRole Role, const FString& Text);
 	void AddMessage(EChatRole Role, const FString& Text);
 	void StartTurn(const FString& Question);
 	void DeliverChunk(const FString& Chunk);
