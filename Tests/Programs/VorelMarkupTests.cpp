@@ -1,39 +1,21 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include <array>
-#include <cstdio>
-#include <filesystem>
-#include <gtest/gtest.h>
-#include <string>
-#include <sys/wait.h>
+#include "Programs/ProgramRun.h"
+#include "Support/Printers.h"
 
 namespace
 {
-struct FOutcome
-{
-	std::string Output;
-	int ExitStatus;
-};
-
 // Runs a shell command in which the program is called $P. The output holds what it wrote to stdout and stderr.
-FOutcome RunShell(const std::string& Command)
+FProgramOutcome RunShell(const char* Command)
 {
-	const auto Program = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "vorel-markup";
-	FILE* Pipe = ::popen(("P='" + Program.string() + "'; exec 2>&1; " + Command).c_str(), "r");
-	FOutcome Outcome;
-	std::array<char, 4096> Buffer;
-	for (size_t Count; (Count = std::fread(Buffer.data(), 1, Buffer.size(), Pipe)) > 0;)
-	{
-		Outcome.Output.append(Buffer.data(), Count);
-	}
-	Outcome.ExitStatus = WEXITSTATUS(::pclose(Pipe));
-	return Outcome;
+	const QString Setup = QStringLiteral("P='%1'; exec 2>&1; ").arg(FProgramRun::FindProgram(QStringLiteral("vorel-markup")));
+	return FProgramRun{QStringLiteral("/bin/bash"), {QStringLiteral("-c"), Setup + QString::fromUtf8(Command)}, QString()}.Run();
 }
 
-void ExpectOutcome(const std::string& Command, const std::string& Output, int ExitStatus)
+void ExpectOutcome(const char* Command, const char* Output, int ExitStatus)
 {
-	const FOutcome Outcome = RunShell(Command);
-	EXPECT_EQ(Outcome.Output, Output) << Command;
+	const FProgramOutcome Outcome = RunShell(Command);
+	EXPECT_TEXT(Outcome.Output, FString(UTF8_TO_TCHAR(Output))) << Command;
 	EXPECT_EQ(Outcome.ExitStatus, ExitStatus) << Command;
 }
 } // namespace
@@ -48,9 +30,10 @@ TEST(VorelMarkup, ReadsMarkdownAndWritesMarkup)
 
 TEST(VorelMarkup, TellsAboutItself)
 {
-	EXPECT_EQ(RunShell("$P --help").Output.find("Usage: vorel-markup"), 0u);
-	EXPECT_EQ(RunShell("$P --help").ExitStatus, 0);
-	EXPECT_EQ(RunShell("$P --version").Output.find("vorel-markup "), 0u);
+	const FProgramOutcome Help = RunShell("$P --help");
+	EXPECT_TRUE(Help.Output.StartsWith(TEXT("Usage: vorel-markup"))) << Help.Output;
+	EXPECT_EQ(Help.ExitStatus, 0);
+	EXPECT_TRUE(RunShell("$P --version").Output.StartsWith(TEXT("vorel-markup ")));
 }
 
 TEST(VorelMarkup, EndsWithAMessageWhereItCantGoOn)

@@ -3,7 +3,6 @@
 #include "PlayScene.h"
 
 #include "DesktopApplication.h"
-#include "Misc/FileHelper.h"
 #include "Play/PlayRunner.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Layout/SBox.h"
@@ -53,7 +52,6 @@ FPlayScene::FPlayScene()
 FPlayScene::~FPlayScene()
 {
 	Host.reset();
-	Title.Reset();
 	Rows.Reset();
 	FDesktopApplication::Shutdown();
 }
@@ -72,38 +70,13 @@ static TSharedRef<SWidget> MakeRows()
 TSharedRef<SWidget> FPlayScene::MakeContent()
 {
 	return SNew(SVerticalBox)
-		+ SVerticalBox::Slot().AutoHeight()
-		[
-			SAssignNew(Title, STextBlock).Text(INVTEXT("Title"))
-		]
-		+ SVerticalBox::Slot().AutoHeight()
-		[
-			SNew(SButton).OnClicked(Count(NumPressedToo))[SNew(STextBlock).Text(INVTEXT("Press me too"))]
-		]
-		+ SVerticalBox::Slot().AutoHeight()
-		[
-			SNew(SButton).OnClicked(Count(NumPressed))[SNew(STextBlock).Text(INVTEXT("Press me"))]
-		]
-		+ SVerticalBox::Slot().AutoHeight()
-		[
-			SNew(SButton).Tag(TEXT("Tagged")).OnClicked(Count(NumTagged))[SNew(SBox).HeightOverride(10.0f)]
-		]
-		+ SVerticalBox::Slot().AutoHeight()
-		[
-			SNew(SMultiLineEditableText).HintText(INVTEXT("Write here"))
-		]
-		+ SVerticalBox::Slot().AutoHeight()
-		[
-			SNew(STextBlock).Text(INVTEXT("Note")).Visibility(EVisibility::Collapsed)
-		]
-		+ SVerticalBox::Slot().FillHeight(1.0f)
-		[
-			SAssignNew(Rows, SScrollBox)
-			+ SScrollBox::Slot()
-			[
-				MakeRows()
-			]
-		];
+		+ SVerticalBox::Slot().AutoHeight()[SNew(STextBlock).Text(INVTEXT("Title"))]
+		+ SVerticalBox::Slot().AutoHeight()[SNew(SButton).OnClicked(Count(NumPressedToo))[SNew(STextBlock).Text(INVTEXT("Press me too"))]]
+		+ SVerticalBox::Slot().AutoHeight()[SNew(SButton).OnClicked(Count(NumPressed))[SNew(STextBlock).Text(INVTEXT("Press me"))]]
+		+ SVerticalBox::Slot().AutoHeight()[SNew(SButton).Tag(TEXT("Tagged")).OnClicked(Count(NumTagged))[SNew(SBox).HeightOverride(10.0f)]]
+		+ SVerticalBox::Slot().AutoHeight()[SNew(SMultiLineEditableText).HintText(INVTEXT("Write here"))]
+		+ SVerticalBox::Slot().AutoHeight()[SNew(STextBlock).Text(INVTEXT("Note")).Visibility(EVisibility::Collapsed)]
+		+ SVerticalBox::Slot().FillHeight(1.0f)[SAssignNew(Rows, SScrollBox) + SScrollBox::Slot()[MakeRows()]];
 }
 // clang-format on
 
@@ -128,20 +101,6 @@ FString FPlayScene::Play(const FString& Text)
 		QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 	}
 	return Problem;
-}
-
-FString FPlayScene::ReadFile(const TCHAR* Name) const
-{
-	FString Text;
-	EXPECT_TRUE(FFileHelper::LoadFileToString(Text, *GetFile(Name))) << FString(Name);
-	return Text;
-}
-
-bool FPlayScene::InvokeMenuEntry(const FString& Label, FString& OutProblem)
-{
-	Invoked = Label;
-	OutProblem = TEXT("no such entry");
-	return Label.Equals(TEXT("Known"));
 }
 
 bool FPlayScene::IsPainted() const

@@ -2,11 +2,6 @@
 
 #include "PlayScene.h"
 #include "Widgets/Layout/SScrollBox.h"
-#include "Widgets/Text/STextBlock.h"
-
-#include <QImage>
-
-#include "QtConversion.h"
 
 namespace
 {
@@ -30,11 +25,6 @@ TEST(PlaySteps, ClicksAtTheEqualTextBeforeOneThatContainsIt)
 	EXPECT_PLAYS(Scene, "click \"Press m\"\nclick \"Press m\" 2");
 	EXPECT_EQ(Scene.NumPressed, 2);
 	EXPECT_EQ(Scene.NumPressedToo, 1);
-}
-
-TEST(PlaySteps, FindsAWidgetByItsTag)
-{
-	FPlayScene Scene;
 	EXPECT_PLAYS(Scene, "click \"Tagged\"");
 	EXPECT_EQ(Scene.NumTagged, 1);
 }
@@ -84,33 +74,12 @@ TEST(PlaySteps, TheWheelScrollsWhatItIsOver)
 TEST(PlaySteps, TypesIntoTheBoxThatAHintNames)
 {
 	FPlayScene Scene;
+	EXPECT_FAILS(Scene, "type \"a\"", "a.play:1: no widget has the keyboard focus");
 	EXPECT_PLAYS(Scene, "expect text \"Write here\"\nfocus \"Write here\"\ntype \"a \\\"b\\\"\\nc\\t\U0001F600\"\n"
 						"expect text \"a \\\"b\\\"\\nc\\t\U0001F600\"\nexpect no text \"Write here\"");
 	EXPECT_PLAYS(Scene, "press Ctrl+A\npress Backspace\nexpect text \"Write here\"");
 	EXPECT_PLAYS(Scene, "type \"a\"\npress Enter\ntype \"b\"\npress Up\npress Home\ntype \"0\"\nexpect text \"0a\\nb\"");
 	EXPECT_FAILS(Scene, "focus \"Title\"", "a.play:1: \"Title\": no widget shows it");
-}
-
-TEST(PlaySteps, TypingNeedsTheFocus)
-{
-	FPlayScene Scene;
-	EXPECT_FAILS(Scene, "type \"a\"", "a.play:1: no widget has the keyboard focus");
-}
-
-TEST(PlaySteps, OpensWhatAMenuOffers)
-{
-	FPlayScene Scene;
-	EXPECT_PLAYS(Scene, "open \"Known\"");
-	EXPECT_TEXT(Scene.Invoked, TEXT("Known"));
-	EXPECT_FAILS(Scene, "open \"Unknown\"", "a.play:1: no such entry");
-}
-
-TEST(PlaySteps, SigningInIsNothingWhereTheUserIsSignedIn)
-{
-	FPlayScene Scene;
-	EXPECT_PLAYS(Scene, "login \"somebody\"");
-	Scene.bSignedIn = false;
-	EXPECT_FAILS(Scene, "login \"somebody\"", "a.play:1: \"somebody\" can't sign in: there is no login panel");
 }
 
 TEST(PlaySteps, IdleIsNoRequestAndNothingToPaint)
@@ -119,33 +88,6 @@ TEST(PlaySteps, IdleIsNoRequestAndNothingToPaint)
 	EXPECT_PLAYS(Scene, "wait idle");
 	Scene.bRequestUnderWay = true;
 	EXPECT_FAILS(Scene, "wait idle 0.01", "a.play:1: a request is still under way after 0.01 seconds");
-}
-
-TEST(PlaySteps, SavesWhatIsShown)
-{
-	FPlayScene Scene;
-	Scene.Title->SetText(INVTEXT("\"New\""));
-	const FString Picture = Scene.GetFile(TEXT("new/a.png"));
-	const FString Text =
-		FString::Printf(TEXT("resize 320x240\nscreenshot \"%s\"\nscreenshot window \"%s\"\ntree \"%s\"\nsent to browser \"%s\""), *Picture,
-			*Scene.GetFile(TEXT("b.png")), *Scene.GetFile(TEXT("a.txt")), *Scene.GetFile(TEXT("sent.txt")));
-	EXPECT_TEXT(Scene.Play(Text), TEXT(""));
-	const QImage Saved(ToQString(Picture));
-	EXPECT_EQ(Saved.size(), QSize(320, 240));
-	EXPECT_EQ(
-		Saved.convertToFormat(QImage::Format_RGB32), QImage(ToQString(Scene.GetFile(TEXT("b.png")))).convertToFormat(QImage::Format_RGB32));
-	EXPECT_TRUE(Scene.ReadFile(TEXT("a.txt")).Contains(TEXT("STextBlock 0,0 320x"))) << Scene.ReadFile(TEXT("a.txt"));
-	EXPECT_TRUE(Scene.ReadFile(TEXT("a.txt")).Contains(TEXT("\"\\\"New\\\"\"")));
-	EXPECT_TEXT(Scene.ReadFile(TEXT("sent.txt")), TEXT("https://host/a\nhttps://host/b\n"));
-}
-
-TEST(PlaySteps, SavesTheClipboard)
-{
-	FPlayScene Scene;
-	const FString Text = FString::Printf(
-		TEXT("focus \"Write here\"\ntype \"caf\u00e9\\n1\"\npress Ctrl+A\npress Ctrl+C\nclipboard \"%s\""), *Scene.GetFile(TEXT("c")));
-	EXPECT_TEXT(Scene.Play(Text), TEXT(""));
-	EXPECT_TEXT(Scene.ReadFile(TEXT("c")), TEXT("caf\u00e9\n1"));
 }
 
 TEST(PlaySteps, AFileThatCantBeWrittenIsAFailure)
