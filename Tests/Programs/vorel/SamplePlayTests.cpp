@@ -192,11 +192,7 @@ TEST_F(SamplePlay, KeepsConversationsOverThreeRuns)
 	}
 
 	// The third row was the one chosen before the second was deleted, and then the first is.
-	const QRectF Row = FindInTree("history/2-deleted.txt", "SComboRow ");
-	const QPoint FirstRow = (Row.topLeft() + QPointF(3, 3)).toPoint();
-	const QPoint ThirdRow = FirstRow + QPoint(0, qRound(2 * Row.height()));
-	const QImage Before(GetPath("history/2-before-deletion.png"));
-	const QImage After(GetPath("history/2-deleted.png"));
-	EXPECT_EQ(After.pixelColor(FirstRow), Before.pixelColor(ThirdRow));
-	EXPECT_NE(After.pixelColor(FirstRow), Before.pixelColor(FirstRow));
+	const QByteArray Tree = Read("history/2-deleted.txt");
+	const qsizetype FirstRow = Tree.indexOf("SComboRow ");
+	EXPECT_TRUE(Tree.mid(FirstRow, Tree.indexOf('\n', FirstRow) - FirstRow).endsWith("tag=selected"));
 }
