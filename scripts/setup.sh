@@ -10,6 +10,7 @@ cannot_go_on=3
 build_packages=(
 	g++ cmake ninja-build ccache pkg-config
 	qt6-base-dev qt6-svg-dev libicu-dev libmd4c-dev libsqlite3-dev libcpp-httplib-dev nlohmann-json3-dev
+	qtkeychain-qt6-dev libsodium-dev
 	fonts-roboto-unhinted fonts-jetbrains-mono fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji
 	libbenchmark-dev ca-certificates xdg-utils)
 test_packages=(libgtest-dev xvfb xdotool xauth cmark-gfm)
