@@ -8,7 +8,7 @@
 #include "Guide.h"
 #include "GuideAnswer.h"
 #include "PacedStream.h"
-#include "Pages.h"
+#include "Pages/Pages.h"
 
 #include <array>
 #include <httplib.h>
@@ -127,8 +127,9 @@ void FLocalService::FServer::AddRoutes()
 {
 	Http.set_pre_routing_handler(
 		[this](const httplib::Request& Request, httplib::Response& Response) { return CheckRequest(Request, Response); });
-	Http.Get("/", [](const httplib::Request&, httplib::Response& Response) { Response.set_content(MakeStartPage(), HtmlType); });
-	Http.Get("/billing", [](const httplib::Request&, httplib::Response& Response) { Response.set_content(MakeBillingPage(), HtmlType); });
+	Http.Get("/", [this](const httplib::Request&, httplib::Response& Response)
+		{ Response.set_content(MakeStartPage(std::string("http://") + LoopbackHost + ":" + std::to_string(Port), false), HtmlType); });
+	Http.Get("/billing", [](const httplib::Request&, httplib::Response& Response) { Response.set_content(MakeBillingPage({}), HtmlType); });
 	Http.Get("/v1/models", [](const httplib::Request&, httplib::Response& Response) { Response.set_content(MakeModelList(), JsonType); });
 	Http.Post(
 		"/v1/chat/completions", [this](const httplib::Request& Request, httplib::Response& Response) { ServeChat(Request, Response); });
