@@ -5,7 +5,7 @@
 #include "Account/InstalledUpdateService.h"
 #include "Account/LocalAuthenticationService.h"
 #include "Account/LocalUserDataService.h"
-#include "Assistant/JsonText.h"
+#include "Http/JsonText.h"
 #include "Chat/HttpChatService.h"
 #include "DataFolder.h"
 #include "LocalService.h"

@@ -6,7 +6,7 @@
 
 #include "StreamingProgram.h"
 
-#include "Assistant/QtText.h"
+#include "Http/QtText.h"
 #include "ConversationStore.h"
 #include "Store/SqliteDatabase.h"
 #include "Support/Printers.h"

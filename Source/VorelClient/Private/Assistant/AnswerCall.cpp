@@ -1,10 +1,11 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Assistant/HttpCall.h"
-#include "Assistant/QtText.h"
+#include "Http/HttpCall.h"
+#include "Http/QtText.h"
 
 #include "Assistant/AnswerCall.h"
-#include "Assistant/JsonText.h"
+#include "Assistant/FailureText.h"
+#include "Http/JsonText.h"
 
 namespace
 {
@@ -98,19 +99,19 @@ void FAnswerCall::AskForModels()
 	{
 		Models.append(Bytes.substr(0, MaxModelListBytes - Models.size()));
 	};
-	Http->OnEnded = [this](const FText& Failure)
+	Http->OnEnded = [this](const TOptional<FHttpFailure>& Failure)
 	{
 		ReadModels(Failure);
 	};
 	Http->Start();
 }
 
-void FAnswerCall::ReadModels(const FText& Failure)
+void FAnswerCall::ReadModels(const TOptional<FHttpFailure>& Failure)
 {
 	Endpoint.FirstModel = FindFirstModel(Models);
-	if (!Failure.IsEmpty())
+	if (Failure)
 	{
-		OnEnded(MakeFailure(Failure));
+		OnEnded(MakeFailure(FailureText::Describe(*Failure)));
 	}
 	else if (Endpoint.FirstModel.IsEmpty())
 	{
@@ -134,7 +135,7 @@ void FAnswerCall::AskForAnswer()
 	{
 		ReadAnswer(Bytes);
 	};
-	Http->OnEnded = [this](const FText& Failure)
+	Http->OnEnded = [this](const TOptional<FHttpFailure>& Failure)
 	{
 		HandleAnswerEnded(Failure);
 	};
@@ -151,16 +152,16 @@ void FAnswerCall::ReadAnswer(std::string_view Bytes)
 	Deliver();
 }
 
-void FAnswerCall::HandleAnswerEnded(const FText& Failure)
+void FAnswerCall::HandleAnswerEnded(const TOptional<FHttpFailure>& Failure)
 {
-	if (Failure.IsEmpty())
+	if (!Failure)
 	{
 		Reader.Close();
 		Deliver();
 	}
 	else
 	{
-		OnEnded(MakeFailure(Failure));
+		OnEnded(MakeFailure(FailureText::Describe(*Failure)));
 	}
 }
 
@@ -185,6 +186,6 @@ FHttpRequest FAnswerCall::MakeRequest(const TCHAR* Path) const
 	}
 	FHttpRequest Request;
 	Request.Url = QUrl(ToQString(Base + Path));
-	Request.ApiKey = QByteArray::fromStdString(ToUtf8(Endpoint.ApiKey));
+	Request.BearerToken = QByteArray::fromStdString(ToUtf8(Endpoint.ApiKey));
 	return Request;
 }

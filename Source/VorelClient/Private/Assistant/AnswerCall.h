@@ -7,6 +7,7 @@
 #include "Assistant/ChatMessage.h"
 
 class FHttpCall;
+struct FHttpFailure;
 struct FHttpRequest;
 
 // Asks an assistant for the next message of a conversation, and for its first model before that where none is chosen.
@@ -26,10 +27,10 @@ public:
 
 private:
 	void AskForModels();
-	void ReadModels(const FText& Failure);
+	void ReadModels(const TOptional<FHttpFailure>& Failure);
 	void AskForAnswer();
 	void ReadAnswer(std::string_view Bytes);
-	void HandleAnswerEnded(const FText& Failure);
+	void HandleAnswerEnded(const TOptional<FHttpFailure>& Failure);
 	void Deliver();
 	FHttpRequest MakeRequest(const TCHAR* Path) const;
 

@@ -3,7 +3,7 @@
 #include "Assistant/AnswerReader.h"
 
 #include "Assistant/FailureText.h"
-#include "Assistant/JsonText.h"
+#include "Http/JsonText.h"
 
 namespace
 {

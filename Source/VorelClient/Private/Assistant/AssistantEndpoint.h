@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Http/RequestLimits.h"
 
 // A chat-completions server.
 struct FAssistantEndpoint
@@ -21,12 +22,4 @@ struct FAssistantEndpoint
 
 	// What the server named first when it was asked; forgotten when a request fails, since it may have become another server.
 	FString FirstModel;
-};
-
-// In seconds. The first byte may take long, because local servers load their model then.
-struct FRequestLimits
-{
-	double Connect = 10.0;
-	double FirstByte = 120.0;
-	double BetweenBytes = 60.0;
 };

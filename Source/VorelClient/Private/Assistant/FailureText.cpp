@@ -2,6 +2,10 @@
 
 #include "Assistant/FailureText.h"
 
+#include "Assistant/AnswerReader.h"
+#include "Http/Excerpt.h"
+#include "Http/HttpFailure.h"
+
 #define LOCTEXT_NAMESPACE "VorelClient"
 
 namespace
@@ -40,6 +44,32 @@ FText AppendDetail(const FText& Sentence, const FString& Detail)
 	const FString Excerpt = MakeExcerpt(Detail);
 	return Excerpt.IsEmpty() ? Sentence : FText::Format(LOCTEXT("WithDetail", "{0} It says: {1}"), Sentence, FText::FromString(Excerpt));
 }
+
+FText DescribeTimeLimit(const FHttpFailure& Failure)
+{
+	const FText Number = FText::AsNumber(Failure.Seconds);
+	switch (Failure.Phase)
+	{
+	case EHttpPhase::Connecting:
+		return FText::Format(
+			LOCTEXT("ConnectLimit", "{0} did not accept a connection within {1} seconds."), FText::FromString(Failure.Host), Number);
+	case EHttpPhase::WaitingForFirstByte:
+		return FText::Format(LOCTEXT("FirstByteLimit", "The assistant did not begin to answer within {0} seconds."), Number);
+	default:
+		return FText::Format(
+			LOCTEXT("BetweenBytesLimit", "The assistant fell silent for {0} seconds in the middle of its answer."), Number);
+	}
+}
+
+FText DescribeRefusal(const FHttpFailure& Failure)
+{
+	const FText WithCode = FText::Format(
+		LOCTEXT("WithCode", "{0} (Error {1}.)"), DescribeStatus(Failure.Status), FText::FromString(FString::FromInt(Failure.Status)));
+	const FText WithWait = Failure.RetryAfter.IsEmpty() ? WithCode
+														: FText::Format(LOCTEXT("WithWait", "{0} It asks to wait {1} seconds."), WithCode,
+															  FText::FromString(Failure.RetryAfter));
+	return AppendDetail(WithWait, ReadErrorMessage(Failure.Body));
+}
 } // namespace
 
 FText FailureText::BadAddress(const FString& Address)
@@ -49,71 +79,44 @@ FText FailureText::BadAddress(const FString& Address)
 		FText::FromString(MakeExcerpt(Address)));
 }
 
-FText FailureText::NotReached(const FString& Host)
+FText FailureText::Describe(const FHttpFailure& Failure)
 {
-	return FText::Format(LOCTEXT("NotReached", "No assistant answers at {0}. Is it running?"), FText::FromString(Host));
-}
-
-FText FailureText::HostNotFound(const FString& Host)
-{
-	return FText::Format(
-		LOCTEXT("HostNotFound", "The assistant's server {0} can't be found. Check its address and the network."), FText::FromString(Host));
-}
-
-FText FailureText::NotSecure(const FString& Host)
-{
-	return FText::Format(
-		LOCTEXT("NotSecure", "No secure connection to {0} could be made, so nothing was sent. Its certificate may be wrong."),
-		FText::FromString(Host));
-}
-
-FText FailureText::ProxyFailed()
-{
-	return LOCTEXT("ProxyFailed", "The network's proxy does not let the request through. Check the proxy settings.");
+	const FText Host = FText::FromString(Failure.Host);
+	switch (Failure.Kind)
+	{
+	case EHttpFailure::NotReached:
+		return FText::Format(LOCTEXT("NotReached", "No assistant answers at {0}. Is it running?"), Host);
+	case EHttpFailure::HostNotFound:
+		return FText::Format(
+			LOCTEXT("HostNotFound", "The assistant's server {0} can't be found. Check its address and the network."), Host);
+	case EHttpFailure::NotSecure:
+		return FText::Format(
+			LOCTEXT("NotSecure", "No secure connection to {0} could be made, so nothing was sent. Its certificate may be wrong."), Host);
+	case EHttpFailure::ProxyFailed:
+		return LOCTEXT("ProxyFailed", "The network's proxy does not let the request through. Check the proxy settings.");
+	case EHttpFailure::BrokenOff:
+		return BrokenOff();
+	case EHttpFailure::NotHttp:
+		return NotAnAnswer();
+	case EHttpFailure::TimeLimit:
+		return DescribeTimeLimit(Failure);
+	case EHttpFailure::RedirectedElsewhere:
+		return FText::Format(LOCTEXT("RedirectedElsewhere", "The assistant's address leads on to another server, {0}, which was not "
+															"contacted. If you trust it, give its address instead."),
+			FText::FromString(MakeExcerpt(Failure.Origin)));
+	case EHttpFailure::TooManyRedirects:
+		return LOCTEXT("TooManyRedirects", "The assistant's address leads round in a circle.");
+	case EHttpFailure::TooLong:
+		return TooLong();
+	case EHttpFailure::Status:
+		return DescribeRefusal(Failure);
+	}
+	return BrokenOff();
 }
 
 FText FailureText::BrokenOff()
 {
 	return LOCTEXT("BrokenOff", "The connection to the assistant broke off before the answer was complete.");
-}
-
-FText FailureText::TimeLimit(EPhase Phase, double Seconds, const FString& Host)
-{
-	const FText Number = FText::AsNumber(Seconds);
-	switch (Phase)
-	{
-	case EPhase::Connecting:
-		return FText::Format(
-			LOCTEXT("ConnectLimit", "{0} did not accept a connection within {1} seconds."), FText::FromString(Host), Number);
-	case EPhase::WaitingForFirstByte:
-		return FText::Format(LOCTEXT("FirstByteLimit", "The assistant did not begin to answer within {0} seconds."), Number);
-	default:
-		return FText::Format(
-			LOCTEXT("BetweenBytesLimit", "The assistant fell silent for {0} seconds in the middle of its answer."), Number);
-	}
-}
-
-FText FailureText::RedirectedElsewhere(const FString& Origin)
-{
-	return FText::Format(
-		LOCTEXT("RedirectedElsewhere",
-			"The assistant's address leads on to another server, {0}, which was not contacted. If you trust it, give its address instead."),
-		FText::FromString(MakeExcerpt(Origin)));
-}
-
-FText FailureText::TooManyRedirects()
-{
-	return LOCTEXT("TooManyRedirects", "The assistant's address leads round in a circle.");
-}
-
-FText FailureText::Status(int32 Code, const FString& Detail, const FString& RetryAfter)
-{
-	const FText WithCode =
-		FText::Format(LOCTEXT("WithCode", "{0} (Error {1}.)"), DescribeStatus(Code), FText::FromString(FString::FromInt(Code)));
-	const FText WithWait = RetryAfter.IsEmpty() ? WithCode
-												: FText::Format(LOCTEXT("WithWait", "{0} It asks to wait {1} seconds."), WithCode,
-													  FText::FromString(RetryAfter));
-	return AppendDetail(WithWait, Detail);
 }
 
 FText FailureText::ServerError(const FString& Detail)
@@ -170,31 +173,6 @@ FText FailureText::ConversationLeft()
 FText FailureText::ConversationNotRead()
 {
 	return LOCTEXT("ConversationNotRead", "Nothing was sent, because the earlier messages of this conversation can't be read.");
-}
-
-FString MakeExcerpt(const FString& ForeignText)
-{
-	constexpr int32 MaxLength = 200;
-	FString Excerpt;
-	for (const TCHAR Character : ForeignText)
-	{
-		const bool bBlank = Character <= 0x20 || (Character >= 0x7F && Character <= 0xA0);
-		if (!bBlank)
-		{
-			Excerpt.AppendChar(Character);
-		}
-		else if (!Excerpt.EndsWith(TEXT(" ")))
-		{
-			Excerpt.AppendChar(' ');
-		}
-		if (Excerpt.Len() > MaxLength)
-		{
-			// Not between the halves of a surrogate pair.
-			const bool bHalf = (Excerpt[MaxLength - 1] & 0xFC00) == 0xD800;
-			return Excerpt.Left(MaxLength - (bHalf ? 1 : 0)).TrimStartAndEnd() + TEXT("…");
-		}
-	}
-	return Excerpt.TrimStartAndEnd();
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -4,29 +4,17 @@
 
 #include "CoreMinimal.h"
 
+struct FHttpFailure;
+
 // Why a request failed, in sentences for the user. What a server wrote is shown as plain text, shortened, and without control characters.
 namespace FailureText
 {
-enum class EPhase : uint8
-{
-	Connecting,
-	WaitingForFirstByte,
-	Receiving
-};
-
 // Of the connection itself.
 FText BadAddress(const FString& Address);
-FText NotReached(const FString& Host);
-FText HostNotFound(const FString& Host);
-FText NotSecure(const FString& Host);
-FText ProxyFailed();
+FText Describe(const FHttpFailure& Failure);
 FText BrokenOff();
-FText TimeLimit(EPhase Phase, double Seconds, const FString& Host);
-FText RedirectedElsewhere(const FString& Origin);
-FText TooManyRedirects();
 
-// Of what the server said. Detail is the server's own text and may be empty, RetryAfter a number of seconds or empty.
-FText Status(int32 Code, const FString& Detail, const FString& RetryAfter);
+// Of what the server said. Detail is the server's own text and may be empty.
 FText ServerError(const FString& Detail);
 FText NotAnAnswer();
 FText WebPage(const FString& Title);
@@ -44,6 +32,3 @@ FText ConversationLeft();
 
 FText ConversationNotRead();
 } // namespace FailureText
-
-// One line of at most 200 characters.
-FString MakeExcerpt(const FString& ForeignText);

@@ -6,7 +6,7 @@
 
 #include "Chat/ConversationTitle.h"
 
-#include "Assistant/QtText.h"
+#include "Http/QtText.h"
 #include <memory>
 #include <unicode/brkiter.h>
 #include <unicode/uchar.h>

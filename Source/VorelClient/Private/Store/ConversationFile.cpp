@@ -5,8 +5,8 @@
 
 #include "ConversationFile.h"
 
-#include "Assistant/JsonText.h"
-#include "Assistant/QtText.h"
+#include "Http/JsonText.h"
+#include "Http/QtText.h"
 #include "Chat/AnswerNote.h"
 #include "Chat/ChatModes.h"
 #include "Chat/ConversationTitle.h"

@@ -5,7 +5,7 @@
 
 #include "ConversationRecord.h"
 
-#include "Assistant/QtText.h"
+#include "Http/QtText.h"
 
 FString FConversationRecord::MakeId()
 {

@@ -2,7 +2,7 @@
 
 #include "Store/StoreWatch.h"
 
-#include "Assistant/QtText.h"
+#include "Http/QtText.h"
 #include "Store/LogVorelStore.h"
 
 // Each pause is four times as long as the one before.

@@ -5,7 +5,7 @@
 #include <QNetworkAccessManager>
 #include <QNetworkProxyFactory>
 
-#include "Assistant/AssistantNetwork.h"
+#include "Http/HttpNetwork.h"
 
 namespace
 {

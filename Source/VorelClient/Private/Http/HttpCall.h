@@ -9,8 +9,8 @@
 #include <QTimer>
 #include <QUrl>
 
-#include "Assistant/AssistantEndpoint.h"
-#include "Assistant/FailureText.h"
+#include "Http/HttpFailure.h"
+#include "Http/RequestLimits.h"
 #include <string_view>
 
 class QNetworkReply;
@@ -18,14 +18,17 @@ class QNetworkReply;
 struct FHttpRequest
 {
 	QUrl Url;
-	// Empty: GET, else POST of this JSON.
+	// Empty: GET, else POST.
 	QByteArray Body;
-	QByteArray Accept;
-	QByteArray ApiKey;
+	QByteArray BodyType = "application/json";
+	QByteArray Accept = "application/json";
+	// Sent to the origin of the address alone.
+	QByteArray BearerToken;
 };
 
 // One exchange with a server on the game thread's event loop, with separate limits for connecting, the first byte and the pauses between
-// bytes. Redirects are followed within the origin alone, so that the key never leaves it. Destroying the call hangs up in silence.
+// bytes. Redirects are followed within the origin alone, so that keys, tokens and
+// what is posted never leave it. Destroying the call hangs up in silence.
 class FHttpCall final : public QObject
 {
 public:
@@ -33,9 +36,9 @@ public:
 	~FHttpCall() override;
 
 	// OnBody gets the bytes of a successful reply as they come; it may let go of the call and hang up, not destroy it. OnEnded comes last,
-	// with the reason when the reply was no success or is not complete, else with an empty text; it may destroy the call.
+	// with the reason when the reply was no success or is not complete; it may destroy the call.
 	TFunction<void(std::string_view)> OnBody;
-	TFunction<void(const FText& Failure)> OnEnded;
+	TFunction<void(const TOptional<FHttpFailure>& Failure)> OnEnded;
 
 	void Start();
 
@@ -43,18 +46,20 @@ public:
 	void LetGo();
 	void HangUp();
 
+	FHttpFailure MakeFailure(EHttpFailure Kind) const;
+
 private:
-	void StartLimit(FailureText::EPhase InPhase);
+	void StartLimit(EHttpPhase InPhase);
 	void HandleBytes();
 	void HandleFinished();
 	void HandleLimit();
 	bool FollowRedirect(int32 Status);
-	void End(const FText& Failure);
+	void End(const TOptional<FHttpFailure>& Failure);
 
 	bool IsSuccess() const;
 	int32 GetStatus() const;
-	FText DescribeStatus(int32 Status) const;
-	FText DescribeNetworkError() const;
+	FHttpFailure MakeRefusal() const;
+	EHttpFailure GetNetworkFailure() const;
 	FString GetHost() const;
 
 	FHttpRequest Request;
@@ -62,7 +67,7 @@ private:
 	// Null once ended. Goes with the application too, which ends what is still open.
 	QPointer<QNetworkReply> Reply;
 	QTimer Limit;
-	FailureText::EPhase Phase = FailureText::EPhase::Connecting;
+	EHttpPhase Phase = EHttpPhase::Connecting;
 	// What the server wrote to a refusal, up to a limit.
 	QByteArray Refusal;
 	int32 Redirects = 0;

@@ -6,13 +6,10 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 
-#include "Assistant/HttpCall.h"
+#include "Http/HttpCall.h"
 
-#include "Assistant/AnswerReader.h"
-#include "Assistant/AssistantNetwork.h"
-#include "Assistant/QtText.h"
-
-using FailureText::EPhase;
+#include "Http/HttpNetwork.h"
+#include "Http/QtText.h"
 
 namespace
 {
@@ -73,9 +70,9 @@ QNetworkRequest MakeNetworkRequest(const FHttpRequest& Request)
 	// A compressing proxy would hold pieces back.
 	Made.setRawHeader("Accept-Encoding", "identity");
 	Made.setRawHeader("User-Agent", "VorelAI");
-	if (!Request.ApiKey.isEmpty())
+	if (!Request.BearerToken.isEmpty())
 	{
-		Made.setRawHeader("Authorization", "Bearer " + Request.ApiKey);
+		Made.setRawHeader("Authorization", "Bearer " + Request.BearerToken);
 	}
 	return Made;
 }
@@ -83,7 +80,7 @@ QNetworkRequest MakeNetworkRequest(const FHttpRequest& Request)
 QNetworkReply* Post(QNetworkAccessManager& Network, const FHttpRequest& Request)
 {
 	QNetworkRequest Made = MakeNetworkRequest(Request);
-	Made.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("application/json"));
+	Made.setHeader(QNetworkRequest::ContentTypeHeader, Request.BodyType);
 	Made.setHeader(QNetworkRequest::ContentLengthHeader, Request.Body.size());
 	Made.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
 	auto* const Body = new FOnceReadable(Request.Body);
@@ -111,10 +108,10 @@ void FHttpCall::Start()
 	// One for each call, so that no connection is used twice: a server may close an idle one just when the next question goes out.
 	QNetworkAccessManager* const Network = MakeNetwork(QCoreApplication::instance());
 	Reply = Request.Body.isEmpty() ? Network->get(MakeNetworkRequest(Request)) : Post(*Network, Request);
-	connect(Reply, &QNetworkReply::requestSent, this, [this] { StartLimit(EPhase::WaitingForFirstByte); });
+	connect(Reply, &QNetworkReply::requestSent, this, [this] { StartLimit(EHttpPhase::WaitingForFirstByte); });
 	connect(Reply, &QNetworkReply::readyRead, this, [this] { HandleBytes(); });
 	connect(Reply, &QNetworkReply::finished, this, [this] { HandleFinished(); });
-	StartLimit(EPhase::Connecting);
+	StartLimit(EHttpPhase::Connecting);
 }
 
 void FHttpCall::LetGo()
@@ -141,23 +138,23 @@ void FHttpCall::HangUp()
 	}
 }
 
-void FHttpCall::StartLimit(EPhase InPhase)
+void FHttpCall::StartLimit(EHttpPhase InPhase)
 {
 	// The library tells late that a request went out: the reply may have begun.
-	if (InPhase == EPhase::WaitingForFirstByte && Phase == EPhase::Receiving)
+	if (InPhase == EHttpPhase::WaitingForFirstByte && Phase == EHttpPhase::Receiving)
 	{
 		return;
 	}
 	Phase = InPhase;
-	const double Seconds = Phase == EPhase::Connecting            ? Limits.Connect
-						   : Phase == EPhase::WaitingForFirstByte ? Limits.FirstByte
-																  : Limits.BetweenBytes;
+	const double Seconds = Phase == EHttpPhase::Connecting            ? Limits.Connect
+						   : Phase == EHttpPhase::WaitingForFirstByte ? Limits.FirstByte
+																	  : Limits.BetweenBytes;
 	Limit.start(FMath::CeilToInt(Seconds * 1000.0));
 }
 
 void FHttpCall::HandleBytes()
 {
-	StartLimit(EPhase::Receiving);
+	StartLimit(EHttpPhase::Receiving);
 	const QByteArray Bytes = Reply->readAll();
 	if (IsSuccess())
 	{
@@ -167,7 +164,7 @@ void FHttpCall::HandleBytes()
 	Refusal += Bytes.left(MaxRefusalBytes - Refusal.size());
 	if (Refusal.size() >= MaxRefusalBytes)
 	{
-		End(DescribeStatus(GetStatus()));
+		End(MakeRefusal());
 	}
 }
 
@@ -187,23 +184,26 @@ void FHttpCall::HandleFinished()
 	{
 		if (!FollowRedirect(Status))
 		{
-			End(DescribeStatus(Status));
+			End(MakeRefusal());
 		}
 	}
 	else if (Status != 0 && !IsSuccess())
 	{
-		End(DescribeStatus(Status));
+		End(MakeRefusal());
 	}
 	else
 	{
-		End(Reply->error() == QNetworkReply::NoError ? FText() : DescribeNetworkError());
+		End(Reply->error() == QNetworkReply::NoError ? TOptional<FHttpFailure>() : MakeFailure(GetNetworkFailure()));
 	}
 }
 
 void FHttpCall::HandleLimit()
 {
 	const double Seconds = static_cast<double>(Limit.interval()) / 1000.0;
-	End(FailureText::TimeLimit(Phase, Seconds, GetHost()));
+	FHttpFailure Failure = MakeFailure(EHttpFailure::TimeLimit);
+	Failure.Phase = Phase;
+	Failure.Seconds = Seconds;
+	End(Failure);
 }
 
 bool FHttpCall::FollowRedirect(int32 Status)
@@ -217,14 +217,15 @@ bool FHttpCall::FollowRedirect(int32 Status)
 	}
 	if (!IsSameOrigin(Target, Request.Url))
 	{
-		End(FailureText::RedirectedElsewhere(
-			ToFString(Target.scheme() + QLatin1String("://") + Target.host() +
-					  (Target.port() < 0 ? QString() : QLatin1Char(':') + QString::number(Target.port())))));
+		FHttpFailure Failure = MakeFailure(EHttpFailure::RedirectedElsewhere);
+		Failure.Origin = ToFString(Target.scheme() + QLatin1String("://") + Target.host() +
+								   (Target.port() < 0 ? QString() : QLatin1Char(':') + QString::number(Target.port())));
+		End(Failure);
 		return true;
 	}
 	if (++Redirects > MaxRedirects)
 	{
-		End(FailureText::TooManyRedirects());
+		End(MakeFailure(EHttpFailure::TooManyRedirects));
 		return true;
 	}
 	HangUp();
@@ -234,11 +235,11 @@ bool FHttpCall::FollowRedirect(int32 Status)
 	return true;
 }
 
-void FHttpCall::End(const FText& Failure)
+void FHttpCall::End(const TOptional<FHttpFailure>& Failure)
 {
 	HangUp();
 	// Destroys this call, as a rule, and with it the function that is running.
-	const TFunction<void(const FText&)> Handler = OnEnded;
+	const TFunction<void(const TOptional<FHttpFailure>&)> Handler = OnEnded;
 	Handler(Failure);
 }
 
@@ -252,15 +253,26 @@ int32 FHttpCall::GetStatus() const
 	return Reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-FText FHttpCall::DescribeStatus(int32 Status) const
+FHttpFailure FHttpCall::MakeFailure(EHttpFailure Kind) const
 {
-	bool bSeconds = false;
-	const uint RetryAfter = Reply->rawHeader("Retry-After").trimmed().toUInt(&bSeconds);
-	const FString Detail = ReadErrorMessage(std::string_view(Refusal.constData(), static_cast<std::size_t>(Refusal.size())));
-	return FailureText::Status(Status, Detail, bSeconds ? FString::FromInt(static_cast<int32>(RetryAfter)) : FString());
+	FHttpFailure Failure;
+	Failure.Kind = Kind;
+	Failure.Host = GetHost();
+	return Failure;
 }
 
-FText FHttpCall::DescribeNetworkError() const
+FHttpFailure FHttpCall::MakeRefusal() const
+{
+	FHttpFailure Failure = MakeFailure(EHttpFailure::Status);
+	Failure.Status = GetStatus();
+	Failure.Body = Refusal.toStdString();
+	bool bSeconds = false;
+	const uint RetryAfter = Reply->rawHeader("Retry-After").trimmed().toUInt(&bSeconds);
+	Failure.RetryAfter = bSeconds ? FString::FromInt(static_cast<int32>(RetryAfter)) : FString();
+	return Failure;
+}
+
+EHttpFailure FHttpCall::GetNetworkFailure() const
 {
 	switch (Reply->error())
 	{
@@ -268,23 +280,23 @@ FText FHttpCall::DescribeNetworkError() const
 	case QNetworkReply::NetworkSessionFailedError:
 	case QNetworkReply::TemporaryNetworkFailureError:
 	case QNetworkReply::UnknownNetworkError:
-		return FailureText::NotReached(GetHost());
+		return EHttpFailure::NotReached;
 	case QNetworkReply::HostNotFoundError:
-		return FailureText::HostNotFound(GetHost());
+		return EHttpFailure::HostNotFound;
 	case QNetworkReply::SslHandshakeFailedError:
-		return FailureText::NotSecure(GetHost());
+		return EHttpFailure::NotSecure;
 	case QNetworkReply::ProxyConnectionRefusedError:
 	case QNetworkReply::ProxyConnectionClosedError:
 	case QNetworkReply::ProxyNotFoundError:
 	case QNetworkReply::ProxyTimeoutError:
 	case QNetworkReply::ProxyAuthenticationRequiredError:
 	case QNetworkReply::UnknownProxyError:
-		return FailureText::ProxyFailed();
+		return EHttpFailure::ProxyFailed;
 	case QNetworkReply::ProtocolInvalidOperationError:
 	case QNetworkReply::ProtocolFailure:
-		return FailureText::NotAnAnswer();
+		return EHttpFailure::NotHttp;
 	default:
-		return FailureText::BrokenOff();
+		return EHttpFailure::BrokenOff;
 	}
 }
 
