@@ -31,9 +31,6 @@ header a { display: inline-block; border-radius: 0.25rem; color: var(--text); }
 header svg { display: block; width: 9.5rem; height: auto; }
 main { flex: 1; }
 .card { padding: 1.75rem; border: 1px solid var(--line); border-radius: 0.75rem; background: var(--card); }
-@media (max-width: 30rem) {
-	.card { padding: 1.25rem; }
-}
 h1 { margin: 0 0 0.75rem; font-size: 1.5rem; font-weight: 500; line-height: 1.25; }
 h2 { margin: 1.75rem 0 0.25rem; font-size: 1.0625rem; font-weight: 500; }
 p, ul, ol { margin: 0 0 0.75rem; }
@@ -43,13 +40,14 @@ li { margin-bottom: 0.25rem; }
 .quiet, footer { color: var(--quiet); font-size: 0.9375rem; }
 a { color: var(--link); text-underline-offset: 0.15em; }
 a:hover { text-decoration-thickness: 2px; }
-code { font: 0.9em/1.4 "JetBrains Mono", ui-monospace, monospace; }
+code { font: 0.9em/1.4 "JetBrains Mono", ui-monospace, monospace; font-variant-ligatures: none; }
 pre { margin: 0 0 0.75rem; padding: 0.75rem; border-radius: 0.5rem; background: var(--ground); white-space: pre-wrap; }
 label { display: block; margin: 1rem 0 0.375rem; font-weight: 500; }
 input {
 	width: 100%; min-height: 2.75rem; padding: 0.5rem 0.75rem; border: 1px solid var(--edge); border-radius: 0.375rem;
 	background: var(--ground); color: inherit; font: inherit;
 }
+input + .quiet { margin-top: 0.5rem; }
 .buttons { display: flex; flex-wrap: wrap; gap: 0.75rem; margin: 1.5rem 0 0; }
 button {
 	flex: 1 1 8rem; min-height: 2.75rem; padding: 0.5rem 1.25rem; border: 0; border-radius: 0.375rem;
@@ -71,6 +69,10 @@ footer { padding-top: 1.5rem; padding-bottom: 2rem; }
 footer ul { display: flex; flex-wrap: wrap; gap: 0.25rem 1.25rem; margin: 0; padding: 0; list-style: none; }
 footer li { margin: 0; }
 footer a { display: inline-block; padding: 0.375rem 0; color: inherit; }
+@media (max-width: 30rem) {
+	.card { padding: 1.25rem; }
+	button.first { flex-basis: 100%; }
+}
 @media (forced-colors: active) {
 	button, .problem, .notice { border: 1px solid; }
 }
