@@ -38,22 +38,15 @@ protected:
 	~ModuleTest() override { FModuleManager::Get().UnloadModulesAtShutdown(); }
 };
 
-TEST_F(ModuleTest, ShutsDownInReverseOrder)
+TEST_F(ModuleTest, ShutsDownInReverseOrderAndStartsAgainAfterUnloading)
 {
 	FModuleManager::Get().LoadModule("TestModule2");
 	FModuleManager::Get().LoadModule("TestModule1");
 	FModuleManager::Get().UnloadModulesAtShutdown();
-	EXPECT_TEXT(Events, TEXT("+2 +1 -1 ~1 -2 ~2 "));
-	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("TestModule1"));
-}
-
-TEST_F(ModuleTest, StartsAgainAfterUnloading)
-{
-	FModuleManager::Get().LoadModule("TestModule1");
-	EXPECT_TRUE(FModuleManager::Get().UnloadModule("TestModule1"));
 	EXPECT_FALSE(FModuleManager::Get().UnloadModule("TestModule1"));
 	FModuleManager::Get().LoadModule("TestModule1");
-	EXPECT_TEXT(Events, TEXT("+1 -1 ~1 +1 "));
+	EXPECT_TRUE(FModuleManager::Get().UnloadModule("TestModule1"));
+	EXPECT_TEXT(Events, TEXT("+2 +1 -1 ~1 -2 ~2 +1 -1 ~1 "));
 }
 
 TEST(ModuleDeathTest, StopsWhereAModuleCannotBeLoaded)

@@ -6,7 +6,7 @@
 
 namespace
 {
-struct FCounted
+struct FCounted : TSharedFromThis<FCounted>
 {
 	explicit FCounted(int32& InAlive)
 		: Alive(InAlive)
@@ -21,19 +21,7 @@ struct FCounted
 struct FDerived : FCounted
 {
 	using FCounted::FCounted;
-};
-
-struct FSelf : TSharedFromThis<FSelf>
-{
-	virtual ~FSelf() = default;
-	void Construct() { Own = AsShared(); }
-
-	TWeakPtr<FSelf> Own;
-};
-
-struct FDerivedSelf : FSelf
-{
-	TSharedRef<FDerivedSelf> GetSelf() { return SharedThis(this); }
+	TSharedRef<FDerived> GetSelf() { return SharedThis(this); }
 };
 } // namespace
 
@@ -41,9 +29,9 @@ TEST(SharedPointerTest, KeepsAnObjectAsLongAsSomebodyOwnsIt)
 {
 	int32 Alive = 0;
 	TSharedPtr<FCounted> Ptr = MakeShared<FDerived>(Alive);
-	TWeakPtr<FCounted> Weak = Ptr;
+	const TWeakPtr<FCounted> Weak = Ptr;
 	{
-		const TSharedRef<FCounted> Ref = Ptr.ToSharedRef();
+		const TSharedRef<FDerived> Ref = StaticCastSharedPtr<FDerived>(Ptr)->GetSelf();
 		Ptr.Reset();
 		EXPECT_EQ(Alive, 1);
 		EXPECT_EQ(Weak.Pin(), Ref);
@@ -53,21 +41,13 @@ TEST(SharedPointerTest, KeepsAnObjectAsLongAsSomebodyOwnsIt)
 	EXPECT_FALSE(Weak.Pin().IsValid());
 }
 
-TEST(SharedPointerTest, HandsOutItselfOnceItIsHeld)
-{
-	const TSharedRef<FDerivedSelf> Self = MakeShared<FDerivedSelf>();
-	Self->Construct();
-	EXPECT_EQ(Self->Own.Pin(), Self);
-	EXPECT_EQ(Self->GetSelf(), Self);
-}
-
 TEST(SharedPointerDeathTest, StopsAtNull)
 {
 	EXPECT_DEATH(TSharedRef<int32>(static_cast<int32*>(nullptr)), "InObject != nullptr");
-	EXPECT_DEATH(*TSharedPtr<int32>(), "IsValid\\(\\)");
 	EXPECT_DEATH((void)TSharedPtr<FString>()->Len(), "IsValid\\(\\)");
 	EXPECT_DEATH(TSharedPtr<int32>().ToSharedRef(), "IsValid\\(\\)");
-	FSelf OnTheStack;
+	int32 Alive = 0;
+	FCounted OnTheStack(Alive);
 	EXPECT_DEATH(OnTheStack.AsShared(), "IsValid\\(\\)");
 	EXPECT_DEATH(*TUniquePtr<int32>(), "IsValid\\(\\)");
 }

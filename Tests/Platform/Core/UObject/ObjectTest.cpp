@@ -43,23 +43,10 @@ protected:
 	~ObjectTest() override { CollectGarbage(RF_NoFlags); }
 };
 
-TEST_F(ObjectTest, StandaloneFlagAndRootSetKeep)
+TEST_F(ObjectTest, TheRootSetAndTheStandaloneFlagKeepWithWhatIsReportedAndTheOuter)
 {
-	UNode* Standalone = MakeKept();
 	UNode* Rooted = NewObject<UNode>();
 	Rooted->AddToRoot();
-	CollectGarbage();
-	EXPECT_EQ(UNode::NumDestroyed, 0);
-	Standalone->ClearFlags(RF_Standalone);
-	CollectGarbage();
-	EXPECT_EQ(UNode::NumDestroyed, 1);
-	Rooted->RemoveFromRoot();
-	CollectGarbage();
-	EXPECT_EQ(UNode::NumDestroyed, 2);
-}
-
-TEST_F(ObjectTest, KeepsWhatItReportsAndItsOuter)
-{
 	UNode* Parent = NewObject<UNode>();
 	UNode* Child = NewObject<UNode>();
 	Parent->Children.Add(Child);
@@ -70,6 +57,9 @@ TEST_F(ObjectTest, KeepsWhatItReportsAndItsOuter)
 	Inner->ClearFlags(RF_Standalone);
 	CollectGarbage();
 	EXPECT_EQ(UNode::NumDestroyed, 3);
+	Rooted->RemoveFromRoot();
+	CollectGarbage();
+	EXPECT_EQ(UNode::NumDestroyed, 4);
 }
 
 TEST_F(ObjectTest, AGarbageMarkEndsItsValidityAtOnceAndTheObjectAtTheNextCollection)
