@@ -196,21 +196,3 @@ TEST_F(CodeBlockMarshaller, WhiteSpaceIsMeasuredWithItsShadow)
 	EXPECT_EQ(Run->Measure(5, 5, 2.0f, {}), FVector2D(12.0, Run->GetMaxHeight(2.0f)));
 	EXPECT_EQ(Run->Measure(3, 3, 2.0f, {}), FVector2D(0.0, Run->GetMaxHeight(2.0f)));
 }
-
-// Large letters have pixels that nothing but their color is in.
-TEST(CodeColors, AreThoseOfTheStyles)
-{
-	FUserDriver User(SNullWidget::NullWidget, FVector2D(640.0, 60.0), 4.0f);
-	const TSharedRef<SWidget> Block = SNew(SCodeWidget).Text(FText::FromString(TEXT("#if x return \"s\" // c")));
-	FUserDriver Reader(Block, FVector2D(640.0, 60.0), 4.0f);
-	const QImage Picture = Reader.Picture();
-	for (const QRgb Color : {0xFFFFDAAA, 0xFFBCF3AA, 0xFFBCDAF3, 0xFFFFCBFF, 0xFFF3F9FF})
-	{
-		int Count = 0;
-		for (int Index = 0; Index < Picture.width() * Picture.height(); ++Index)
-		{
-			Count += Picture.pixel(Index % Picture.width(), Index / Picture.width()) == Color ? 1 : 0;
-		}
-		EXPECT_GT(Count, 20) << std::hex << Color;
-	}
-}

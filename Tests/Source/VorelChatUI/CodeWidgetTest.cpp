@@ -44,19 +44,21 @@ protected:
 	}
 
 	TSharedRef<SMarkdownTextbox> Message = SNew(SMarkdownTextbox);
+	// What is selected by a click at a place and Ctrl+A.
+	std::string CopyAllAt(const FVector2D& Place)
+	{
+		User.ClickAt(Place);
+		User.Press(TEXT("Ctrl+A"));
+		User.Press(TEXT("Ctrl+C"));
+		return ToUtf8(User.GetClipboard());
+	}
+
 	FUserDriver User{Message, FVector2D(900.0, 400.0)};
 };
 
-struct FPlace
+FSlateRect RoomOf(const TSharedRef<SWidget>& Widget)
 {
-	FVector2D TopLeft;
-	FVector2D Size;
-};
-
-FPlace PlaceOf(const TSharedRef<SWidget>& Widget)
-{
-	const FGeometry& Geometry = Widget->GetCachedGeometry();
-	return {Geometry.GetAbsolutePosition(), Geometry.GetLocalSize()};
+	return Widget->GetCachedGeometry().GetRenderBoundingRect();
 }
 
 } // namespace
@@ -98,15 +100,15 @@ TEST_F(CodeWidget, AClickOnAButtonThatIsReplacedMeanwhileDoesNothing)
 	for (const bool bFrameBetween : {true, false})
 	{
 		Show(TEXT("<code>old</>"));
-		const FPlace Button = PlaceOf(FindOne(Message, TEXT("SButton")));
+		const FVector2D Button = RoomOf(FindOne(Message, TEXT("SButton"))).GetTopLeft() + FVector2D(5.0, 5.0);
 		User.SetClipboard(TEXT("before"));
-		User.MouseDown(Button.TopLeft + Button.Size / 2.0);
+		User.MouseDown(Button);
 		Message->SetMarkdownText(TEXT("<code>new</>"));
 		if (bFrameBetween)
 		{
 			User.Frame();
 		}
-		User.MouseUp(Button.TopLeft + Button.Size / 2.0);
+		User.MouseUp(Button);
 		EXPECT_EQ(ToUtf8(User.GetClipboard()), "before");
 		EXPECT_EQ(CopyByButton(), "new");
 	}
@@ -120,85 +122,51 @@ TEST_F(CodeWidget, TurnsTheWheelOverATextThatIsNotYetLaidOut)
 	EXPECT_EQ(ReadTexts(Message), "new");
 }
 
-TEST_F(CodeWidget, Is620WideWithItsButtonInTheCorner)
+TEST_F(CodeWidget, Is620WideWithItsButtonInTheCornerAndCutsLongLinesOff)
 {
 	Show(TEXT("<code>a__NL__end</>"));
-	const FPlace Short = PlaceOf(GetBlock());
-	const FPlace Code = PlaceOf(FindOne(GetBlock(), TEXT("SMultiLineEditableText")));
-	const FPlace Button = PlaceOf(FindOne(GetBlock(), TEXT("SButton")));
-	EXPECT_EQ(Short.TopLeft, FVector2D(4.0, 4.0));
-	EXPECT_EQ(Code.TopLeft - Short.TopLeft, FVector2D(10.0, 0.0));
-	EXPECT_EQ(Short.Size - Code.Size, FVector2D(20.0, 10.0));
-	EXPECT_EQ(Button.TopLeft.X + Button.Size.X, Short.TopLeft.X + 612.0);
-	EXPECT_EQ(Button.TopLeft.Y, Short.TopLeft.Y + 8.0);
+	const FSlateRect Short = RoomOf(GetBlock());
+	const FSlateRect Code = RoomOf(FindOne(GetBlock(), TEXT("SMultiLineEditableText")));
+	const FSlateRect Button = RoomOf(FindOne(GetBlock(), TEXT("SButton")));
+	EXPECT_EQ(Short.GetTopLeft(), FVector2D(4.0, 4.0));
+	EXPECT_EQ(Code.GetTopLeft() - Short.GetTopLeft(), FVector2D(10.0, 0.0));
+	EXPECT_EQ(Short.GetSize() - Code.GetSize(), FVector2D(20.0, 10.0));
+	EXPECT_EQ(Button.Right, Short.Left + 612.0f);
+	EXPECT_EQ(Button.Top, Short.Top + 8.0f);
 
-	for (const double Width : {900.0, 300.0})
+	for (const double Width : {300.0, 900.0})
 	{
 		User.Resize(FVector2D(Width, 400.0));
-		Show(FString(TEXT("<code>")) + FString::ChrN(500, TEXT('W')) + TEXT("__NL__end</>"));
-		EXPECT_EQ(PlaceOf(GetBlock()).Size, FVector2D(620.0, Short.Size.Y)) << Width;
+		Show(FString(TEXT("<code>a__NL__")) + FString::ChrN(500, TEXT('W')) + TEXT("</>"));
+		EXPECT_EQ(RoomOf(GetBlock()).GetSize(), FVector2D(620.0, Short.GetSize().Y)) << Width;
 	}
-}
-
-TEST_F(CodeWidget, CutsLongLinesOffAtItsEdge)
-{
-	Show(FString(TEXT("<code>")) + FString::ChrN(500, TEXT('W')) + TEXT("</>"));
 	const QImage Picture = User.Picture();
-	const FPlace Code = PlaceOf(FindOne(GetBlock(), TEXT("SMultiLineEditableText")));
 	int LastLit = 0;
 	for (int Column = 0; Column < Picture.width(); ++Column)
 	{
-		const int Row = static_cast<int>(Code.TopLeft.Y + Code.Size.Y) - 6;
-		LastLit = qGray(Picture.pixel(Column, Row)) > 150 ? Column : LastLit;
+		LastLit = qGray(Picture.pixel(Column, static_cast<int>(Code.Bottom) - 6)) > 150 ? Column : LastLit;
 	}
-	EXPECT_LT(LastLit, Code.TopLeft.X + Code.Size.X);
-	EXPECT_GT(LastLit, Code.TopLeft.X + Code.Size.X - 20.0);
+	EXPECT_LT(LastLit, Code.Right);
+	EXPECT_GT(LastLit, Code.Right - 20.0f);
 }
 
-TEST_F(CodeWidget, IsOneInvisibleCharacterOfItsMessage)
+TEST_F(CodeWidget, IsSelectedLikeAnyTextAndIsOneInvisibleCharacterOfItsMessage)
 {
-	Show(TEXT("a <code>x</> b"));
-	User.ClickAt(FVector2D(6.0, PlaceOf(GetBlock()).Size.Y));
-	User.Press(TEXT("Ctrl+A"));
-	User.Press(TEXT("Ctrl+C"));
-	EXPECT_EQ(ToUtf8(User.GetClipboard()), "a \xE2\x80\x8B b");
+	Show(TEXT("a <code>int a;__NL__\"b\"</> b"));
+	const FVector2D InCode = RoomOf(FindOne(GetBlock(), TEXT("SMultiLineEditableText"))).GetTopLeft() + FVector2D(5.0, 5.0);
+	EXPECT_EQ(CopyAllAt(InCode), "int a;\n\"b\"");
+	User.Type(TEXT("typed"));
+	EXPECT_EQ(GetCode(), "int a;\n\"b\"") << "it cannot be changed";
+	EXPECT_EQ(CopyAllAt(FVector2D(6.0, RoomOf(GetBlock()).Bottom)), "a \xE2\x80\x8B b");
 	User.Type(TEXT("typed"));
 	EXPECT_EQ(ReadTexts(GetView()).find("typed"), std::string::npos);
-}
 
-TEST_F(CodeWidget, ItsCodeIsSelectedLikeAnyTextAndCannotBeChanged)
-{
-	Show(TEXT("<code>int a;__NL__\"b\"</>"));
-	const TSharedRef<SBorder> Box = StaticCastSharedRef<SBorder>(FindOne(GetBlock(), TEXT("SBorder")));
-	EXPECT_EQ(Box->GetBorderImage(), FVorelAIStyle::Get().GetBrush("VorelAI.Background.Dark"));
-	User.ClickAt(PlaceOf(FindOne(GetBlock(), TEXT("SMultiLineEditableText"))).TopLeft + FVector2D(5.0, 5.0));
-	User.Press(TEXT("Ctrl+A"));
-	User.Press(TEXT("Ctrl+C"));
-	EXPECT_EQ(ToUtf8(User.GetClipboard()), "int a;\n\"b\"");
-	User.Type(TEXT("typed"));
-	EXPECT_EQ(GetCode(), "int a;\n\"b\"");
-}
-
-TEST_F(CodeWidget, ASelectionInTheMessageOutlivesTheFocus)
-{
-	Show(TEXT("kept <code>x</>"));
-	User.ClickAt(FVector2D(6.0, PlaceOf(GetBlock()).Size.Y));
-	User.Press(TEXT("Ctrl+A"));
-	const TSharedRef<SWidget> View = GetView();
-	FSlateApplication::Get().SetKeyboardFocus(nullptr, EFocusCause::SetDirectly);
-	FSlateApplication::Get().SetKeyboardFocus(View, EFocusCause::SetDirectly);
+	// A selection in the message outlives the focus.
+	User.ClearFocus();
+	FSlateApplication::Get().SetKeyboardFocus(GetView(), EFocusCause::SetDirectly);
 	User.SetClipboard(TEXT("before"));
 	User.Press(TEXT("Ctrl+C"));
-	EXPECT_EQ(ToUtf8(User.GetClipboard()), "kept \xE2\x80\x8B");
-}
-
-TEST_F(CodeWidget, ItsMessageIsWrappedAndCannotBeChanged)
-{
-	Show(TEXT("word"));
-	const double OneLine = GetView()->GetDesiredSize().Y;
-	Show(FString::ChrN(200, TEXT('.')).Replace(TEXT("."), TEXT("word ")));
-	EXPECT_GE(GetView()->GetDesiredSize().Y, 2.0 * (OneLine - 8.0) + 8.0);
-	EXPECT_TRUE(GetView()->IsTextReadOnly());
+	EXPECT_EQ(ToUtf8(User.GetClipboard()), "a \xE2\x80\x8B b");
 }
 
 TEST_F(CodeWidget, IsMadeByTheDecoratorWithWhatTheMarkupSaid)

@@ -35,15 +35,6 @@ protected:
 	void ClickLogin() { User.ClickAt(LoginButton()->GetCachedGeometry().LocalToAbsolute(FVector2D(20.0, 20.0))); }
 	std::string TakeCalls() const { return ToUtf8(Client.Calls->Take()); }
 
-	// "x,y wxh" in the window, once the tree stands.
-	static std::string Place(const TSharedRef<SWidget>& Widget)
-	{
-		const FGeometry& Geometry = Widget->GetCachedGeometry();
-		const FVector2D Position(Geometry.GetAbsolutePosition());
-		const FVector2D Size(Geometry.GetLocalSize());
-		return ToUtf8(FString::Printf(TEXT("%g,%g %gx%g"), Position.X, Position.Y, Size.X, Size.Y));
-	}
-
 	FFakeClient Client;
 	TSharedRef<SLoginPanel> Panel = MakePanel();
 	FUserDriver User{Panel, FVector2D(1000.0, 800.0), 1.0f, EDriverFonts::Even};
@@ -74,24 +65,23 @@ TEST_F(LoginPanel, ShowsItsTextsUnderTheirKeys)
 
 TEST_F(LoginPanel, StandsInTheMiddleAsFarAsThereIsRoom)
 {
-	User.Frame();
+	EXPECT_EQ(ReadTexts(Toast()), "Welcome to Vorel AI! | Please log in to continue.");
 	const TSharedRef<SWidget> Column = FindOne(Interface(), TEXT("SBox"));
-	EXPECT_EQ(Place(Toast()), "0,0 1000x45");
-	EXPECT_EQ(Place(Interface()), "0,45 1000x755");
-	EXPECT_EQ(Place(Column), "290,189.25 420x466.5");
-	EXPECT_EQ(Place(FindOne(Interface(), TEXT("SImage"))), "375,287.25 250x52.5");
-	EXPECT_EQ(Place(LoginButton()), "425,503.75 150x50");
+	EXPECT_EQ(PlaceOf(Toast()), "0,0 1000x45");
+	EXPECT_EQ(PlaceOf(Interface()), "0,45 1000x755");
+	EXPECT_EQ(PlaceOf(Column), "290,189.25 420x466.5");
+	EXPECT_EQ(PlaceOf(FindOne(Interface(), TEXT("SImage"))), "375,287.25 250x52.5");
+	EXPECT_EQ(PlaceOf(LoginButton()), "425,503.75 150x50");
 
 	// Without the banner the column stands in the middle of all.
 	User.AdvanceTime(10.1f);
-	EXPECT_EQ(Place(Column), "290,166.75 420x466.5");
+	EXPECT_EQ(ReadTexts(Toast()), "");
+	EXPECT_EQ(PlaceOf(Column), "290,166.75 420x466.5");
 	User.Resize(FVector2D(340.0, 800.0));
-	User.Frame();
-	EXPECT_EQ(Place(Column), "2,158.75 336x482.5");
-	EXPECT_EQ(Place(LoginButton()), "95,489.25 150x50");
+	EXPECT_EQ(PlaceOf(Column), "2,158.75 336x482.5");
+	EXPECT_EQ(PlaceOf(LoginButton()), "95,489.25 150x50");
 	User.Resize(FVector2D(104.0, 800.0));
-	User.Frame();
-	EXPECT_EQ(Place(Column), "2,125 100x550") << "no higher than that, however many lines the description has";
+	EXPECT_EQ(PlaceOf(Column), "2,125 100x550") << "no higher than that, however many lines the description has";
 }
 
 TEST_F(LoginPanel, DotsStandInForTheCaptionUntilTheStateChanges)
@@ -102,7 +92,7 @@ TEST_F(LoginPanel, DotsStandInForTheCaptionUntilTheStateChanges)
 	EXPECT_EQ(TakeCalls(), "StartLogin()");
 	User.AdvanceTime(0.2f);
 	const TSharedRef<SWidget> Dot = FindOne(Dots(), TEXT("SImage"));
-	EXPECT_EQ(Place(Dots()), "483.5,524.25 33x9");
+	EXPECT_EQ(PlaceOf(Dots()), "483.5,524.25 33x9");
 	EXPECT_NEAR(Dot->GetRenderTransform()->GetTranslation().Y, 3.0 * std::sin(0.2 * 1.25 * 4.0 * 1.25), 1e-4);
 
 	ClickLogin();
@@ -114,15 +104,6 @@ TEST_F(LoginPanel, DotsStandInForTheCaptionUntilTheStateChanges)
 	Client.Calls->Allow(TEXT("StartLogin"), [this](const FString&) { Client.Auth->OnAuthenticationStateChanged.Broadcast(); });
 	ClickLogin();
 	EXPECT_EQ(Button(), "Log in") << "a sign-in that ends at once leaves no dots";
-}
-
-TEST_F(LoginPanel, GreetsWheneverItIsBuilt)
-{
-	const std::string Greeting = "Welcome to Vorel AI! | Please log in to continue.";
-	EXPECT_EQ(ReadTexts(Toast()), Greeting);
-	User.AdvanceTime(10.1f);
-	EXPECT_EQ(ReadTexts(Toast()), "");
-	EXPECT_EQ(ReadTexts(FindOne(MakePanel(), TEXT("SNotification"))), Greeting);
 }
 
 TEST_F(LoginPanel, TheLinksLeadToTheAddressOfTheTimeOfBuilding)

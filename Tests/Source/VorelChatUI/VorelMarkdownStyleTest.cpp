@@ -9,37 +9,26 @@
 namespace
 {
 
+FString FullName(const char* Name)
+{
+	return FString::Printf(TEXT("VorelMarkdown.%hs"), Name);
+}
+
 FTextBlockStyle Find(const char* Name)
 {
-	const FString FullName = FString::Printf(TEXT("VorelMarkdown.%hs"), Name);
-	EXPECT_TRUE(FVorelMarkdownStyle::Get().HasStyle(FullName)) << Name;
-	return FVorelMarkdownStyle::Get().GetStyle(FullName);
+	EXPECT_TRUE(FVorelMarkdownStyle::Get().HasStyle(FullName(Name))) << Name;
+	return FVorelMarkdownStyle::Get().GetStyle(FullName(Name));
 }
-
-bool Has(const char* Name)
-{
-	return FVorelMarkdownStyle::Get().HasStyle(FString::Printf(TEXT("VorelMarkdown.%hs"), Name));
-}
-
-FSlateFontInfo Font(const char* FaceWord, float Size)
-{
-	return FCoreStyle::GetDefaultFontStyle(FaceWord, Size);
-}
-
-const FSlateColor CodeColor(FLinearColor(1.0f, 0.7f, 0.4f, 1.0f));
 
 } // namespace
 
-TEST(VorelMarkdownStyle, StartingLogsTheOneExpectedWarning)
+TEST(VorelMarkdownStyle, HoldsEveryCombinationOnceAndPublishesIt)
 {
 	FVorelMarkdownStyle::Shutdown();
 	FLogCapture Log;
 	FVorelMarkdownStyle::Initialize();
 	EXPECT_EQ(TakeLog(Log), "Warning: BlockStyle CodeBlock not found in Styles\n");
-}
 
-TEST(VorelMarkdownStyle, HoldsEveryCombinationOnceAndPublishesIt)
-{
 	TArray<FString> Lines;
 	FVorelMarkdownStyle::GetDemoText().ParseIntoArrayLines(Lines);
 	int32 NumStyles = 0;
@@ -58,75 +47,61 @@ TEST(VorelMarkdownStyle, HoldsEveryCombinationOnceAndPublishesIt)
 	EXPECT_EQ(NumStyles, 9429);
 	EXPECT_EQ(Names.Num(), 9429);
 	EXPECT_TRUE(Lines.Last().StartsWith(TEXT("<code> int main() __NL__ {    const")));
-}
-
-TEST(VorelMarkdownStyle, HeadersScaleTheBaseSize)
-{
-	const float Sizes[] = {22.5f, 20.0f, 17.5f, 15.0f, 12.5f, 11.25f};
-	for (int Level = 1; Level <= 6; ++Level)
-	{
-		const std::string Name = "Header" + std::to_string(Level);
-		const FTextBlockStyle Header = Find(Name.c_str());
-		EXPECT_TRUE(Header.Font == Font("Medium", Sizes[Level - 1])) << Level;
-		EXPECT_TRUE(Header.ColorAndOpacity == FSlateColor::UseForeground()) << Level;
-	}
-	EXPECT_TRUE(Find("Header") == Find("Header1"));
-	EXPECT_TRUE(Find("Emphasis").Font == Font("Italic", 10.0f));
-	EXPECT_TRUE(Find("Strong").Font == Font("Bold", 10.0f));
-	EXPECT_TRUE(Find("AutoLink") == Find("Paragraph.Link"));
-	EXPECT_TRUE(Find("Link") == Find("AutoLink"));
-	for (const char* Plain : {"OrderedList", "UnorderedList", "Table", "HorizontalRule", "ListItem", "Text"})
-	{
-		EXPECT_TRUE(Find(Plain) == Find("Paragraph")) << Plain;
-	}
-}
-
-TEST(VorelMarkdownStyle, TheLastFontWinsWhileColorsAndBrushesStay)
-{
-	EXPECT_TRUE(Find("Paragraph.Strong.Emphasis").Font == Font("Italic", 10.0f));
-	EXPECT_TRUE(Find("Paragraph.Emphasis.Strong").Font == Font("Bold", 10.0f));
-	EXPECT_TRUE(Find("Header2.InlineCode").Font == Font("Mono", 20.0f));
-	EXPECT_TRUE(Find("Header2.InlineCode").ColorAndOpacity == CodeColor);
-	EXPECT_TRUE(Find("Image") == Find("InlineCode"));
-
-	const FTextBlockStyle Quoted = Find("Blockquote.Blockquote.Blockquote.Blockquote.Header3");
-	EXPECT_TRUE(Quoted.Font == Font("Italic", 17.5f));
-	EXPECT_TRUE(Quoted.ColorAndOpacity == FSlateColor::UseSubduedForeground());
-	EXPECT_TRUE(Quoted == Find("Blockquote.Header3"));
-
-	const FTextBlockStyle Mixed = Find("OrderedList.Strikethrough.Link.Strong");
-	EXPECT_TRUE(Mixed.Font == Font("Bold", 10.0f));
-	EXPECT_TRUE(Mixed.StrikeBrush == *FAppStyle::Get().GetBrush("DefaultTextUnderline"));
-	EXPECT_TRUE(Mixed.ColorAndOpacity == FAppStyle::Get().GetSlateColor("Colors.Primary"));
-	EXPECT_TRUE(Mixed.UnderlineBrush.GetResourceName().ToString().EndsWith(TEXT("/Resources/White.png")));
-	EXPECT_TRUE(Mixed.UnderlineBrush.ImageSize == FVector2D(8.0, 8.0));
-	EXPECT_EQ(Mixed.UnderlineBrush.Tiling, ESlateBrushTileType::Both);
-}
-
-TEST(VorelMarkdownStyle, NamesThatDoNotExistGiveTheDefaultStyle)
-{
 	for (const char* Name : {"Blockquote.Blockquote.Table", "Paragraph.Strong.Strong", "Paragraph.Emphasis.Strong.Link.InlineCode",
 			 "ListItem.Strong", "CodeBlock", "Blockquote.Blockquote.Blockquote.Blockquote.Blockquote.Paragraph"})
 	{
-		EXPECT_FALSE(Has(Name)) << Name;
+		EXPECT_FALSE(FVorelMarkdownStyle::Get().HasStyle(FullName(Name))) << Name;
 	}
-	EXPECT_TRUE(Has("Blockquote.Blockquote.Paragraph.Link"));
-	EXPECT_TRUE(Has("Blockquote.Paragraph.UnorderedList.Image.Link.Strong"));
-
-	FLogCapture Log;
-	const FVorelMarkdownStyle& Style = FVorelMarkdownStyle::Get();
-	EXPECT_TRUE(Style.GetStyle(TEXT("VorelMarkdown.Nothing")) == Find("Paragraph"));
-	EXPECT_EQ(TakeLog(Log), "Warning: Style VorelMarkdown.Nothing not found\n");
-	EXPECT_TRUE(Style.GetStyleOrDefault(TEXT("VorelMarkdown.Nothing")) == Find("Paragraph"));
-	EXPECT_EQ(TakeLog(Log), "");
 }
 
-TEST(VorelMarkdownStyle, WordsIgnoreCaseAndUnknownOnesChangeNothing)
+TEST(VorelMarkdownStyle, TheLastFontWinsAndHeadersScaleTheBaseSize)
+{
+	const FLinearColor CodeColor(1.0f, 0.7f, 0.4f);
+	const FSlateColor LinkColor = FAppStyle::Get().GetSlateColor("Colors.Primary");
+	const struct
+	{
+		const char* Name;
+		const char* FaceWord;
+		float Size;
+		FSlateColor Color;
+	} Rows[] = {{"Header1", "Medium", 22.5f, FSlateColor::UseForeground()}, {"Header2", "Medium", 20.0f, FSlateColor::UseForeground()},
+		{"Header3", "Medium", 17.5f, FSlateColor::UseForeground()}, {"Header4", "Medium", 15.0f, FSlateColor::UseForeground()},
+		{"Header5", "Medium", 12.5f, FSlateColor::UseForeground()}, {"Header6", "Medium", 11.25f, FSlateColor::UseForeground()},
+		{"Paragraph.Strong.Emphasis", "Italic", 10.0f, Find("Paragraph").ColorAndOpacity},
+		{"Paragraph.Emphasis.Strong", "Bold", 10.0f, Find("Paragraph").ColorAndOpacity}, {"Header2.InlineCode", "Mono", 20.0f, CodeColor},
+		{"OrderedList.Strikethrough.Link.Strong", "Bold", 10.0f, LinkColor},
+		{"Blockquote.Blockquote.Blockquote.Blockquote.Header3", "Italic", 17.5f, FSlateColor::UseSubduedForeground()}};
+	for (const auto& Row : Rows)
+	{
+		EXPECT_TRUE(Find(Row.Name).Font == FCoreStyle::GetDefaultFontStyle(Row.FaceWord, Row.Size)) << Row.Name;
+		EXPECT_TRUE(Find(Row.Name).ColorAndOpacity == Row.Color) << Row.Name;
+	}
+	const FTextBlockStyle Mixed = Find("OrderedList.Strikethrough.Link.Strong");
+	EXPECT_TRUE(Mixed.StrikeBrush == *FAppStyle::Get().GetBrush("DefaultTextUnderline"));
+	EXPECT_TRUE(Mixed.UnderlineBrush.GetResourceName().ToString().EndsWith(TEXT("/Resources/White.png")));
+	EXPECT_TRUE(Mixed.UnderlineBrush.ImageSize == FVector2D(8.0, 8.0));
+	EXPECT_EQ(Mixed.UnderlineBrush.Tiling, ESlateBrushTileType::Both);
+
+	const std::pair<const char*, const char*> Equals[] = {{"Header", "Header1"}, {"Strong", "Paragraph.Strong"},
+		{"AutoLink", "Paragraph.Link"}, {"Link", "AutoLink"}, {"Image", "InlineCode"}, {"OrderedList", "Paragraph"},
+		{"UnorderedList", "Paragraph"}, {"Table", "Paragraph"}, {"HorizontalRule", "Paragraph"}, {"ListItem", "Paragraph"},
+		{"Text", "Paragraph"}, {"Blockquote.Blockquote.Header3", "Blockquote.Header3"}};
+	for (const auto& [Name, Same] : Equals)
+	{
+		EXPECT_TRUE(Find(Name) == Find(Same)) << Name;
+	}
+}
+
+TEST(VorelMarkdownStyle, UnknownNamesAndWordsAreReportedAndWordsIgnoreCase)
 {
 	FLogCapture Log;
 	const FVorelMarkdownStyle& Style = FVorelMarkdownStyle::Get();
 	const FTextBlockStyle Base = Find("Paragraph");
-	EXPECT_TRUE(Style.CombinedStyle(Base, TEXT("sTRONG")).Font == Font("Bold", 10.0f));
+	EXPECT_TRUE(Style.GetStyle(TEXT("VorelMarkdown.Nothing")) == Base);
+	EXPECT_EQ(TakeLog(Log), "Warning: Style VorelMarkdown.Nothing not found\n");
+	EXPECT_TRUE(Style.GetStyleOrDefault(TEXT("VorelMarkdown.Nothing")) == Base);
+	EXPECT_EQ(TakeLog(Log), "");
+	EXPECT_TRUE(Style.CombinedStyle(Base, TEXT("sTRONG")) == Find("Paragraph.Strong"));
 	EXPECT_TRUE(Style.CombinedStyle(Base, TEXT("Blinking")) == Base);
 	EXPECT_EQ(TakeLog(Log), "Warning: Style Blinking not found in CombinedStyle\n");
 }

@@ -32,6 +32,15 @@ inline TSharedRef<SWidget> FindOne(const TSharedRef<SWidget>& Root, const TCHAR*
 	return Found[Index];
 }
 
+// "x,y wxh" in the window's pixels, as of the last frame.
+inline std::string PlaceOf(const TSharedRef<SWidget>& Widget)
+{
+	const FGeometry& Geometry = Widget->GetCachedGeometry();
+	const FVector2D Position = Geometry.GetAbsolutePosition();
+	const FVector2D Size = Geometry.GetLocalSize();
+	return ToUtf8(FString::Printf(TEXT("%g,%g %gx%g"), Position.X, Position.Y, Size.X, Size.Y));
+}
+
 // The texts below a widget that are not collapsed, joined by Separator.
 inline std::string ReadTexts(const TSharedRef<SWidget>& Root, const char* Separator = " | ")
 {
