@@ -3,7 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Options/ReadNumber.h"
+#include "Options/ContentSize.h"
 
 #include <QWidget>
 

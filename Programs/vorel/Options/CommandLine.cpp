@@ -2,6 +2,8 @@
 
 #include "Options/CommandLine.h"
 
+#include "Arguments/ReadNumber.h"
+
 namespace
 {
 using FSetOption = bool (*)(FCommandLine& Line, const FString& Value);
@@ -26,7 +28,7 @@ bool SetText(FString& Target, const FString& Value)
 
 bool SetSize(FCommandLine& Line, const FString& Value)
 {
-	const TOptional<FContentSize> Size = ReadNumber::Size(Value);
+	const TOptional<FContentSize> Size = FContentSize::Read(Value);
 	Line.Size = Size.Get(FContentSize());
 	return Size.IsSet();
 }

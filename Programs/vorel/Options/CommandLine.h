@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "Options/ReadNumber.h"
+#include "Options/ContentSize.h"
 
 enum class EExportFormat : uint8
 {

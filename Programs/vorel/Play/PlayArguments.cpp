@@ -2,6 +2,8 @@
 
 #include "Play/PlayArguments.h"
 
+#include "Arguments/ReadNumber.h"
+
 const FPlayToken* FPlayArguments::Peek() const
 {
 	return Error.IsEmpty() && Tokens.IsValidIndex(Position) ? &Tokens[Position] : nullptr;
@@ -98,7 +100,7 @@ FKeyStroke FPlayArguments::TakeKey()
 
 FContentSize FPlayArguments::TakeSize()
 {
-	const TOptional<FContentSize> Size = ReadNumber::Size(TakeWord());
+	const TOptional<FContentSize> Size = FContentSize::Read(TakeWord());
 	if (!Size)
 	{
 		Fail(TEXT("a width and a height from 1 to 8192 are missing, like 1000x800"));

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "Options/ReadNumber.h"
+#include "Options/ContentSize.h"
 #include "Play/KeyStroke.h"
 #include "Play/PlayTokens.h"
 

@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Options/ReadNumber.h"
+#include "Arguments/ReadNumber.h"
 
 #include <charconv>
 
@@ -24,21 +24,4 @@ TOptional<double> ReadNumber::Decimal(FStringView Text)
 TOptional<int32> ReadNumber::Integer(FStringView Text)
 {
 	return ReadWhole<int32>(Text);
-}
-
-TOptional<FContentSize> ReadNumber::Size(FStringView Text)
-{
-	constexpr int32 LongestSide = 8192;
-	int32 Cross = INDEX_NONE;
-	if (!Text.FindChar(TEXT('x'), Cross))
-	{
-		return NullOpt;
-	}
-	const TOptional<int32> Width = Integer(Text.Left(Cross));
-	const TOptional<int32> Height = Integer(Text.RightChop(Cross + 1));
-	const auto IsSide = [](const TOptional<int32>& Side)
-	{
-		return Side && *Side >= 1 && *Side <= LongestSide;
-	};
-	return IsSide(Width) && IsSide(Height) ? TOptional<FContentSize>({*Width, *Height}) : NullOpt;
 }
