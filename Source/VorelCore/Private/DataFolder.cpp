@@ -31,17 +31,18 @@ void FDataFolder::Set(const FString& Path)
 
 FString FDataFolder::Get()
 {
-	if (!GetChosenFolder().IsEmpty())
-	{
-		return GetChosenFolder();
-	}
+	return GetChosenFolder().IsEmpty() ? GetDefault(TEXT("vorel-ai")) : GetChosenFolder();
+}
+
+FString FDataFolder::GetDefault(const FString& ProgramName)
+{
 	const FString DataHome = GetFolderVariable("XDG_DATA_HOME");
 	if (!DataHome.IsEmpty())
 	{
-		return DataHome / TEXT("vorel-ai");
+		return DataHome / ProgramName;
 	}
 	const FString Home = GetFolderVariable("HOME");
-	return Home.IsEmpty() ? FString() : Home / TEXT(".local/share/vorel-ai");
+	return Home.IsEmpty() ? FString() : Home / TEXT(".local/share") / ProgramName;
 }
 
 bool FDataFolder::Create(FString& OutError)

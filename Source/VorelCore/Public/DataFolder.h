@@ -12,8 +12,11 @@ public:
 	// call.
 	static void Set(const FString& Path);
 
-	// What was set, else "vorel-ai" in XDG_DATA_HOME or in ~/.local/share. Empty where the user has no home. It need not exist.
+	// What was set, else the default of "vorel-ai". It need not exist.
 	static FString Get();
+
+	// A program's folder in XDG_DATA_HOME or in ~/.local/share. Empty where the user has no home.
+	static FString GetDefault(const FString& ProgramName);
 
 	// Makes the folder where it is missing, for its owner alone. False, with a sentence for the user, where that can't be done.
 	static bool Create(FString& OutError);
