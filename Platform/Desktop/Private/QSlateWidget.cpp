@@ -6,6 +6,7 @@
 #include "Application/InputTranslation.h"
 #include "DesktopApplication.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Misc/CoreDelegates.h"
 #include "Rendering/ColorConversion.h"
 #include "Styling/AppStyle.h"
 #include "Widgets/SWindow.h"
@@ -212,6 +213,10 @@ bool QSlateWidget::event(QEvent* Event)
 	if (Event->type() == QEvent::ScreenChangeInternal || Event->type() == QEvent::Show)
 	{
 		UpdateClientArea();
+	}
+	if (Event->type() == QEvent::WindowActivate)
+	{
+		FCoreDelegates::ApplicationHasReactivatedDelegate.Broadcast();
 	}
 	return QWidget::event(Event);
 }
