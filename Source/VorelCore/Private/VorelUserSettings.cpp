@@ -65,6 +65,16 @@ FEntry MakeText(const ANSICHAR* Name, FString FVorelSettingsValues::*Member)
 		}};
 }
 
+FEntry MakeSwitch(const ANSICHAR* Name, bool FVorelSettingsValues::*Member)
+{
+	return {Name, TEXT("true or false"),
+		[Member](const FJson& Value, FVorelSettingsValues& OutValues)
+		{
+			OutValues.*Member = Value.is_boolean() && Value.get<bool>();
+			return Value.is_boolean();
+		}};
+}
+
 FEntry MakeSeconds(const ANSICHAR* Name, double FVorelSettingsValues::*Member)
 {
 	return {Name, TEXT("a number of seconds above 0 and up to 3600"),
@@ -83,6 +93,7 @@ const TArray<FEntry>& GetEntries()
 {
 	static const TArray<FEntry> Entries = {MakeAddress("appUrl", &FVorelSettingsValues::AppUrl),
 		MakeAddress("assistantUrl", &FVorelSettingsValues::AssistantUrl), MakeText("assistantModel", &FVorelSettingsValues::AssistantModel),
+		MakeSwitch("allowTokenFile", &FVorelSettingsValues::bAllowTokenFile),
 		MakeSeconds("connectTimeoutSeconds", &FVorelSettingsValues::ConnectTimeoutSeconds),
 		MakeSeconds("firstByteTimeoutSeconds", &FVorelSettingsValues::FirstByteTimeoutSeconds),
 		MakeSeconds("idleTimeoutSeconds", &FVorelSettingsValues::IdleTimeoutSeconds)};

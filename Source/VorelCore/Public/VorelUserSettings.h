@@ -4,15 +4,18 @@
 
 #include "VorelSettings.h"
 
-// The entries of settings.json, named as there but for the first letter.
+// The entries of settings.json, named as there but for the first letters.
 struct FVorelSettingsValues
 {
-	// Without a slash at the end. Empty: the embedded local service's.
+	// Without a slash at the end. Empty: the service's own.
 	FString AppUrl;
 
 	// Of a server for streaming chat completions, and the model to ask for there. Empty where nothing was set.
 	FString AssistantUrl;
 	FString AssistantModel;
+
+	// Where the desktop has no secret store, the tokens of a login may lie in a file that only its owner can read.
+	bool bAllowTokenFile = false;
 
 	// How long to wait for a connection, for the first byte of an answer, and for each next one.
 	double ConnectTimeoutSeconds = 10.0;
@@ -35,7 +38,7 @@ public:
 
 	FString GetAppUrl() const override { return Values.AppUrl.IsEmpty() ? DefaultAppUrl : Values.AppUrl; }
 
-	// Where the local service listens, once it does.
+	// Where the service is that the client uses, once it is known.
 	void SetDefaultAppUrl(const FString& Url) { DefaultAppUrl = Url; }
 
 private:

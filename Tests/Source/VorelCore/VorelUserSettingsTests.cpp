@@ -55,12 +55,13 @@ TEST_F(FVorelUserSettingsTest, DefaultsStandWhereThereIsNoFile)
 TEST_F(FVorelUserSettingsTest, EveryEntryIsRead)
 {
 	EXPECT_EQ(Load(R"({"appUrl": "https://app.example/", "assistantUrl": "http://127.0.0.1:8080/v1", "assistantModel": "m\u00e9",
-		"connectTimeoutSeconds": 1, "firstByteTimeoutSeconds": 2.5, "idleTimeoutSeconds": 3600})"),
+		"allowTokenFile": true, "connectTimeoutSeconds": 1, "firstByteTimeoutSeconds": 2.5, "idleTimeoutSeconds": 3600})"),
 		FWarnings());
 	const FVorelSettingsValues& Values = Settings->GetValues();
 	EXPECT_EQ(Settings->GetAppUrl(), TEXT("https://app.example"));
 	EXPECT_EQ(Values.AssistantUrl, TEXT("http://127.0.0.1:8080/v1"));
 	EXPECT_EQ(Values.AssistantModel, TEXT("m\u00e9"));
+	EXPECT_TRUE(Values.bAllowTokenFile);
 	EXPECT_EQ(Values.ConnectTimeoutSeconds, 1.0);
 	EXPECT_EQ(Values.FirstByteTimeoutSeconds, 2.5);
 	EXPECT_EQ(Values.IdleTimeoutSeconds, 3600.0);
@@ -94,6 +95,8 @@ TEST_F(FVorelUserSettingsTest, WrongEntriesAreReportedAndTheRestIsUsed)
 		EXPECT_EQ(Load(std::string("{\"appUrl\": ") + Wrong + "}"),
 			FWarnings{TEXT(": \"appUrl\" is ignored, it must be an address that starts with http:// or https://")});
 	}
+	EXPECT_EQ(Load(R"({"allowTokenFile": "true"})"), FWarnings{TEXT(": \"allowTokenFile\" is ignored, it must be true or false")});
+	EXPECT_FALSE(Settings->GetValues().bAllowTokenFile);
 	EXPECT_EQ(Load(R"({"assistantModel": 7})"), FWarnings{TEXT(": \"assistantModel\" is ignored, it must be a text")});
 }
 
