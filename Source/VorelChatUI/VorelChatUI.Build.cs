@@ -11,6 +11,9 @@ public class VorelChatUI : ModuleRules
 
 		PrivateIncludePaths.Add(Path.Combine(ModuleDirectory, "Private", "Framework", "Contract"));
 
+		// Where the notice of a newer version leads, whatever service is used.
+		PrivateDefinitions.Add("VOREL_WEB_URL=\"https://vorel.example\"");
+
 		PublicDependencyModuleNames.AddRange(new string[] { "Core" });
 		PrivateDependencyModuleNames.AddRange(new string[]
 		{

@@ -24,7 +24,7 @@ namespace
 {
 
 // Fixed, unlike the other pages: where to get a new version must not depend on the settings of the old one.
-const TCHAR* const PluginDownloadUrl = TEXT("https://vorel.example/plugin");
+const TCHAR* const PluginDownloadUrl = TEXT(VOREL_WEB_URL "/plugin");
 
 } // namespace
 
