@@ -21,10 +21,10 @@ FNoticeLog::~FNoticeLog()
 void FNoticeLog::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category)
 {
 	const bool bWarns = Category == FName(TEXT("LogDesktop")) || (bStartup && Category == FName(TEXT("LogVorel")));
-	const bool bStoreTells = Category == FName(TEXT("LogVorelStore")) && Verbosity <= ELogVerbosity::Display;
+	const bool bForUsers = Category == FName(TEXT("LogVorelStore")) || Category == FName(TEXT("LogVorelAccount"));
 	// Other threads have no users.
 	const bool bGameThread = QThread::currentThread() == QCoreApplication::instance()->thread();
-	if (bGameThread && (bStoreTells || (bWarns && Verbosity <= ELogVerbosity::Warning)))
+	if (bGameThread && ((bForUsers && Verbosity <= ELogVerbosity::Display) || (bWarns && Verbosity <= ELogVerbosity::Warning)))
 	{
 		OnNotice(V);
 	}

@@ -6,7 +6,7 @@
 #include "Misc/OutputDevice.h"
 
 // Hears the log and hands on what a user should know of and no request will tell: what went wrong while the program started, what the
-// store of conversations tells, and links that could not be opened.
+// store of conversations and the login tell, and links that could not be opened.
 class FNoticeLog final : public FOutputDevice
 {
 public:

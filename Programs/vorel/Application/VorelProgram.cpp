@@ -77,7 +77,8 @@ void LoadModules(FNoticeLog& NoticeLog)
 FString GetAssistantName(const FCommandLine& Line)
 {
 	const FString& FromSettings = UVorelUserSettings::Get()->GetValues().AssistantUrl;
-	const FString& Address = Line.AssistantUrl.IsEmpty() ? FromSettings : Line.AssistantUrl;
+	const FString& Assistant = Line.AssistantUrl.IsEmpty() ? FromSettings : Line.AssistantUrl;
+	const FString& Address = Assistant.IsEmpty() ? Line.ServiceUrl : Assistant;
 	return Address.IsEmpty() ? FString(TEXT("Built-in guide")) : ToFString(QUrl(ToQString(Address)).host());
 }
 
@@ -110,7 +111,7 @@ int RunVorel(QApplication& Application, const FCommandLine& Line, const FPlayScr
 		std::fprintf(stderr, "vorel: %s\n", TCHAR_TO_UTF8(FirstNotice));
 		return 2;
 	}
-	FVorelClientOptions::Set({Line.AssistantUrl, Line.Model});
+	FVorelClientOptions::Set({Line.AssistantUrl, Line.Model, Line.ServiceUrl, Line.Issuer, Line.ClientId, Line.DailyCredits});
 
 	FPlatformScope Platform(Script ? EBrowserMode::Record : EBrowserMode::Open);
 	FEditorFrame* Frame = nullptr;

@@ -3,6 +3,10 @@
 #include "Options/CommandLine.h"
 
 #include "Arguments/ReadNumber.h"
+#include "QtConversion.h"
+
+#include <QHostAddress>
+#include <QUrl>
 
 namespace
 {
@@ -47,6 +51,40 @@ bool SetAssistantUrl(FCommandLine& Line, const FString& Value)
 	return bWeb && SetText(Line.AssistantUrl, Value);
 }
 
+bool IsLoopback(const QString& Host)
+{
+	return Host == QLatin1String("localhost") || QHostAddress(Host).isLoopback();
+}
+
+// Secrets go there: encrypted, or to this machine.
+bool SetSafeUrl(FString& Target, const FString& Value, bool bPath)
+{
+	const QUrl Url(ToQString(Value), QUrl::StrictMode);
+	const bool bSafe = Url.scheme() == QLatin1String("https") || (Url.scheme() == QLatin1String("http") && IsLoopback(Url.host()));
+	const bool bPlain = Url.userInfo().isEmpty() && !Url.hasQuery() && !Url.hasFragment();
+	const bool bOrigin = Url.path().isEmpty() || Url.path() == QLatin1String("/");
+	Target = Value;
+	Target.RemoveFromEnd(TEXT("/"));
+	return Url.isValid() && !Url.host().isEmpty() && bSafe && bPlain && (bPath || bOrigin);
+}
+
+bool SetServiceUrl(FCommandLine& Line, const FString& Value)
+{
+	return SetSafeUrl(Line.ServiceUrl, Value, false);
+}
+
+bool SetIssuer(FCommandLine& Line, const FString& Value)
+{
+	return SetSafeUrl(Line.Issuer, Value, true);
+}
+
+bool SetDailyCredits(FCommandLine& Line, const FString& Value)
+{
+	constexpr int32 Most = 1000000;
+	Line.DailyCredits = ReadNumber::Integer(Value);
+	return Line.DailyCredits && *Line.DailyCredits >= 0 && *Line.DailyCredits <= Most;
+}
+
 bool SetFormat(FCommandLine& Line, const FString& Value)
 {
 	Line.ExportFormat = Value == TEXT("json") ? EExportFormat::Json : EExportFormat::Markdown;
@@ -67,6 +105,14 @@ const FOption Options[] = {
 		TEXT("an address that begins with http:// or https://")},
 	{TEXT("--model"), TEXT("NAME"), TEXT("Model to ask for there (the first one that the server names)."),
 		[](FCommandLine& Line, const FString& Value) { return SetText(Line.Model, Value); }, TEXT("a name")},
+	{TEXT("--service"), TEXT("URL"), TEXT("Address of another service to sign in to (one of its own)."), &SetServiceUrl,
+		TEXT("https:// and a host, or http:// and this machine, with nothing behind it")},
+	{TEXT("--issuer"), TEXT("URL"), TEXT("Sign in at this authorization server (the service itself)."), &SetIssuer,
+		TEXT("an address that begins with https://, or with http:// on this machine, without a query")},
+	{TEXT("--client-id"), TEXT("ID"), TEXT("What the program is called there."),
+		[](FCommandLine& Line, const FString& Value) { return SetText(Line.ClientId, Value); }, TEXT("a name")},
+	{TEXT("--daily-credits"), TEXT("N"), TEXT("Credits a day of the program's own service (100)."), &SetDailyCredits,
+		TEXT("a whole number from 0 to 1000000")},
 	{TEXT("--play"), TEXT("FILE"), TEXT("Do what a play file says, and end."),
 		[](FCommandLine& Line, const FString& Value) { return SetText(Line.PlayFile, Value); }, TEXT("a file")},
 	{TEXT("--format"), TEXT("md|json"), TEXT("What conversations export writes (md)."), &SetFormat, TEXT("md or json")},
@@ -154,6 +200,17 @@ FString ReadCommand(const TArray<FString>& Words, FCommandLine& Line)
 	return TEXT("conversations needs list, show, export, import or delete, see --help");
 }
 
+// What is wrong with options that are right one by one, or nothing.
+FString FindContradiction(const FCommandLine& Line)
+{
+	if (Line.Issuer.IsEmpty() != Line.ClientId.IsEmpty())
+	{
+		return Line.Issuer.IsEmpty() ? TEXT("--client-id needs --issuer too") : TEXT("--issuer needs --client-id too");
+	}
+	const bool bNobodysCredits = Line.DailyCredits && !Line.ServiceUrl.IsEmpty();
+	return bNobodysCredits ? TEXT("--daily-credits is for the program's own service, which --service replaces") : TEXT("");
+}
+
 FString MakeHelpLine(const TCHAR* Name, const TCHAR* Value, const TCHAR* Help)
 {
 	const FString Form = FString(Name) + (Value ? FString(TEXT(" ")) + Value : FString());
@@ -185,6 +242,7 @@ TOptional<FCommandLine> FCommandLine::Parse(const TArray<FString>& Arguments, FS
 		}
 	}
 	OutError = Line.bHelp ? FString() : ReadCommand(Words, Line);
+	OutError = Line.bHelp || !OutError.IsEmpty() ? OutError : FindContradiction(Line);
 	return OutError.IsEmpty() ? TOptional<FCommandLine>(Line) : NullOpt;
 }
 
@@ -203,8 +261,8 @@ FString FCommandLine::GetHelp()
 		Help += MakeHelpLine(Command.Name, Command.Argument, Command.Help);
 	}
 	return Help +
-		   TEXT("\nWithout --assistant and without such an entry in the settings, the built-in guide answers. A server's key is "
-				"taken from the\n"
-				"environment variable VOREL_ASSISTANT_KEY.\n"
+		   TEXT("\nWithout --assistant and without such an entry in the settings, the service answers: the built-in guide, or what "
+				"--service\n"
+				"names. An assistant's key is taken from the environment variable VOREL_ASSISTANT_KEY.\n"
 				"Exit status: 0, or 1 where a step of a play file or a command failed, or 2 where an option or a file can't be read.\n");
 }

@@ -23,15 +23,21 @@ struct FCommandLine
 	FString DataDir;
 	FString AssistantUrl;
 	FString Model;
+	FString ServiceUrl;
+	FString Issuer;
+	FString ClientId;
 	FString PlayFile;
+
+	// Unset: the local service's own number.
+	TOptional<int32> DailyCredits;
 
 	// What to do on the stored conversations, with its argument where it takes one; empty where the window is wanted.
 	TArray<FString> Command;
 	EExportFormat ExportFormat = EExportFormat::Markdown;
 
-	// Unset, with one sentence for the user, where there is something wrong with the command or an option. Options stand before, behind or
-	// within the command, but not behind "--". An option's value follows it, or stands behind its equals sign; of an option given twice the
-	// last counts.
+	// Unset, with one sentence for the user, where there is something wrong with the command, an option, or some together. Options stand
+	// before, behind or within the command, but not behind "--". An option's value follows it, or stands behind its equals sign; of an
+	// option given twice the last counts.
 	static TOptional<FCommandLine> Parse(const TArray<FString>& Arguments, FString& OutError);
 
 	static FString GetHelp();

@@ -2,15 +2,16 @@
 
 #include "VorelClientServices.h"
 
-#include "Account/InstalledUpdateService.h"
 #include "Account/LocalAuthenticationService.h"
 #include "Account/LocalUserDataService.h"
 #include "Http/JsonText.h"
 #include "Chat/HttpChatService.h"
 #include "DataFolder.h"
+#include "Interfaces/IPluginManager.h"
 #include "LocalService.h"
 #include "LogVorel.h"
 #include "Misc/Paths.h"
+#include "Update/VersionFeedUpdateService.h"
 #include "VorelClientOptions.h"
 #include "VorelUserSettings.h"
 #include <cstdlib>
@@ -29,6 +30,19 @@ FRequestLimits ReadLimits()
 {
 	const FVorelSettingsValues& Values = UVorelUserSettings::Get()->GetValues();
 	return {Values.ConnectTimeoutSeconds, Values.FirstByteTimeoutSeconds, Values.IdleTimeoutSeconds};
+}
+
+FString GetInstalledVersion()
+{
+	const TSharedPtr<IPlugin> Plugin = IPluginManager::Get().FindPlugin(TEXT("VorelAI"));
+	return Plugin ? Plugin->GetDescriptor().VersionName : FString();
+}
+
+// In the data folder; empty where there is none.
+FString GetDataFile(const TCHAR* Name)
+{
+	const FString Folder = FDataFolder::Get();
+	return Folder.IsEmpty() ? FString() : Folder / Name;
 }
 
 template <class T>
@@ -54,15 +68,21 @@ FVorelClientServices::FVorelClientServices()
 	: ChatService(MakeRooted<UHttpChatService>())
 	, AuthService(MakeRooted<ULocalAuthenticationService>())
 	, UserDataService(MakeRooted<ULocalUserDataService>())
-	, UpdateService(MakeRooted<UInstalledUpdateService>())
+	, UpdateService(MakeRooted<UVersionFeedUpdateService>())
 {
-	const FString Folder = FDataFolder::Get();
-	ChatService->Initialize(ChooseEndpoint(), ReadLimits(), Folder.IsEmpty() ? FString() : Folder / FConversationStore::FileName);
+	const FString& Chosen = FVorelClientOptions::Get().ServiceUrl;
+	ServiceUrl = Chosen.IsEmpty() ? StartLocalService() : Chosen;
+	UVorelUserSettings::Get()->SetDefaultAppUrl(ServiceUrl);
+	ChatService->Initialize(ChooseAssistant(), ReadLimits(), GetDataFile(FConversationStore::FileName));
+	UpdateService->Initialize(
+		{ServiceUrl, Chosen.IsEmpty() ? FString(TEXT("embedded")) : FString(), GetDataFile(FVersionFeedNote::FileName)},
+		GetInstalledVersion());
 }
 
 FVorelClientServices::~FVorelClientServices()
 {
 	ChatService->Shutdown();
+	UpdateService->Shutdown();
 	for (UObject* const Service : TArray<UObject*>{ChatService, AuthService, UserDataService, UpdateService})
 	{
 		Service->RemoveFromRoot();
@@ -74,7 +94,12 @@ TObjectPtr<UChatService> FVorelClientServices::GetChatService() const
 	return ChatService;
 }
 
-FAssistantEndpoint FVorelClientServices::ChooseEndpoint()
+TObjectPtr<UVorelUpdateService> FVorelClientServices::GetUpdateService() const
+{
+	return UpdateService;
+}
+
+FAssistantEndpoint FVorelClientServices::ChooseAssistant()
 {
 	const FVorelClientOptions& Options = FVorelClientOptions::Get();
 	const FVorelSettingsValues& Settings = UVorelUserSettings::Get()->GetValues();
@@ -82,7 +107,7 @@ FAssistantEndpoint FVorelClientServices::ChooseEndpoint()
 	Endpoint.BaseUrl = Options.AssistantUrl.IsEmpty() ? Settings.AssistantUrl : Options.AssistantUrl;
 	if (Endpoint.BaseUrl.IsEmpty())
 	{
-		return StartLocalService();
+		return MakeOwnAssistant();
 	}
 	// A model from the settings belongs to the server from the settings.
 	const bool bFromSettings = Options.AssistantUrl.IsEmpty() && Options.Model.IsEmpty();
@@ -92,26 +117,30 @@ FAssistantEndpoint FVorelClientServices::ChooseEndpoint()
 	return Endpoint;
 }
 
-FAssistantEndpoint FVorelClientServices::StartLocalService()
+FAssistantEndpoint FVorelClientServices::MakeOwnAssistant()
 {
+	FAssistantEndpoint Endpoint;
+	Endpoint.Unavailable =
+		ServiceUrl.IsEmpty() ? LOCTEXT("NoLocalService", "The built-in assistant could not be started. The log tells why.") : FText();
+	Endpoint.BaseUrl = ServiceUrl / TEXT("v1");
+	Endpoint.BillingUrl = UVorelUserSettings::Get()->GetAppUrl() + TEXT("/billing");
+	Endpoint.Tokens = &OwnerKey;
+	return Endpoint;
+}
+
+// Empty where it does not start.
+FString FVorelClientServices::StartLocalService()
+{
+	const FVorelClientOptions& Chosen = FVorelClientOptions::Get();
 	FLocalServiceOptions Options;
 	Options.GuideFolder = ToUtf8(FPaths::ProjectDir() / TEXT("Source/VorelService/Content/Guide"));
-	const int32 Pace = FVorelClientOptions::Get().GuidePieceMilliseconds;
-	Options.PieceInterval = Pace < 0 ? Options.PieceInterval : std::chrono::milliseconds(Pace);
+	Options.PieceInterval =
+		Chosen.GuidePieceMilliseconds < 0 ? Options.PieceInterval : std::chrono::milliseconds(Chosen.GuidePieceMilliseconds);
 
 	std::string Error;
 	LocalService = FLocalService::Start(Options, Error);
-	FAssistantEndpoint Endpoint;
-	if (!LocalService)
-	{
-		UE_LOG(LogVorel, Error, TEXT("The local service did not start: %s"), *FromUtf8(Error));
-		Endpoint.Unavailable = LOCTEXT("NoLocalService", "The built-in assistant could not be started. The log tells why.");
-		return Endpoint;
-	}
-	const FString Address = FromUtf8(LocalService->GetAddress());
-	UVorelUserSettings::Get()->SetDefaultAppUrl(Address);
-	Endpoint.BaseUrl = Address / TEXT("v1");
-	return Endpoint;
+	UE_CLOG(!LocalService, LogVorel, Error, TEXT("The local service did not start: %s"), *FromUtf8(Error));
+	return LocalService ? FromUtf8(LocalService->GetAddress()) : FString();
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -2,14 +2,16 @@
 
 #pragma once
 
+#include "Account/OwnerKey.h"
 #include "Assistant/AssistantEndpoint.h"
 #include "VorelClient.h"
 #include <memory>
 
 class FLocalService;
 class UHttpChatService;
+class UVersionFeedUpdateService;
 
-// Owns the four services, and the embedded local service where no other assistant was chosen.
+// Owns the four services, and the embedded local service where no other one was chosen.
 class FVorelClientServices final : public FVorelClient
 {
 public:
@@ -19,18 +21,22 @@ public:
 	TObjectPtr<UChatService> GetChatService() const override;
 	TObjectPtr<UAuthenticationService> GetAuthService() const override { return AuthService; }
 	TObjectPtr<UUserDataService> GetUserDataService() const override { return UserDataService; }
-	TObjectPtr<UVorelUpdateService> GetUpdateService() const override { return UpdateService; }
+	TObjectPtr<UVorelUpdateService> GetUpdateService() const override;
 
 private:
-	FAssistantEndpoint ChooseEndpoint();
-	FAssistantEndpoint StartLocalService();
+	FString StartLocalService();
+	FAssistantEndpoint ChooseAssistant();
+	FAssistantEndpoint MakeOwnAssistant();
 
 	// Declared first, so that it is gone last.
 	std::unique_ptr<FLocalService> LocalService;
+	FOwnerKey OwnerKey;
+	// Empty where there is none.
+	FString ServiceUrl;
 
 	// In the root set.
 	TObjectPtr<UHttpChatService> ChatService;
 	TObjectPtr<UAuthenticationService> AuthService;
 	TObjectPtr<UUserDataService> UserDataService;
-	TObjectPtr<UVorelUpdateService> UpdateService;
+	TObjectPtr<UVersionFeedUpdateService> UpdateService;
 };

@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Http/HttpCall.h"
+#include "Account/AuthorizedCall.h"
 #include "Http/QtText.h"
 
 #include "Assistant/AnswerCall.h"
@@ -56,7 +56,7 @@ FString FindFirstModel(std::string_view Body)
 
 FAnswerEnd MakeFailure(const FText& Failure)
 {
-	return FAnswerEnd{EAnswerEnd::Failed, Failure};
+	return FAnswerEnd{EAnswerEnd::Failed, Failure, false};
 }
 } // namespace
 
@@ -68,9 +68,10 @@ FAnswerCall::FAnswerCall(FAssistantEndpoint& InEndpoint, const FRequestLimits& I
 
 FAnswerCall::~FAnswerCall() = default;
 
-void FAnswerCall::Start(const TArray<FChatMessage>& InMessages)
+void FAnswerCall::Start(const TArray<FChatMessage>& InMessages, EChatMode InMode)
 {
 	Messages = InMessages;
+	Mode = InMode;
 	const QUrl Url = MakeRequest(TEXT("")).Url;
 	if (!Endpoint.Unavailable.IsEmpty())
 	{
@@ -94,7 +95,7 @@ void FAnswerCall::AskForModels()
 {
 	FHttpRequest Request = MakeRequest(TEXT("/models"));
 	Request.Accept = "application/json";
-	Http = MakeUnique<FHttpCall>(::MoveTemp(Request), Limits);
+	Http = MakeUnique<FAuthorizedCall>(::MoveTemp(Request), Limits, Endpoint.Tokens);
 	Http->OnBody = [this](std::string_view Bytes)
 	{
 		Models.append(Bytes.substr(0, MaxModelListBytes - Models.size()));
@@ -111,7 +112,7 @@ void FAnswerCall::ReadModels(const TOptional<FHttpFailure>& Failure)
 	Endpoint.FirstModel = FindFirstModel(Models);
 	if (Failure)
 	{
-		OnEnded(MakeFailure(FailureText::Describe(*Failure)));
+		OnEnded(MakeEnd(*Failure));
 	}
 	else if (Endpoint.FirstModel.IsEmpty())
 	{
@@ -126,11 +127,16 @@ void FAnswerCall::ReadModels(const TOptional<FHttpFailure>& Failure)
 void FAnswerCall::AskForAnswer()
 {
 	const FString& Model = Endpoint.Model.IsEmpty() ? Endpoint.FirstModel : Endpoint.Model;
-	const std::string Body = FJson{{"model", ToUtf8(Model)}, {"stream", true}, {"messages", MakeMessages(Messages)}}.dump();
+	FJson Question{{"model", ToUtf8(Model)}, {"stream", true}, {"messages", MakeMessages(Messages)}};
+	if (Endpoint.Tokens)
+	{
+		Question["metadata"] = {{"vorel_mode", Mode == EChatMode::Agent ? "agent" : "chat"}};
+	}
+	const std::string Body = Question.dump();
 	FHttpRequest Request = MakeRequest(TEXT("/chat/completions"));
 	Request.Accept = "text/event-stream, application/json";
 	Request.Body = QByteArray(Body.data(), static_cast<qsizetype>(Body.size()));
-	Http = MakeUnique<FHttpCall>(::MoveTemp(Request), Limits);
+	Http = MakeUnique<FAuthorizedCall>(::MoveTemp(Request), Limits, Endpoint.Tokens);
 	Http->OnBody = [this](std::string_view Bytes)
 	{
 		ReadAnswer(Bytes);
@@ -144,6 +150,7 @@ void FAnswerCall::AskForAnswer()
 
 void FAnswerCall::ReadAnswer(std::string_view Bytes)
 {
+	bAnswerBegan = true;
 	Reader.Feed(Bytes);
 	if (Reader.GetEnd())
 	{
@@ -161,7 +168,7 @@ void FAnswerCall::HandleAnswerEnded(const TOptional<FHttpFailure>& Failure)
 	}
 	else
 	{
-		OnEnded(MakeFailure(FailureText::Describe(*Failure)));
+		OnEnded(MakeEnd(*Failure));
 	}
 }
 
@@ -188,4 +195,12 @@ FHttpRequest FAnswerCall::MakeRequest(const TCHAR* Path) const
 	Request.Url = QUrl(ToQString(Base + Path));
 	Request.BearerToken = QByteArray::fromStdString(ToUtf8(Endpoint.ApiKey));
 	return Request;
+}
+
+FAnswerEnd FAnswerCall::MakeEnd(const FHttpFailure& Failure) const
+{
+	constexpr int32 PaymentRequired = 402;
+	const bool bNothingLeft = Failure.Kind == EHttpFailure::Status && Failure.Status == PaymentRequired;
+	const FText Text = Endpoint.Tokens ? FailureText::DescribeOfService(Failure, Endpoint.BillingUrl) : FailureText::Describe(Failure);
+	return FAnswerEnd{EAnswerEnd::Failed, Text, bAnswerBegan || bNothingLeft};
 }

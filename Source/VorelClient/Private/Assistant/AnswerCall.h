@@ -6,9 +6,15 @@
 #include "Assistant/AssistantEndpoint.h"
 #include "Assistant/ChatMessage.h"
 
-class FHttpCall;
+class FAuthorizedCall;
 struct FHttpFailure;
 struct FHttpRequest;
+
+enum class EChatMode : uint8
+{
+	Agent,
+	Chat
+};
 
 // Asks an assistant for the next message of a conversation, and for its first model before that where none is chosen.
 class FAnswerCall
@@ -23,7 +29,7 @@ public:
 	TFunction<void(const FString&)> OnText;
 	TFunction<void(const FAnswerEnd&)> OnEnded;
 
-	void Start(const TArray<FChatMessage>& InMessages);
+	void Start(const TArray<FChatMessage>& InMessages, EChatMode InMode);
 
 private:
 	void AskForModels();
@@ -33,11 +39,14 @@ private:
 	void HandleAnswerEnded(const TOptional<FHttpFailure>& Failure);
 	void Deliver();
 	FHttpRequest MakeRequest(const TCHAR* Path) const;
+	FAnswerEnd MakeEnd(const FHttpFailure& Failure) const;
 
 	FAssistantEndpoint& Endpoint;
 	FRequestLimits Limits;
 	TArray<FChatMessage> Messages;
-	TUniquePtr<FHttpCall> Http;
+	EChatMode Mode = EChatMode::Agent;
+	TUniquePtr<FAuthorizedCall> Http;
 	FAnswerReader Reader;
+	bool bAnswerBegan = false;
 	std::string Models;
 };

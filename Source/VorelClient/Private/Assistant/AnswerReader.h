@@ -12,6 +12,8 @@ struct FAnswerEnd
 	EAnswerEnd Kind = EAnswerEnd::Complete;
 	// For the user; only of a failed one.
 	FText Failure;
+	// Whether it may have cost something.
+	bool bMayHaveCost = true;
 };
 
 // Reads the body of a successful chat-completions reply. Takes what compatible servers really send: a stream with or without end mark,

@@ -5,6 +5,8 @@
 #include "CoreMinimal.h"
 #include "Http/RequestLimits.h"
 
+class IAccessTokenSource;
+
 // A chat-completions server.
 struct FAssistantEndpoint
 {
@@ -16,6 +18,11 @@ struct FAssistantEndpoint
 
 	// Sent to this server alone, and never logged. May be empty.
 	FString ApiKey;
+
+	// Of our own service: who hands over tokens for it, in place of a key, and where credits are to be had. Null for any other server,
+	// which is never given the one nor told the chat mode.
+	IAccessTokenSource* Tokens = nullptr;
+	FString BillingUrl;
 
 	// Why there is no server to ask, for the user. Empty where there is one.
 	FText Unavailable;

@@ -114,6 +114,20 @@ FText FailureText::Describe(const FHttpFailure& Failure)
 	return BrokenOff();
 }
 
+FText FailureText::DescribeOfService(const FHttpFailure& Failure, const FString& BillingUrl)
+{
+	switch (Failure.Kind == EHttpFailure::Status ? Failure.Status : 0)
+	{
+	case 401:
+		return LOCTEXT("SignInAgain", "Your login is no longer valid. Log out and sign in again.");
+	case 402:
+		return FText::Format(LOCTEXT("NoCredits", "You have no credits left for this mode. Get more at {0}, or take another mode."),
+			FText::FromString(BillingUrl));
+	default:
+		return Describe(Failure);
+	}
+}
+
 FText FailureText::BrokenOff()
 {
 	return LOCTEXT("BrokenOff", "The connection to the assistant broke off before the answer was complete.");

@@ -12,6 +12,8 @@ namespace FailureText
 // Of the connection itself.
 FText BadAddress(const FString& Address);
 FText Describe(const FHttpFailure& Failure);
+// Of our own service, which knows users and credits.
+FText DescribeOfService(const FHttpFailure& Failure, const FString& BillingUrl);
 FText BrokenOff();
 
 // Of what the server said. Detail is the server's own text and may be empty.

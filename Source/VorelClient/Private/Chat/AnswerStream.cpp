@@ -27,9 +27,9 @@ FAnswerStream::~FAnswerStream()
 	FTSTicker::RemoveTicker(Frame);
 }
 
-void FAnswerStream::Start(const TArray<FChatMessage>& Messages)
+void FAnswerStream::Start(const TArray<FChatMessage>& Messages, EChatMode Mode)
 {
-	Call.Start(Messages);
+	Call.Start(Messages, Mode);
 }
 
 void FAnswerStream::Cancel()

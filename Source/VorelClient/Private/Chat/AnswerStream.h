@@ -17,7 +17,7 @@ public:
 	TFunction<void(const FString&)> OnText;
 	TFunction<void(const FAnswerEnd&)> OnEnded;
 
-	void Start(const TArray<FChatMessage>& Messages);
+	void Start(const TArray<FChatMessage>& Messages, EChatMode Mode);
 
 	// Nothing fires from now on; the server is hung up on when the stream goes.
 	void Cancel();

@@ -194,7 +194,8 @@ void UHttpChatService::StartAnswer()
 	{
 		EndRequest(End);
 	};
-	Request->Stream->Start(MakeMessages());
+	const bool bAgent = IsChatModeNameAnAgent(Request->Conversation->ModeName);
+	Request->Stream->Start(MakeMessages(), bAgent ? EChatMode::Agent : EChatMode::Chat);
 }
 
 void UHttpChatService::HandleText(const FString& Text)
@@ -244,6 +245,10 @@ void UHttpChatService::EndRequest(const FAnswerEnd& End)
 	else
 	{
 		OnRequestCompleted.Broadcast();
+	}
+	if (End.bMayHaveCost && Endpoint.Tokens && OnCreditsSpent)
+	{
+		OnCreditsSpent();
 	}
 	if (bHistoryChangeWaits)
 	{

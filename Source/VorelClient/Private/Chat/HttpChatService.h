@@ -25,6 +25,9 @@ public:
 	// To be called once, before anything else. Without a file the conversations are kept for this run.
 	void Initialize(const FAssistantEndpoint& InEndpoint, const FRequestLimits& InLimits, const FString& StoreFile);
 
+	// An answer of our own service has ended, which may have cost credits.
+	TFunction<void()> OnCreditsSpent;
+
 	// Hangs up without telling anybody, and stores what is not stored yet; the service can send no more.
 	void Shutdown();
 

@@ -1,0 +1,48 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "VorelUserData.h"
+#include <string>
+
+class FAuthorizedCall;
+class IAccessTokenSource;
+
+// Whom to ask about the user.
+struct FUserDataSource
+{
+	// Without a slash at the end.
+	FString ServiceUrl{};
+	IAccessTokenSource* ServiceTokens = nullptr;
+
+	// Where another server signs users in, it knows their names: its address for that, empty where it has none, and its tokens.
+	TFunction<FString()> GetUserInfoUrl;
+	IAccessTokenSource* IssuerTokens = nullptr;
+};
+
+// Asks once what is known of the user. Destroying it hangs up.
+class FUserDataFetch
+{
+public:
+	explicit FUserDataFetch(const FUserDataSource& InSource);
+	~FUserDataFetch();
+
+	// Comes once, after Start has returned, and may destroy the fetch. Without data the problem says why, for the log.
+	TFunction<void(const TOptional<FVorelUserData>& Data, const FString& Problem)> OnDone;
+
+	void Start();
+
+private:
+	void Ask(const FString& Url, IAccessTokenSource* Tokens, FString (FUserDataFetch::*Read)());
+	FString ReadAccount();
+	FString ReadUserInfo();
+	void AskForName();
+	void End(const FString& Problem);
+
+	FUserDataSource Source;
+	FVorelUserData Data;
+	std::string Body;
+	bool bNameAsked = false;
+	TUniquePtr<FAuthorizedCall> Call;
+};

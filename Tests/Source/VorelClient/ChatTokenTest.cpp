@@ -1,0 +1,81 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "ClientFixture.h"
+#include "FakeAccount.h"
+
+#include <nlohmann/json.hpp>
+
+namespace
+{
+class FChatTokenTest : public FChatClientTest
+{
+protected:
+	FChatTokenTest()
+	{
+		Endpoint.ApiKey = TEXT("key");
+		Endpoint.Tokens = &Tokens;
+		Endpoint.BillingUrl = TEXT("http://service/billing");
+		Service().OnCreditsSpent = [this]
+		{
+			++NumSpent;
+		};
+	}
+
+	void Refuse(const QByteArray& Status)
+	{
+		Server.Then([Status](const FExchange& Exchange)
+			{ Exchange.SendReply(Status, "application/json", R"({"error":{"message":"no","type":"t","code":"c"}})"); });
+	}
+
+	// Of each request so far: the token, and the mode where one was sent.
+	FString GetRequests() const
+	{
+		FString Requests;
+		for (const FExchange& Exchange : Server.GetExchanges())
+		{
+			const auto Body = nlohmann::json::parse(Exchange.Body.toStdString());
+			const auto Mode = Body.contains("metadata") ? Body["metadata"]["vorel_mode"].get<std::string>() : std::string();
+			Requests += FString((Exchange.Headers.value("authorization").toStdString() + " " + Mode + ";").c_str());
+		}
+		return Requests;
+	}
+
+	FFakeTokens Tokens{{TEXT("one"), TEXT("two")}};
+	int32 NumSpent = 0;
+};
+} // namespace
+
+TEST_F(FChatTokenTest, RenewsTheTokenOnceAndTellsTheMode)
+{
+	Refuse("401 Unauthorized");
+	Server.Then(Answer("Yes."));
+	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* chunk(Yes.)* answer(Yes.) completed"));
+	EXPECT_TEXT(GetRequests(), TEXT("Bearer one agent;Bearer two agent;"));
+	EXPECT_EQ(Tokens.Refused, (TArray<FString>{FString(), TEXT("one")}));
+	EXPECT_EQ(NumSpent, 1);
+}
+
+TEST_F(FChatTokenTest, AsksToSignInAgainWhereNoTokenIsTaken)
+{
+	Refuse("401 Unauthorized");
+	Refuse("401 Unauthorized");
+	const FString Failed = TEXT("failed(Your login is no longer valid. Log out and sign in again.)");
+	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* ") + Failed);
+	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("user(Hi)* ") + Failed);
+	EXPECT_TEXT(GetRequests(), TEXT("Bearer one agent;Bearer two agent;"));
+	EXPECT_EQ(NumSpent, 0);
+}
+
+TEST_F(FChatTokenTest, NamesCreditsAndWhereToGetThem)
+{
+	Service().SetCurrentChatMode(TEXT("Ask"));
+	TakeEvents();
+	Refuse("402 Payment Required");
+	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* failed(You have no credits left for this mode. Get more at "
+									"http://service/billing, or take another mode.)"));
+	EXPECT_TEXT(GetRequests(), TEXT("Bearer one chat;"));
+	EXPECT_EQ(NumSpent, 1);
+	Refuse("500 Internal Server Error");
+	Ask(TEXT("Hi"));
+	EXPECT_EQ(NumSpent, 1);
+}

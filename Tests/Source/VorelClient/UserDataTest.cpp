@@ -1,0 +1,172 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "ClientFixture.h"
+#include "FakeAccount.h"
+
+#include "Misc/CoreDelegates.h"
+#include "UserData/VorelUserDataService.h"
+
+namespace
+{
+FScriptedServer::FHandler Reply(const QByteArray& Json, const QByteArray& Status = "200 OK")
+{
+	return [Json, Status](const FExchange& Exchange)
+	{
+		Exchange.SendReply(Status, "application/json", Json);
+	};
+}
+
+QByteArray MakeUser(int Credits)
+{
+	return "{\"name\":\"Ada\\n L.\",\"email\":\"a@b\",\"credits\":" + QByteArray::number(Credits) + ",\"roles\":[\"user\",7,\"beta\"]}";
+}
+
+class FUserDataTest : public testing::Test
+{
+protected:
+	~FUserDataTest() override
+	{
+		Users->Shutdown();
+		Users->RemoveFromRoot();
+		Authentication->RemoveFromRoot();
+		CollectGarbage();
+	}
+
+	// Name, mail, credits and roles of every success, or "failed".
+	UVorelUserDataService& Start()
+	{
+		Users->AddToRoot();
+		Authentication->AddToRoot();
+		Users->OnUserDataChanged.AddLambda(
+			[this](const FVorelUserData& Data, bool bSuccess)
+			{
+				EXPECT_TRUE(!bSuccess || Users->UserData.UserName.Equals(Data.UserName));
+				Told += bSuccess ? FString::Printf(TEXT("%s %s %d %s;"), *Data.UserName, *Data.Email, Data.Credits,
+									   *FString::Join(Data.Entitlements, TEXT("+")))
+								 : TEXT("failed;");
+			});
+		Users->Initialize({FString(Server.GetAddress().constData()), &Tokens, GetUserInfoUrl, &IssuerTokens}, *Authentication);
+		return *Users;
+	}
+
+	bool WaitUntilTold(const FString& Expected)
+	{
+		return PumpUntil([&] { return Told.Len() >= Expected.Len(); }) && Told.Equals(Expected);
+	}
+
+	bool WaitForRequests(int32 Number)
+	{
+		return PumpUntil([&] { return Server.GetExchanges().size() >= Number; }) && Server.GetExchanges().size() == Number;
+	}
+
+	FScriptedServer Server;
+	FFakeTokens Tokens{{TEXT("1"), TEXT("2"), TEXT("3"), TEXT("4"), TEXT("5"), TEXT("6"), TEXT("7"), TEXT("8")}};
+	FFakeTokens IssuerTokens{{TEXT("foreign")}};
+	TFunction<FString()> GetUserInfoUrl;
+	FString Told;
+	UVorelUserDataService* Users = NewObject<UVorelUserDataService>();
+	UFakeAuthentication* Authentication = NewObject<UFakeAuthentication>();
+};
+} // namespace
+
+TEST_F(FUserDataTest, JoinsCallsRenewsTheTokenAndTellsInAFrame)
+{
+	Server.Then(Reply("{}", "401 Unauthorized"));
+	Server.Then(Reply(MakeUser(7)));
+	Start().GetUserData();
+	Users->GetUserData();
+	ASSERT_TRUE(WaitForFrameRequest());
+	EXPECT_TEXT(Told, TEXT(""));
+	Users->GetUserData();
+	EXPECT_TRUE(WaitUntilTold(TEXT("Ada L. a@b 7 user+beta;"))) << Told;
+	EXPECT_EQ(Server.GetExchanges()[1].Path, "/v1/user");
+	EXPECT_EQ(Server.GetExchanges()[1].Headers["authorization"], "Bearer 2");
+	EXPECT_EQ(Server.GetExchanges().size(), 2);
+	EXPECT_TEXT(Tokens.Refused[1], TEXT("1"));
+}
+
+TEST_F(FUserDataTest, TellsAFailureOnceAndTriesAgainEverLaterAndThenNoMore)
+{
+	for (const char* const Bad : {"{\"name\":\"Ada\"}", "[7]", "<html>", "", "{\"credits\":\"7\"}", "null"})
+	{
+		Server.Then(Reply(Bad));
+	}
+	Start().GetUserData();
+	ASSERT_TRUE(WaitUntilTold(TEXT("failed;"))) << Told;
+	int32 NumAsked = 1;
+	for (const float Pause : {2.0f, 5.0f, 15.0f, 30.0f, 60.0f})
+	{
+		FTSTicker& Ticker = FTSTicker::GetCoreTicker();
+		Ticker.Tick(Pause - 1.0f);
+		EXPECT_EQ(Server.GetExchanges().size(), NumAsked);
+		Ticker.Tick(1.0f);
+		ASSERT_TRUE(WaitForRequests(++NumAsked)) << Pause;
+		ASSERT_TRUE(WaitForFrameRequest());
+		Ticker.Tick(0.0f);
+	}
+	EXPECT_FALSE(FTSTicker::GetCoreTicker().GetTimeToNextTick().IsSet());
+	EXPECT_TEXT(Told, TEXT("failed;"));
+	Server.Then(Reply("{}", "500 Internal Server Error"));
+	Users->GetUserData();
+	EXPECT_TRUE(WaitUntilTold(TEXT("failed;failed;"))) << Told;
+}
+
+TEST_F(FUserDataTest, DropsWhatASignedOutSessionAskedFor)
+{
+	Server.Then(Reply(MakeUser(7)));
+	Server.Then(Reply(MakeUser(8)));
+	Start().GetUserData();
+	ASSERT_TRUE(WaitUntilTold(TEXT("Ada L. a@b 7 user+beta;")));
+	Told.Reset();
+	Users->GetUserData();
+	ASSERT_TRUE(WaitForFrameRequest());
+	Authentication->Logout();
+	Users->GetUserData();
+	Users->AskAgain();
+	FTSTicker::GetCoreTicker().Tick(100.0f);
+	EXPECT_TEXT(Told, TEXT(""));
+	EXPECT_TRUE(Users->UserData.UserName.IsEmpty());
+	EXPECT_EQ(Server.GetExchanges().size(), 2);
+}
+
+TEST_F(FUserDataTest, AsksAgainAfterAnAnswerAndOnReturnWithoutCredits)
+{
+	Server.Then(Reply(MakeUser(1)));
+	Server.Then(Reply(MakeUser(0)));
+	Server.Then(Reply(MakeUser(9)));
+	const auto ReturnToWindow = []
+	{
+		FCoreDelegates::ApplicationHasReactivatedDelegate.Broadcast();
+	};
+	Start();
+	ReturnToWindow();
+	Users->GetUserData();
+	ASSERT_TRUE(WaitForRequests(1));
+	Users->AskAgain();
+	ASSERT_TRUE(WaitUntilTold(TEXT("Ada L. a@b 1 user+beta;Ada L. a@b 0 user+beta;"))) << Told;
+	ReturnToWindow();
+	ASSERT_TRUE(WaitUntilTold(TEXT("Ada L. a@b 1 user+beta;Ada L. a@b 0 user+beta;Ada L. a@b 9 user+beta;"))) << Told;
+	ReturnToWindow();
+	PumpUntil([] { return true; });
+	EXPECT_EQ(Server.GetExchanges().size(), 3);
+}
+
+TEST_F(FUserDataTest, TakesTheNameFromAForeignIssuerAndTheCreditsFromTheService)
+{
+	FString Path = TEXT("/userinfo");
+	GetUserInfoUrl = [&]
+	{
+		return Path.IsEmpty() ? Path : FString(Server.GetAddress().constData()) + Path;
+	};
+	Server.Then(Reply(R"({"name":"","credits":5000000000})"));
+	Server.Then(Reply(R"({"sub":"42","preferred_username":"grace","email":"g@h"})"));
+	Start().GetUserData();
+	ASSERT_TRUE(WaitUntilTold(TEXT("grace g@h 2147483647 ;"))) << Told;
+	EXPECT_EQ(Server.GetExchanges()[1].Headers["authorization"], "Bearer foreign");
+
+	// One that tells nothing of its users.
+	Path.Empty();
+	Server.Then(Reply(R"({"name":"","credits":-1})"));
+	Users->GetUserData();
+	EXPECT_TRUE(WaitUntilTold(TEXT("grace g@h 2147483647 ;Signed-in user  0 ;"))) << Told;
+}
