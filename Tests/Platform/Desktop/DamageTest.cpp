@@ -23,7 +23,7 @@ TEST(Damage, RepaintingWhatChangedIsAsGoodAsRepaintingAll)
 		const TSharedRef<SHorizontalBox> Columns = SNew(SHorizontalBox);
 		for (int Column = 0; Column < 5; ++Column)
 		{
-			Probes.Add(SNew(SProbe));
+			Probes.Add(SNew(SProbe).Size(FVector2D(40.0, 20.0)));
 			Columns->AddSlot().AutoWidth().Padding(1.3f)[Probes.Last()];
 		}
 		Rows->AddSlot().AutoHeight()[Columns];

@@ -18,6 +18,9 @@ TEST(Desktop, OnlyWebAndMailAddressesAreOpened)
 		EXPECT_FALSE(Desktop.OpenAddress(Address, Error)) << FString(Address);
 		EXPECT_FALSE(Error.IsEmpty());
 	}
+	const FLogCapture Log;
+	FPlatformProcess::LaunchURL(TEXT("calc.exe"), nullptr, nullptr);
+	EXPECT_TRUE(Log.Dump().Contains(TEXT("LogPlatform: Warning: Can't open the address calc.exe: "))) << Log.Dump();
 	EXPECT_EQ(Desktop.GetOpenedAddresses().Num(), Before);
 
 	FPlatformProcess::LaunchURL(TEXT("https://example.com/tos?a=b#c"), nullptr, nullptr);

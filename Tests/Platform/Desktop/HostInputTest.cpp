@@ -2,7 +2,6 @@
 
 #include "HostSupport.h"
 #include "Support/Printers.h"
-#include "Widgets/Layout/SBox.h"
 #include "Widgets/SBoxPanel.h"
 
 #include <QInputMethodEvent>
@@ -20,111 +19,99 @@ protected:
 		Host.Mouse(QEvent::MouseButtonRelease, Position, Button, Qt::NoButton);
 	}
 
-	TSharedRef<SProbe> Probe = SNew(SProbe);
+	void Send(QEvent&& Event) { QApplication::sendEvent(&Host.Widget, &Event); }
+	QVariant AskInputMethod(Qt::InputMethodQuery Query) { return Host.Widget.inputMethodQuery(Query); }
+	QColor ColorAt(int X, int Y) { return Host.Widget.GetPicture().pixelColor(X, Y); }
+
+	TSharedRef<SProbe> Probe = SNew(SProbe).Focusable(true).Greedy(true);
 	FTestHost Host{Probe};
 };
 } // namespace
 
 TEST_F(HostInput, MouseButtonsArriveByNameAndPlace)
 {
+	Host.Mouse(QEvent::MouseMove, QPointF(10.5, 20.0), Qt::NoButton, Qt::NoButton);
+	Probe->TakeEvents();
 	Click(QPointF(10.5, 20.0));
+	EXPECT_EQ(Probe->TakeEvents(), TEXT("down LeftMouseButton, focus, up LeftMouseButton, lost capture"));
+	EXPECT_EQ(Probe->LastPointerEvent.GetScreenSpacePosition(), FVector2D(10.5, 20.0));
 	Click(QPointF(10.5, 20.0), Qt::MiddleButton);
 	Click(QPointF(10.5, 20.0), Qt::RightButton);
 	Click(QPointF(10.5, 20.0), Qt::BackButton);
-	EXPECT_EQ(Probe->TakeEvents(), SProbe::FEvents({"down LeftMouseButton", "focus", "up LeftMouseButton", "down MiddleMouseButton",
-									   "up MiddleMouseButton", "down RightMouseButton", "up RightMouseButton"}));
-	EXPECT_EQ(Probe->PointerEvents[0].GetScreenSpacePosition(), FVector2D(10.5, 20.0));
-}
-
-TEST_F(HostInput, ADoubleClickIsTold)
-{
-	Click(QPointF(5.0, 5.0));
+	EXPECT_EQ(Probe->TakeEvents(), TEXT("down MiddleMouseButton, up MiddleMouseButton, lost capture, "
+										"down RightMouseButton, up RightMouseButton, lost capture"));
 	Host.Mouse(QEvent::MouseButtonDblClick, QPointF(5.0, 5.0), Qt::LeftButton, Qt::LeftButton, Qt::ShiftModifier);
-	EXPECT_EQ(Probe->TakeEvents().back(), "double LeftMouseButton");
-	EXPECT_TRUE(Probe->PointerEvents.Last().IsShiftDown());
+	EXPECT_EQ(Probe->TakeEvents(), TEXT("double LeftMouseButton"));
+	EXPECT_TRUE(Probe->LastPointerEvent.IsShiftDown());
+	Send(QEvent(QEvent::Leave));
+	EXPECT_EQ(Probe->TakeEvents(), TEXT("leave"));
 }
 
 TEST_F(HostInput, ADragGoesOnBeyondTheEdge)
 {
 	Host.Mouse(QEvent::MouseButtonPress, QPointF(50.0, 25.0), Qt::LeftButton, Qt::LeftButton);
+	Probe->TakeEvents();
 	Host.Mouse(QEvent::MouseMove, QPointF(150.0, -40.0), Qt::NoButton, Qt::LeftButton);
-	EXPECT_EQ(Probe->TakeEvents().back(), "move");
-	EXPECT_EQ(Probe->PointerEvents.Last().GetScreenSpacePosition(), FVector2D(150.0, -40.0));
-	Host.Mouse(QEvent::MouseButtonRelease, QPointF(150.0, -40.0), Qt::LeftButton, Qt::NoButton);
-	EXPECT_EQ(Probe->TakeEvents().front(), "up LeftMouseButton");
+	EXPECT_TRUE(Probe->TakeEvents().EndsWith(TEXT("move")));
+	EXPECT_EQ(Probe->LastPointerEvent.GetScreenSpacePosition(), FVector2D(150.0, -40.0));
 }
 
 TEST_F(HostInput, TheWheelTurnsInPartsOfANotch)
 {
-	QWheelEvent Event(QPointF(20.0, 20.0), Host.Widget.mapToGlobal(QPointF(20.0, 20.0)), QPoint(), QPoint(0, -30), Qt::NoButton,
-		Qt::ControlModifier, Qt::NoScrollPhase, false);
-	QApplication::sendEvent(&Host.Widget, &Event);
-	EXPECT_EQ(Probe->TakeEvents(), SProbe::FEvents({"wheel"}));
-	EXPECT_FLOAT_EQ(Probe->PointerEvents.Last().GetWheelDelta(), -0.25f);
-	EXPECT_TRUE(Probe->PointerEvents.Last().IsControlDown());
-}
-
-TEST_F(HostInput, LeavingIsTold)
-{
-	Host.Mouse(QEvent::MouseMove, QPointF(20.0, 20.0), Qt::NoButton, Qt::NoButton);
-	Probe->TakeEvents();
-	QEvent Leave(QEvent::Leave);
-	QApplication::sendEvent(&Host.Widget, &Leave);
-	EXPECT_EQ(Probe->TakeEvents(), SProbe::FEvents({"leave"}));
+	Send(QWheelEvent(QPointF(20.0, 20.0), Host.Widget.mapToGlobal(QPointF(20.0, 20.0)), QPoint(), QPoint(0, -30), Qt::NoButton,
+		Qt::ControlModifier, Qt::NoScrollPhase, false));
+	EXPECT_TRUE(Probe->TakeEvents().EndsWith(TEXT("wheel")));
+	EXPECT_FLOAT_EQ(Probe->LastPointerEvent.GetWheelDelta(), -0.25f);
+	EXPECT_TRUE(Probe->LastPointerEvent.IsControlDown());
 }
 
 TEST_F(HostInput, KeysCommandAndWrite)
 {
 	FSlateApplication::Get().SetKeyboardFocus(Probe);
 	Probe->TakeEvents();
-	const auto Press = [this](Qt::Key Key, Qt::KeyboardModifiers Modifiers, const QString& Text)
+	const struct
 	{
-		EXPECT_TRUE(Host.Key(QEvent::KeyPress, Key, Modifiers, Text));
-		return Probe->TakeEvents();
+		Qt::Key Key;
+		Qt::KeyboardModifiers Modifiers;
+		QString Text;
+		const TCHAR* Events;
+	} Cases[] = {
+		{Qt::Key_A, Qt::NoModifier, "a", TEXT("key A, char 61")},
+		{Qt::Key_A, Qt::ControlModifier, "\x01", TEXT("key A")},
+		{Qt::Key_Return, Qt::ShiftModifier, "\r", TEXT("key Enter")},
+		{Qt::Key_Enter, Qt::KeypadModifier, "\r", TEXT("key Enter")},
+		{Qt::Key_Tab, Qt::NoModifier, "\t", TEXT("key Tab")},
+		{Qt::Key_PageDown, Qt::NoModifier, "", TEXT("key PageDown")},
+		{Qt::Key_At, Qt::ControlModifier | Qt::AltModifier, "@", TEXT("key None, char 40")},
+		{Qt::Key_unknown, Qt::NoModifier, QString::fromUcs4(U"\U0001F600"), TEXT("key None, char d83d, char de00")},
 	};
-	EXPECT_EQ(Press(Qt::Key_A, Qt::NoModifier, "a"), SProbe::FEvents({"key A", "char 61"}));
-	EXPECT_EQ(Press(Qt::Key_A, Qt::ControlModifier, "\x01"), SProbe::FEvents({"key A"}));
-	EXPECT_EQ(Press(Qt::Key_Return, Qt::ShiftModifier, "\r"), SProbe::FEvents({"key Enter"}));
-	EXPECT_EQ(Press(Qt::Key_Enter, Qt::KeypadModifier, "\r"), SProbe::FEvents({"key Enter"}));
-	EXPECT_EQ(Press(Qt::Key_Tab, Qt::NoModifier, "\t"), SProbe::FEvents({"key Tab"}));
-	EXPECT_EQ(Press(Qt::Key_PageDown, Qt::NoModifier, ""), SProbe::FEvents({"key PageDown"}));
-	EXPECT_EQ(Press(Qt::Key_At, Qt::ControlModifier | Qt::AltModifier, "@").back(), "char 40");
-	EXPECT_EQ(
-		Press(Qt::Key_unknown, Qt::NoModifier, QString::fromUcs4(U"\U0001F600")), SProbe::FEvents({"key None", "char d83d", "char de00"}));
+	for (const auto& Case : Cases)
+	{
+		EXPECT_TRUE(Host.Key(QEvent::KeyPress, Case.Key, Case.Modifiers, Case.Text));
+		EXPECT_EQ(Probe->TakeEvents(), Case.Events);
+	}
 	Host.Key(QEvent::KeyRelease, Qt::Key_A);
-	EXPECT_EQ(Probe->TakeEvents(), SProbe::FEvents({"keyup A"}));
-}
-
-TEST_F(HostInput, KeysThatNobodyTakesAreLeftToTheMenus)
-{
+	EXPECT_EQ(Probe->TakeEvents(), TEXT("keyup A"));
 	FSlateApplication::Get().ClearKeyboardFocus();
-	EXPECT_FALSE(Host.Key(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier));
+	EXPECT_FALSE(Host.Key(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier)) << "left to the menus";
 }
 
-TEST_F(HostInput, ShortcutsOfMenusWaitWhileTextIsEdited)
+TEST_F(HostInput, InputMethodsComposeAtTheCaretAndShortcutsOfMenusWait)
 {
+	FSlateApplication::Get().SetKeyboardFocus(Probe);
+	EXPECT_FALSE(AskInputMethod(Qt::ImEnabled).toBool());
 	EXPECT_FALSE(Host.Key(QEvent::ShortcutOverride, Qt::Key_A, Qt::ControlModifier));
 	FDesktopApplication::Get().SetTextInputArea(true, FSlateRect(10.0f, 10.0f, 11.0f, 30.0f));
+	EXPECT_TRUE(AskInputMethod(Qt::ImEnabled).toBool());
+	EXPECT_EQ(AskInputMethod(Qt::ImCursorRectangle).toRectF(), QRectF(10.0, 10.0, 1.0, 20.0));
 	EXPECT_TRUE(Host.Key(QEvent::ShortcutOverride, Qt::Key_A, Qt::ControlModifier));
 	EXPECT_TRUE(Host.Key(QEvent::ShortcutOverride, Qt::Key_Q, Qt::NoModifier, "q"));
 	EXPECT_FALSE(Host.Key(QEvent::ShortcutOverride, Qt::Key_F4, Qt::AltModifier));
-	FDesktopApplication::Get().SetTextInputArea(false, FSlateRect());
-}
 
-TEST_F(HostInput, InputMethodsComposeAtTheCaret)
-{
-	FSlateApplication::Get().SetKeyboardFocus(Probe);
-	EXPECT_FALSE(Host.Widget.inputMethodQuery(Qt::ImEnabled).toBool());
-	FDesktopApplication::Get().SetTextInputArea(true, FSlateRect(10.0f, 10.0f, 11.0f, 30.0f));
-	EXPECT_TRUE(Host.Widget.inputMethodQuery(Qt::ImEnabled).toBool());
-	EXPECT_EQ(Host.Widget.inputMethodQuery(Qt::ImCursorRectangle).toRectF(), QRectF(10.0, 10.0, 1.0, 20.0));
-
-	QInputMethodEvent Compose(QStringLiteral("\u306b\u307b"), {QInputMethodEvent::Attribute(QInputMethodEvent::Cursor, 1, 1, QVariant())});
-	QApplication::sendEvent(&Host.Widget, &Compose);
+	Send(QInputMethodEvent(QStringLiteral("\u306b\u307b"), {QInputMethodEvent::Attribute(QInputMethodEvent::Cursor, 1, 1, QVariant())}));
 	EXPECT_EQ(Probe->Composition.Composition, FString(TEXT("\u306b\u307b")));
 	EXPECT_EQ(Probe->Composition.CaretInComposition, 1);
 	EXPECT_TRUE(Probe->Composition.Commit.IsEmpty());
-
 	QInputMethodEvent Commit;
 	Commit.setCommitString(QStringLiteral("\u65e5\u672c"), -2, 2);
 	QApplication::sendEvent(&Host.Widget, &Commit);
@@ -132,72 +119,60 @@ TEST_F(HostInput, InputMethodsComposeAtTheCaret)
 	EXPECT_EQ(Probe->Composition.Commit, FString(TEXT("\u65e5\u672c")));
 	EXPECT_EQ(Probe->Composition.ReplaceFrom, -2);
 	EXPECT_EQ(Probe->Composition.ReplaceLength, 2);
-}
 
-TEST_F(HostInput, ATextAreaSetBeforeAnyInputIsNotLost)
-{
+	// An area that is set before any input is not lost.
 	FDesktopApplication::Get().SetTextInputArea(false, FSlateRect());
 	FDesktopApplication::Get().ForgetHost(&Host.Widget);
 	FDesktopApplication::Get().SetTextInputArea(true, FSlateRect(10.0f, 10.0f, 11.0f, 30.0f));
-	EXPECT_FALSE(Host.Widget.inputMethodQuery(Qt::ImEnabled).toBool());
+	EXPECT_FALSE(AskInputMethod(Qt::ImEnabled).toBool());
 	Host.Mouse(QEvent::MouseMove, QPointF(20.0, 20.0), Qt::NoButton, Qt::NoButton);
-	EXPECT_TRUE(Host.Widget.inputMethodQuery(Qt::ImEnabled).toBool());
+	EXPECT_TRUE(AskInputMethod(Qt::ImEnabled).toBool());
 	FDesktopApplication::Get().SetTextInputArea(false, FSlateRect());
 }
 
 TEST_F(HostInput, TheFocusComesBackWithTheWindow)
 {
 	FSlateApplication::Get().SetKeyboardFocus(Probe);
-	QFocusEvent Out(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-	QApplication::sendEvent(&Host.Widget, &Out);
+	Send(QFocusEvent(QEvent::FocusOut, Qt::ActiveWindowFocusReason));
 	EXPECT_FALSE(Probe->HasKeyboardFocus());
-	QFocusEvent In(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
-	QApplication::sendEvent(&Host.Widget, &In);
+	Send(QFocusEvent(QEvent::FocusIn, Qt::ActiveWindowFocusReason));
 	EXPECT_TRUE(Probe->HasKeyboardFocus());
-
-	QFocusEvent Menu(QEvent::FocusOut, Qt::PopupFocusReason);
-	QApplication::sendEvent(&Host.Widget, &Menu);
+	Send(QFocusEvent(QEvent::FocusOut, Qt::PopupFocusReason));
 	EXPECT_TRUE(Probe->HasKeyboardFocus());
 }
 
-TEST_F(HostInput, TheCursorHasTheShapeOfWhatIsUnderIt)
+TEST_F(HostInput, TheCursorHasTheShapeOfWhatIsUnderItAndTheWindowFollowsTheSize)
 {
-	Probe->SetCursor(EMouseCursor::TextEditBeam);
-	Host.Mouse(QEvent::MouseMove, QPointF(20.0, 20.0), Qt::NoButton, Qt::NoButton);
-	EXPECT_EQ(Host.Widget.cursor().shape(), Qt::IBeamCursor);
-	Probe->SetCursor(EMouseCursor::Hand);
-	Host.Mouse(QEvent::MouseMove, QPointF(21.0, 20.0), Qt::NoButton, Qt::NoButton);
-	EXPECT_EQ(Host.Widget.cursor().shape(), Qt::PointingHandCursor);
-}
-
-TEST_F(HostInput, TheWindowFollowsTheSize)
-{
+	for (const auto& [Cursor, Shape] :
+		{std::pair(EMouseCursor::TextEditBeam, Qt::IBeamCursor), {EMouseCursor::Hand, Qt::PointingHandCursor}})
+	{
+		Probe->SetCursor(Cursor);
+		Host.Mouse(QEvent::MouseMove, QPointF(20.0, 20.0), Qt::NoButton, Qt::NoButton);
+		EXPECT_EQ(Host.Widget.cursor().shape(), Shape);
+	}
 	Host.Widget.resize(240, 130);
-	EXPECT_EQ(Host.Widget.GetPicture().pixelColor(99, 49), QColor(Qt::white)) << "shown until the next frame";
+	EXPECT_EQ(ColorAt(99, 49), QColor(Qt::white)) << "shown until the next frame";
 	RunFrames();
 	EXPECT_EQ(Host.Window->GetClientSizeInPixels(), FVector2D(240.0, 130.0));
-	EXPECT_EQ(Host.Widget.GetPicture().size(), QSize(240, 130));
-	EXPECT_EQ(Host.Widget.GetPicture().pixelColor(239, 129), QColor(Qt::white));
+	EXPECT_EQ(ColorAt(239, 129), QColor(Qt::white));
 }
 
 // Run by the test below in a process of its own, since the scale is one of the process.
 TEST_F(HostInput, DISABLED_AtOneAndAHalf)
 {
-	ASSERT_EQ(Host.Widget.devicePixelRatioF(), 1.5);
 	EXPECT_EQ(Host.Window->GetDPIScaleFactor(), 1.5f);
 	EXPECT_EQ(Host.Window->GetClientSizeInPixels(), FVector2D(150.0, 75.0));
-	EXPECT_EQ(Host.Widget.GetPicture().size(), QSize(150, 75));
-	EXPECT_EQ(Host.Widget.GetPicture().pixelColor(149, 74), QColor(Qt::white));
-	EXPECT_EQ(Host.Widget.grab().toImage().pixelColor(149, 74), QColor(Qt::white));
 	Click(QPointF(10.0, 20.0));
-	EXPECT_EQ(Probe->PointerEvents[0].GetScreenSpacePosition(), FVector2D(15.0, 30.0));
+	EXPECT_EQ(Probe->LastPointerEvent.GetScreenSpacePosition(), FVector2D(15.0, 30.0));
 	FDesktopApplication::Get().SetTextInputArea(true, FSlateRect(15.0f, 15.0f, 18.0f, 45.0f));
-	EXPECT_EQ(Host.Widget.inputMethodQuery(Qt::ImCursorRectangle).toRectF(), QRectF(10.0, 10.0, 2.0, 20.0));
+	EXPECT_EQ(AskInputMethod(Qt::ImCursorRectangle).toRectF(), QRectF(10.0, 10.0, 2.0, 20.0));
 
-	Host.Window->SetContent(SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth()[SNew(SBox).WidthOverride(50.0f)[Probe]]);
+	Probe->SetSize(FVector2D(50.0, 20.0));
+	Host.Window->SetContent(SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth()[Probe]);
 	RunFrames();
 	for (const QImage& Picture : {Host.Widget.GetPicture(), Host.Widget.grab().toImage()})
 	{
+		EXPECT_EQ(Picture.size(), QSize(150, 75));
 		EXPECT_EQ(Picture.pixelColor(74, 40), QColor(Qt::white));
 		EXPECT_NE(Picture.pixelColor(75, 40), QColor(Qt::white));
 	}

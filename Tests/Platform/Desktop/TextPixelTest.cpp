@@ -19,49 +19,39 @@ static double MeasureDetail(const QImage& Picture)
 
 static bool HasColor(const QImage& Picture)
 {
-	for (int Row = 0; Row < Picture.height(); ++Row)
+	for (int Pixel = 0; Pixel < Picture.width() * Picture.height(); ++Pixel)
 	{
-		for (int Column = 0; Column < Picture.width(); ++Column)
+		const QRgb Color = Picture.pixel(Pixel % Picture.width(), Pixel / Picture.width());
+		if (QColor(Color).saturation() > 128 && qGray(Color) > 64)
 		{
-			if (QColor(Picture.pixel(Column, Row)).saturation() > 128 && qGray(Picture.pixel(Column, Row)) > 64)
-			{
-				return true;
-			}
+			return true;
 		}
 	}
 	return false;
 }
 
+static QImage Draw(const TCHAR* Text, const FLinearColor& Tint, double Top = 2.0, float Scale = 1.0f)
+{
+	return FCanvas(200, 30, Scale).Text(FVector2D(2.0, Top), Text, FontOf(TEXT("Black"), 12.0f), Tint).Paint();
+}
+
 TEST(TextPixels, TwiceTheScaleHasMoreDetailThanTwiceThePicture)
 {
-	const auto Draw = [](float Scale)
-	{
-		return FCanvas(200, 24, Scale).Text(FVector2D(2.0, 2.0), TEXT("The quick brown fox"), FontOf(TEXT("Regular"), 10.0f)).Paint();
-	};
-	const QImage Doubled = Draw(1.0f).scaled(400, 48, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-	const QImage Drawn = Draw(2.0f);
-	ASSERT_EQ(Drawn.size(), Doubled.size());
-	EXPECT_GT(MeasureDetail(Drawn), 1.5 * MeasureDetail(Doubled));
+	const TCHAR* const Text = TEXT("The quick brown fox");
+	const QImage Doubled = Draw(Text, FLinearColor::White).scaled(400, 60, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+	EXPECT_GT(MeasureDetail(Draw(Text, FLinearColor::White, 2.0, 2.0f)), 1.5 * MeasureDetail(Doubled));
 }
 
-TEST(TextPixels, TextTakesItsTint)
+TEST(TextPixels, TextTakesItsTintAndEmojiTheAlphaAlone)
 {
-	const FLinearColor Red(1.0f, 0.0f, 0.0f);
-	EXPECT_FALSE(HasColor(FCanvas(60, 24).Text(FVector2D(2.0, 2.0), TEXT("MMMM"), FontOf(TEXT("Black"), 12.0f)).Paint()));
-	EXPECT_TRUE(HasColor(FCanvas(60, 24).Text(FVector2D(2.0, 2.0), TEXT("MMMM"), FontOf(TEXT("Black"), 12.0f), Red).Paint()));
-}
-
-TEST(TextPixels, EmojiKeepTheirColorsAndTakeTheAlpha)
-{
-	const auto Draw = [](const FLinearColor& Tint)
-	{
-		return FCanvas(40, 40).Text(FVector2D(2.0, 2.0), TEXT("\U0001F600"), FontOf(TEXT("Regular"), 20.0f), Tint).Paint();
-	};
-	const QImage White = Draw(FLinearColor::White);
+	EXPECT_FALSE(HasColor(Draw(TEXT("MMMM"), FLinearColor::White)));
+	EXPECT_TRUE(HasColor(Draw(TEXT("MMMM"), FLinearColor::Red)));
+	const TCHAR* const Emoji = TEXT("\U0001F600");
+	const QImage White = Draw(Emoji, FLinearColor::White);
 	EXPECT_TRUE(HasColor(White));
-	EXPECT_EQ(White, Draw(FLinearColor(0.0f, 0.0f, 1.0f)));
-	EXPECT_NE(White, Draw(FLinearColor(1.0f, 1.0f, 1.0f, 0.5f)));
-	EXPECT_EQ(FCanvas(40, 40).Paint(), Draw(FLinearColor::Transparent));
+	EXPECT_EQ(White, Draw(Emoji, FLinearColor(0.0f, 0.0f, 1.0f)));
+	EXPECT_NE(White, Draw(Emoji, FLinearColor(1.0f, 1.0f, 1.0f, 0.5f)));
+	EXPECT_EQ(Draw(TEXT(""), FLinearColor::White), Draw(Emoji, FLinearColor::Transparent));
 }
 
 TEST(TextPixels, TheBaselineLiesOnAWholePixel)
@@ -69,7 +59,7 @@ TEST(TextPixels, TheBaselineLiesOnAWholePixel)
 	// A letter with a flat foot ends in one row, whatever fraction its line begins at.
 	for (const double Top : {2.0, 2.3, 2.5, 2.8})
 	{
-		const QImage Picture = FCanvas(30, 30).Text(FVector2D(2.0, Top), TEXT("HHH"), FontOf(TEXT("Black"), 12.0f)).Paint();
+		const QImage Picture = Draw(TEXT("HHH"), FLinearColor::White, Top);
 		const int Ground = qGray(Picture.pixel(0, 0));
 		int Faint = 0;
 		for (int Row = 0; Row < Picture.height(); ++Row)

@@ -14,44 +14,30 @@ protected:
 	}
 
 	FTimerManager Timers;
+	FTimerHandle Handle;
+	FTimerHandle Other;
 	FString Log;
 };
 
-TEST_F(TimerManagerTest, FiresOnceAfterItsDelay)
+TEST_F(TimerManagerTest, FiresOnceAfterItsDelayHoweverManyFramesItTakes)
 {
-	FTimerHandle Handle;
-	EXPECT_FALSE(Handle.IsValid());
-	Timers.SetTimer(Handle, Note(TEXT("x")), 10.0f);
-	EXPECT_TRUE(Handle.IsValid());
-	EXPECT_TRUE(Timers.TimerExists(Handle));
-	Timers.Tick(9.9f);
-	EXPECT_TEXT(Log, TEXT(""));
-	EXPECT_NEAR(Timers.GetTimeToNextTimer().GetValue(), 0.1f, 1e-4f);
-	EXPECT_NEAR(Timers.GetTimerRemaining(Handle), 0.1f, 1e-4f);
-	Timers.Tick(0.1f);
-	EXPECT_TEXT(Log, TEXT("x"));
-	EXPECT_FALSE(Timers.TimerExists(Handle));
-	EXPECT_FALSE(Timers.GetTimeToNextTimer().IsSet());
-	EXPECT_EQ(Timers.GetTimerRemaining(Handle), -1.0f);
-	Timers.Tick(100.0f);
-	EXPECT_TEXT(Log, TEXT("x"));
-}
-
-TEST_F(TimerManagerTest, FiresAfterManySmallFrames)
-{
-	FTimerHandle Handle;
 	Timers.SetTimer(Handle, Note(TEXT("x")), 10.0f);
 	for (int32 Frame = 0; Frame < 100; ++Frame)
 	{
 		EXPECT_TEXT(Log, TEXT(""));
+		EXPECT_NEAR(Timers.GetTimeToNextTimer().GetValue(), 10.0f - 0.1f * static_cast<float>(Frame), 1e-4f);
 		Timers.Tick(0.1f);
 	}
 	EXPECT_TEXT(Log, TEXT("x"));
+	EXPECT_FALSE(Timers.TimerExists(Handle));
+	EXPECT_FALSE(Timers.GetTimeToNextTimer().IsSet());
+	Timers.Tick(100.0f);
+	EXPECT_TEXT(Log, TEXT("x"));
 }
 
-TEST_F(TimerManagerTest, TheSameHandleStartsAnew)
+TEST_F(TimerManagerTest, TheSameHandleStartsAnewAndClearingInvalidatesIt)
 {
-	FTimerHandle Handle;
+	Timers.ClearTimer(Handle);
 	Timers.SetTimer(Handle, Note(TEXT("old")), 10.0f);
 	Timers.Tick(6.0f);
 	Timers.SetTimer(Handle, Note(TEXT("new")), 10.0f);
@@ -59,30 +45,22 @@ TEST_F(TimerManagerTest, TheSameHandleStartsAnew)
 	EXPECT_TEXT(Log, TEXT(""));
 	Timers.Tick(4.0f);
 	EXPECT_TEXT(Log, TEXT("new"));
-}
 
-TEST_F(TimerManagerTest, ClearingInvalidatesTheHandle)
-{
-	FTimerHandle Handle;
-	Timers.ClearTimer(Handle);
 	Timers.SetTimer(Handle, Note(TEXT("x")), 1.0f);
-	FTimerHandle Other;
-	Timers.SetTimer(Other, Note(TEXT("y")), 1.0f);
 	Timers.ClearTimer(Handle);
 	EXPECT_FALSE(Handle.IsValid());
+	Timers.SetTimer(Other, Note(TEXT("y")), 1.0f);
 	Timers.SetTimer(Other, Note(TEXT("z")), 0.0f);
 	EXPECT_FALSE(Other.IsValid());
 	Timers.Tick(5.0f);
-	EXPECT_TEXT(Log, TEXT(""));
+	EXPECT_TEXT(Log, TEXT("new"));
 }
 
 TEST_F(TimerManagerTest, RunsWhatIsDueInOrderOfTime)
 {
-	FTimerHandle Late;
-	FTimerHandle Early;
 	FTimerHandle Looping;
-	Timers.SetTimer(Late, Note(TEXT("late ")), 3.0f);
-	Timers.SetTimer(Early, Note(TEXT("early ")), 1.0f);
+	Timers.SetTimer(Handle, Note(TEXT("late ")), 3.0f);
+	Timers.SetTimer(Other, Note(TEXT("early ")), 1.0f);
 	Timers.SetTimer(Looping, Note(TEXT("loop ")), 2.0f, true, 0.5f);
 	Timers.Tick(3.0f);
 	EXPECT_TEXT(Log, TEXT("loop early loop late "));
@@ -91,18 +69,14 @@ TEST_F(TimerManagerTest, RunsWhatIsDueInOrderOfTime)
 
 TEST_F(TimerManagerTest, HandlersMaySetAndClearTimers)
 {
-	FTimerHandle Self;
-	FTimerHandle Victim;
-	Timers.SetTimer(Self,
-		FTimerDelegate::CreateLambda(
-			[&]
-			{
-				Log += TEXT("a");
-				Timers.ClearTimer(Victim);
-				Timers.SetTimer(Self, Note(TEXT("b")), 1.0f, false, 0.0f);
-			}),
-		1.0f);
-	Timers.SetTimer(Victim, Note(TEXT("victim")), 1.5f);
+	const auto Run = [this]
+	{
+		Log += TEXT("a");
+		Timers.ClearTimer(Other);
+		Timers.SetTimer(Handle, Note(TEXT("b")), 1.0f, false, 0.0f);
+	};
+	Timers.SetTimer(Handle, FTimerDelegate::CreateLambda(Run), 1.0f);
+	Timers.SetTimer(Other, Note(TEXT("victim")), 1.5f);
 	Timers.Tick(2.0f);
 	EXPECT_TEXT(Log, TEXT("a"));
 	Timers.Tick(0.0f);
@@ -117,11 +91,8 @@ TEST_F(TimerManagerTest, SkipsObjectsThatAreGoneAndTellsTheHost)
 	};
 	int32 NumSet = 0;
 	Timers.OnTimerSet.AddLambda([&NumSet] { ++NumSet; });
-	TSharedPtr<FOwner> Owner = MakeShared<FOwner>();
-	FTimerHandle Handle;
-	Timers.SetTimer(Handle, FTimerDelegate::CreateSP(Owner.Get(), &FOwner::Fail), 1.0f, true);
+	Timers.SetTimer(Handle, FTimerDelegate::CreateSP(&MakeShared<FOwner>().Get(), &FOwner::Fail), 1.0f, true);
 	EXPECT_EQ(NumSet, 1);
-	Owner.Reset();
 	Timers.Tick(1.0f);
 	EXPECT_FALSE(Timers.TimerExists(Handle));
 }

@@ -25,6 +25,7 @@ protected:
 	}
 
 	void OnStartup() { ++NumStartups; }
+
 	void RegisterCallback()
 	{
 		UToolMenus::RegisterStartupCallback(FSimpleMulticastDelegate::FDelegate::CreateRaw(this, &ToolMenusTest::OnStartup));
@@ -42,11 +43,14 @@ protected:
 	TSharedPtr<FUICommandList> MakeList(const TSharedRef<FUICommandInfo>& Command)
 	{
 		const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
-		List->MapAction(Command, FExecuteAction::CreateLambda([this] { ++NumExecuted; }));
+		List->MapAction(Command, FExecuteAction::CreateLambda([] { ADD_FAILURE() << "The replaced action ran"; }));
+		List->MapAction(Command, FExecuteAction::CreateLambda([this] { ++NumExecuted; }),
+			FCanExecuteAction::CreateLambda([this] { return bMayExecute; }));
 		return List;
 	}
 
 	bool bStarted = false;
+	bool bMayExecute = false;
 	int32 NumStartups = 0;
 	int32 NumExecuted = 0;
 };
@@ -55,6 +59,8 @@ TEST_F(ToolMenusTest, RunsStartupCallbacksOnceItIsUpAlsoWithoutMenus)
 {
 	for (const bool bHasMenus : {true, false})
 	{
+		RegisterCallback();
+		UToolMenus::UnRegisterStartupCallback(this);
 		RegisterCallback();
 		EXPECT_EQ(NumStartups, 0);
 		Start(bHasMenus);
@@ -70,47 +76,28 @@ TEST_F(ToolMenusTest, RunsStartupCallbacksOnceItIsUpAlsoWithoutMenus)
 	}
 }
 
-TEST_F(ToolMenusTest, ForgetsTheCallbacksOfAnOwner)
-{
-	RegisterCallback();
-	UToolMenus::UnRegisterStartupCallback(this);
-	UToolMenus::UnRegisterStartupCallback(this);
-	Start();
-	EXPECT_EQ(NumStartups, 0);
-}
-
-TEST_F(ToolMenusTest, AnEntryShowsTheOverridesElseTheCommandsOwnTexts)
-{
-	Start();
-	const TSharedRef<FUICommandInfo> Command = MakeCommand(TEXT("Open"));
-	const TSharedPtr<FUICommandList> List = MakeList(Command);
-	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Menu")->FindOrAddSection("Tools");
-	const FToolMenuEntry& Entry = Section.AddMenuEntryWithCommandList(Command, List);
-	EXPECT_EQ(Entry.Name, FName("Open"));
-	EXPECT_TEXT(Entry.GetLabel().ToString(), TEXT("Own label"));
-	EXPECT_TEXT(Entry.GetToolTip().ToString(), TEXT("Own tip"));
-	EXPECT_TRUE(Entry.Execute());
-	EXPECT_EQ(NumExecuted, 1);
-
-	Section.AddMenuEntryWithCommandList(Command, List, INVTEXT("Label"), INVTEXT("Tip"), FSlateIcon("Style", "Icon"));
-	ASSERT_EQ(Section.Entries.Num(), 1);
-	EXPECT_TEXT(Section.Entries[0].GetLabel().ToString(), TEXT("Label"));
-	EXPECT_TEXT(Section.Entries[0].GetToolTip().ToString(), TEXT("Tip"));
-	EXPECT_EQ(Section.Entries[0].Icon.Get().GetStyleName(), FName("Icon"));
-}
-
-TEST_F(ToolMenusTest, AnEntryOutlivesItsCommandListAndThenDoesNothing)
+TEST_F(ToolMenusTest, AnEntryShowsTheOverridesElseTheCommandsOwnTextsAndOutlivesItsCommandList)
 {
 	Start();
 	const TSharedRef<FUICommandInfo> Command = MakeCommand(TEXT("Open"));
 	TSharedPtr<FUICommandList> List = MakeList(Command);
 	FToolMenuSection& Section = UToolMenus::Get()->ExtendMenu("Menu")->FindOrAddSection("Tools");
-	Section.AddMenuEntryWithCommandList(Command, List);
+	const FToolMenuEntry& Entry = Section.AddMenuEntryWithCommandList(Command, List);
+	EXPECT_TEXT(Entry.GetLabel().ToString(), TEXT("Own label"));
+	EXPECT_TEXT(Entry.GetToolTip().ToString(), TEXT("Own tip"));
+	EXPECT_FALSE(Entry.Execute()) << "it may not";
+	bMayExecute = true;
+	EXPECT_TRUE(Entry.Execute());
+	EXPECT_EQ(NumExecuted, 1);
+
+	Section.AddMenuEntryWithCommandList(Command, List, INVTEXT("Label"), INVTEXT("Tip"), FSlateIcon("Style", "Icon"));
+	ASSERT_EQ(Section.Entries.Num(), 1);
+	EXPECT_TEXT(Section.FindEntry("Open")->GetLabel().ToString(), TEXT("Label"));
+	EXPECT_TEXT(Section.FindEntry("Open")->GetToolTip().ToString(), TEXT("Tip"));
 	EXPECT_TRUE(Section.FindEntry("Open")->CanExecute());
 	List.Reset();
 	EXPECT_FALSE(Section.FindEntry("Open")->CanExecute());
 	EXPECT_FALSE(Section.FindEntry("Open")->Execute());
-	EXPECT_EQ(NumExecuted, 0);
 }
 
 TEST_F(ToolMenusTest, RemovesWhatAnOwnerAddedAndNothingElse)

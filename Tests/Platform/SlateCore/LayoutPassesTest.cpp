@@ -1,7 +1,9 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
+#include "WrappingProbe.h"
+
 #include "Framework/Application/SlateApplication.h"
-#include "Probes.h"
+#include "Support/Probe.h"
 #include "Support/UserDriver.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SNullWidget.h"
@@ -37,28 +39,17 @@ protected:
 		{
 			Probe = SNew(SProbe);
 		}
-		// clang-format off
-		SAssignNew(Root, SHorizontalBox)
-		+ SHorizontalBox::Slot().AutoWidth()
-		[
-			SAssignNew(Left, SVerticalBox)
-			+ SVerticalBox::Slot().AutoHeight()[Probes[0].ToSharedRef()]
-			+ SVerticalBox::Slot().AutoHeight()[Probes[1].ToSharedRef()]
-		]
-		+ SHorizontalBox::Slot().AutoWidth()
-		[
-			SAssignNew(Right, SVerticalBox)
-			+ SVerticalBox::Slot().AutoHeight()[Probes[2].ToSharedRef()]
-			+ SVerticalBox::Slot().AutoHeight()[Probes[3].ToSharedRef()]
-		];
-		// clang-format on
-		User.Emplace(Root.ToSharedRef(), FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+		for (int32 Index = 0; Index < 4; ++Index)
+		{
+			(Index < 2 ? Left : Right)->AddSlot().AutoHeight()[Probes[Index].ToSharedRef()];
+		}
+		User.Emplace(SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth()[Left] + SHorizontalBox::Slot().AutoWidth()[Right],
+			FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
 	}
 
 	TSharedPtr<SProbe> Probes[4];
-	TSharedPtr<SHorizontalBox> Root;
-	TSharedPtr<SVerticalBox> Left;
-	TSharedPtr<SVerticalBox> Right;
+	TSharedRef<SVerticalBox> Left = SNew(SVerticalBox);
+	TSharedRef<SVerticalBox> Right = SNew(SVerticalBox);
 	TOptional<FUserDriver> User;
 };
 } // namespace
@@ -135,13 +126,8 @@ TEST(WrappingLayout, AHeightThatFollowsFromTheWidthIsThereInTheSameFrame)
 {
 	const TSharedRef<SWrappingProbe> Text = SNew(SWrappingProbe).Area(1000.0f);
 	const TSharedRef<SProbe> Below = SNew(SProbe);
-	// clang-format off
-	const TSharedRef<SWidget> Column =
-		SNew(SVerticalBox)
-		+ SVerticalBox::Slot().AutoHeight()[Text]
-		+ SVerticalBox::Slot().AutoHeight()[Below];
-	// clang-format on
-	FUserDriver User(Column, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
+	FUserDriver User(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Text] + SVerticalBox::Slot().AutoHeight()[Below],
+		FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
 	EXPECT_EQ(Stats().NumLayoutPasses, 2);
 	EXPECT_EQ(PositionOf(*Below), FVector2D(0.0, 10.0));
 	EXPECT_EQ(Below->NumPainted, 1) << "nothing is painted in between";
@@ -174,22 +160,19 @@ TEST(WrappingLayout, LayoutThatNeverSettlesIsCutOffAndDrawn)
 
 TEST(OverlayLayout, ChildrenShareTheRoomByTheirAlignment)
 {
-	const TSharedRef<SProbe> Filling = SNew(SProbe);
-	const TSharedRef<SProbe> Centered = SNew(SProbe);
-	const TSharedRef<SProbe> InCorner = SNew(SProbe);
 	const TSharedRef<SProbe> TooLarge = SNew(SProbe).Size(FVector2D(500.0, 500.0));
 	// clang-format off
 	FUserDriver User(
 		SNew(SOverlay)
-		+ SOverlay::Slot()[Filling]
-		+ SOverlay::Slot().HAlign(HAlign_Center).VAlign(VAlign_Center)[Centered]
-		+ SOverlay::Slot().HAlign(HAlign_Right).VAlign(VAlign_Bottom).Padding(0.0f, 0.0f, 15.0f, 5.0f)[InCorner]
+		+ SOverlay::Slot()[SNew(SProbe)]
+		+ SOverlay::Slot().HAlign(HAlign_Center).VAlign(VAlign_Center)[SNew(SProbe)]
+		+ SOverlay::Slot().HAlign(HAlign_Right).VAlign(VAlign_Bottom).Padding(0.0f, 0.0f, 15.0f, 5.0f)[SNew(SProbe)]
 		+ SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Top).Padding(10.0f)[TooLarge],
 		FVector2D(100.0, 80.0), 1.0f, EDriverFonts::Even);
 	// clang-format on
-	EXPECT_EQ(SizeOf(*Filling), FVector2D(100.0, 80.0));
-	EXPECT_EQ(PositionOf(*Centered), FVector2D(40.0, 35.0));
-	EXPECT_EQ(PositionOf(*InCorner), FVector2D(65.0, 65.0));
-	EXPECT_EQ(PositionOf(*TooLarge), FVector2D(10.0, 10.0));
-	EXPECT_EQ(SizeOf(*TooLarge), FVector2D(80.0, 60.0)) << "as large as there is room";
+	EXPECT_EQ(User.Tree(), TEXT("SOverlay 0,0 100x80\n"
+								"  SProbe 0,0 100x80\n"
+								"  SProbe 40,35 20x10\n"
+								"  SProbe 65,65 20x10\n"
+								"  SProbe 10,10 80x60\n"));
 }

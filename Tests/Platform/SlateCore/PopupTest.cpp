@@ -1,7 +1,7 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "Framework/Application/SlateApplication.h"
-#include "Probes.h"
+#include "Support/Probe.h"
 #include "Support/UserDriver.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SOverlay.h"
@@ -94,7 +94,7 @@ TEST_F(Popup, KeepsTheMouseFromWhatIsBelow)
 	User.ClickAt(FVector2D(80.0, 80.0));
 	EXPECT_FALSE(IsOpen());
 	EXPECT_EQ(NumClosed, 1);
-	EXPECT_EQ(Ground->TakeEvents(), TEXT("enter, up")) << "the press did nothing but close it";
+	EXPECT_EQ(Ground->TakeEvents(), TEXT("enter, up LeftMouseButton")) << "the press did nothing but close it";
 }
 
 TEST_F(Popup, GivesTheFocusBackWhereItWas)

@@ -20,13 +20,6 @@ protected:
 };
 } // namespace
 
-TEST_F(Style, AMissingNameYieldsTheDefaultOfItsKind)
-{
-	EXPECT_EQ(Set.GetColor("None", nullptr, Orange), Orange);
-	EXPECT_EQ(Set.GetBrush("None")->DrawAs, ESlateBrushDrawType::NoDrawType);
-	EXPECT_EQ(Set.GetOptionalBrush("None", nullptr, nullptr), nullptr);
-}
-
 TEST_F(Style, EachKindOfColorIsReadAsEither)
 {
 	Set.Set("Linear", Orange);
@@ -35,14 +28,15 @@ TEST_F(Style, EachKindOfColorIsReadAsEither)
 	EXPECT_EQ(Set.GetSlateColor("Linear"), FSlateColor(Orange));
 	EXPECT_EQ(Set.GetColor("Slate"), Orange);
 	EXPECT_EQ(Set.GetColor("Inherited", nullptr, FLinearColor::Red), FLinearColor::Red) << "it is no color by itself";
-	Set.Set("Slate", FSlateColor::UseForeground());
-	EXPECT_EQ(Set.GetColor("Slate", nullptr, FLinearColor::Red), FLinearColor::Red);
 	Set.Set("Copy", Set.GetColor("Linear"));
 	EXPECT_EQ(Set.GetColor("Copy"), Orange) << "a value read from the set itself";
 }
 
-TEST_F(Style, AWidgetStyleOfAnotherTypeCountsAsMissing)
+TEST_F(Style, AMissingNameOrAnotherTypeYieldsTheDefaultOfItsKind)
 {
+	EXPECT_EQ(Set.GetColor("None", nullptr, Orange), Orange);
+	EXPECT_EQ(Set.GetBrush("None")->DrawAs, ESlateBrushDrawType::NoDrawType);
+	EXPECT_EQ(Set.GetOptionalBrush("None", nullptr, nullptr), nullptr);
 	Set.Set("Text", FTextBlockStyle().SetFont(FSlateFontInfo("Bold", 12.0f)));
 	EXPECT_EQ(Set.GetWidgetStyle<FTextBlockStyle>("Text").Font.Size, 12.0f);
 	EXPECT_FALSE(Set.HasWidgetStyle<FButtonStyle>("Text"));

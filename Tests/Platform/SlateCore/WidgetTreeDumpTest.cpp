@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Probes.h"
+#include "Support/Probe.h"
 #include "Support/UserDriver.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SNullWidget.h"
@@ -35,7 +35,8 @@ TEST(WidgetTreeDump, WritesOneWidgetALineWithWhatAppliesToIt)
 		+ SVerticalBox::Slot().AutoHeight()[Row]
 		+ SVerticalBox::Slot().AutoHeight().Padding(10.0f)
 		+ SVerticalBox::Slot().AutoHeight()[Focused]
-		+ SVerticalBox::Slot().AutoHeight()[SNew(SProbe).AccessibleText(FText::FromString(TEXT("Send")))],
+		+ SVerticalBox::Slot().AutoHeight()[SNew(SProbe).AccessibleText(FText::FromString(TEXT("Send")))]
+		+ SVerticalBox::Slot().AutoHeight()[SNew(SHorizontalBox).IsEnabled(false) + SHorizontalBox::Slot()[SNew(SProbe)]],
 		FVector2D(100.0, 100.0), 2.0f, EDriverFonts::Even);
 	// clang-format on
 	User.Press(TEXT("Tab"));
@@ -46,12 +47,7 @@ TEST(WidgetTreeDump, WritesOneWidgetALineWithWhatAppliesToIt)
 								"    SProbe 0,0 0x0\n"
 								"  SNullWidget 10,30.38 80x0\n"
 								"  SHintProbe 0,40.38 100x10 focused \"a\\tb\\\\\\nc\" hint=\"Say \\\"hi\\\"\" tag=Here\n"
-								"  SProbe 0,50.38 100x10 name=\"Send\"\n"));
-}
-
-TEST(WidgetTreeDump, ADisabledBoxDisablesWhatItHolds)
-{
-	FUserDriver User(
-		SNew(SHorizontalBox).IsEnabled(false) + SHorizontalBox::Slot()[SNew(SProbe)], FVector2D(10.0, 10.0), 1.0f, EDriverFonts::Even);
-	EXPECT_EQ(User.Tree(), TEXT("SHorizontalBox 0,0 10x10 disabled\n  SProbe 0,0 10x10 disabled\n"));
+								"  SProbe 0,50.38 100x10 name=\"Send\"\n"
+								"  SHorizontalBox 0,60.38 100x10 disabled\n"
+								"    SProbe 0,60.38 100x10 disabled\n"));
 }

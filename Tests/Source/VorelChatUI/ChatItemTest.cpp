@@ -78,6 +78,9 @@ TEST(ChatItem, IsLaidOutWithItsPaddings)
 	EXPECT_EQ(PlaceOf(Item), "0,0 660x55");
 	EXPECT_EQ(PlaceOf(FindOne(Item, TEXT("STextBlock"))), "10,5 640x16");
 	EXPECT_EQ(PlaceOf(FindOne(Item, TEXT("SMarkdownTextbox"))), "10,26 640x24");
+	Item->UpdateMessageContent(FString::ChrN(100, TEXT('m')));
+	User.Frame();
+	EXPECT_EQ(PlaceOf(FindOne(Item, TEXT("SMarkdownTextbox"))), "10,26 640x40") << "two rows";
 }
 
 TEST(ChatItem, BeforeItIsBuiltContentIsLost)

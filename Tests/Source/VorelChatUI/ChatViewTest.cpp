@@ -142,8 +142,9 @@ TEST_F(ChatView, AFailureIsLoggedAndShown)
 TEST_F(ChatView, UnregisterEventsUndoesRegisterEvents)
 {
 	View->UnregisterEvents();
-	Run({"u q", "c x", "done"});
+	Run({"u q", "c x", "done", "fail"});
 	EXPECT_EQ(List(), "");
+	EXPECT_EQ(ReadTexts(Notification), "");
 	View->RegisterEvents();
 	Run({"u r"});
 	EXPECT_EQ(List(), "You: r | (thinking)");
