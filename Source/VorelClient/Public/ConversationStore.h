@@ -3,7 +3,7 @@
 #pragma once
 
 #include "ConversationRecord.h"
-#include "StoreError.h"
+#include "Store/StoreError.h"
 #include "Templates/UniquePtr.h"
 
 class FSqliteDatabase;

@@ -137,7 +137,7 @@ TEST_F(FStoreFailureTest, AFileOfANewerVersion)
 TEST_F(FStoreFailureTest, ADatabaseOfSomebodyElse)
 {
 	Execute("PRAGMA application_id = 7");
-	ExpectLeftAlone(TEXT("FILE holds something else than conversations."));
+	ExpectLeftAlone(TEXT("FILE holds something else than expected."));
 }
 
 TEST_F(FStoreFailureTest, AFolderThatIsNotThere)

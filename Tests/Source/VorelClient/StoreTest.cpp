@@ -2,6 +2,7 @@
 
 #include "StoreFixture.h"
 
+#include "Store/ConversationSchema.h"
 #include "Store/SqliteDatabase.h"
 #include "Store/StoreSchema.h"
 #include <nlohmann/json.hpp>
@@ -142,15 +143,15 @@ TEST_F(FStoreTest, AFirstStartWaitsForAnother)
 
 TEST_F(FStoreTest, MigratesStepByStepWithABackup)
 {
-	const TArray<const char*> Old = GetStoreMigrations();
-	TArray<const char*> Newer = Old;
-	Newer.Add("CREATE TABLE extra(a); INSERT INTO extra VALUES (7)");
-	TArray<const char*> Broken = Newer;
-	Broken.Add("DROP TABLE extra; nonsense");
-	const auto Prepare = [this](const TArray<const char*>& Migrations)
+	const FStoreSchema Old = GetConversationSchema();
+	FStoreSchema Newer = Old;
+	Newer.Migrations.Add("CREATE TABLE extra(a); INSERT INTO extra VALUES (7)");
+	FStoreSchema Broken = Newer;
+	Broken.Migrations.Add("DROP TABLE extra; nonsense");
+	const auto Prepare = [this](const FStoreSchema& Schema)
 	{
 		FSqliteDatabase Database(StoreFile, true);
-		PrepareStore(Database, StoreFile, Migrations);
+		PrepareStore(Database, StoreFile, Schema);
 	};
 	Prepare(Old);
 	EXPECT_EQ(FSqliteDatabase(StoreFile, false).ReadNumber("PRAGMA user_version"), 1);

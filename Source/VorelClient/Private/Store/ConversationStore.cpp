@@ -2,6 +2,7 @@
 
 #include "ConversationStore.h"
 
+#include "Store/ConversationSchema.h"
 #include "Store/SqliteDatabase.h"
 #include "Store/StoreSchema.h"
 #include <ctime>
@@ -136,7 +137,7 @@ TUniquePtr<FConversationStore> FConversationStore::Open(const FString& File, EMi
 			[&]
 			{
 				TUniquePtr<FSqliteDatabase> Database = MakeUnique<FSqliteDatabase>(File, MissingFile == EMissingFile::Create);
-				PrepareStore(*Database, File, GetStoreMigrations());
+				PrepareStore(*Database, File, GetConversationSchema());
 				Store.Reset(new FConversationStore(::MoveTemp(Database)));
 			});
 	}

@@ -1,8 +1,8 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "StoreError.h"
+#include "Store/StoreError.h"
 
-#define LOCTEXT_NAMESPACE "VorelClient"
+#define LOCTEXT_NAMESPACE "VorelCore"
 
 static FText GetSentence(const FStoreError& Error)
 {
@@ -21,7 +21,7 @@ static FText GetSentence(const FStoreError& Error)
 	case EStoreProblem::NewerVersion:
 		return LOCTEXT("StoreNewer", "{0} was written by a newer version of this program.");
 	case EStoreProblem::Foreign:
-		return LOCTEXT("StoreForeign", "{0} holds something else than conversations.");
+		return LOCTEXT("StoreForeign", "{0} holds something else than expected.");
 	default:
 		return LOCTEXT("StoreOther", "{0} can't be used ({1}).");
 	}

@@ -2,13 +2,13 @@
 
 #pragma once
 
-#include "StoreError.h"
-#include "Templates/UniquePtr.h"
+#include "Store/StoreError.h"
+#include <string>
 
 struct sqlite3;
 struct sqlite3_stmt;
 
-// One connection. What fails throws an FStoreError; the class FConversationStore catches them all.
+// One connection. What fails throws an FStoreError; those who use it catch them all.
 class FSqliteDatabase
 {
 public:
@@ -73,10 +73,14 @@ public:
 	int64 GetNumber(int Column) const;
 	bool IsNull(int Column) const;
 	FString GetText(int Column) const;
+	std::string GetUtf8(int Column) const;
+	double GetReal(int Column) const;
 
 private:
 	void BindOne(int Index, int64 Number);
 	void BindOne(int Index, const FString& Text);
+	// In UTF-8.
+	void BindOne(int Index, const std::string& Text);
 	void BindOne(int Index, const TOptional<int64>& Number);
 
 	FSqliteDatabase& Database;

@@ -6,44 +6,20 @@
 
 namespace
 {
-// Marks a database as ours.
-constexpr int64 ApplicationId = 0x566F7265;
-
-// Rows are numbered in order of time. A number is never used again, since another program may still be writing to a row that is gone.
-const char* const FirstVersion = R"(
-PRAGMA application_id = 0x566F7265;
-CREATE TABLE conversations(
-	id TEXT NOT NULL COLLATE NOCASE PRIMARY KEY,
-	title TEXT NOT NULL,
-	mode TEXT NOT NULL,
-	created INTEGER NOT NULL,
-	last_used INTEGER NOT NULL
-) STRICT, WITHOUT ROWID;
-CREATE TABLE messages(
-	id INTEGER PRIMARY KEY AUTOINCREMENT,
-	conversation TEXT NOT NULL COLLATE NOCASE REFERENCES conversations(id) ON DELETE CASCADE,
-	role INTEGER NOT NULL,
-	text TEXT NOT NULL,
-	ending INTEGER
-) STRICT;
-CREATE INDEX messages_by_conversation ON messages(conversation, id);
-CREATE INDEX growing_messages ON messages(id) WHERE ending IS NULL;
-)";
-
 int64 ReadVersion(FSqliteDatabase& Database)
 {
 	return Database.ReadNumber("PRAGMA user_version");
 }
 
-void CheckStore(FSqliteDatabase& Database, int32 NewestVersion)
+void CheckStore(FSqliteDatabase& Database, const FStoreSchema& Schema)
 {
 	const bool bEmpty = Database.ReadNumber("SELECT count(*) FROM sqlite_schema") == 0;
-	if (!bEmpty && Database.ReadNumber("PRAGMA application_id") != ApplicationId)
+	if (!bEmpty && Database.ReadNumber("PRAGMA application_id") != Schema.ApplicationId)
 	{
 		throw FStoreError{EStoreProblem::Foreign, FString()};
 	}
 	const int64 Version = ReadVersion(Database);
-	if (Version > NewestVersion)
+	if (Version > Schema.Migrations.Num())
 	{
 		throw FStoreError{EStoreProblem::NewerVersion, FString()};
 	}
@@ -62,37 +38,32 @@ void CheckStore(FSqliteDatabase& Database, int32 NewestVersion)
 	}
 }
 
-void RunMigration(FSqliteDatabase& Database, int32 OldVersion, const char* Sql)
+void RunMigration(FSqliteDatabase& Database, int32 OldVersion, const FStoreSchema& Schema)
 {
 	FSqliteTransaction Transaction(Database);
 	// Another program may have been quicker.
 	if (ReadVersion(Database) == OldVersion)
 	{
-		Database.Execute(Sql);
-		Database.Execute(TCHAR_TO_UTF8(FString::Printf(TEXT("PRAGMA user_version = %d"), OldVersion + 1)));
+		Database.Execute(Schema.Migrations[OldVersion]);
+		Database.Execute(TCHAR_TO_UTF8(
+			FString::Printf(TEXT("PRAGMA application_id = %d; PRAGMA user_version = %d"), Schema.ApplicationId, OldVersion + 1)));
 	}
 	Transaction.Commit();
 }
 } // namespace
 
-const TArray<const char*>& GetStoreMigrations()
+void PrepareStore(FSqliteDatabase& Database, const FString& File, const FStoreSchema& Schema)
 {
-	static const TArray<const char*> Migrations = {FirstVersion};
-	return Migrations;
-}
-
-void PrepareStore(FSqliteDatabase& Database, const FString& File, const TArray<const char*>& Migrations)
-{
-	CheckStore(Database, Migrations.Num());
+	CheckStore(Database, Schema);
 	ConfigureStore(Database);
 	const int32 OldVersion = static_cast<int32>(ReadVersion(Database));
-	if (OldVersion > 0 && OldVersion < Migrations.Num())
+	if (OldVersion > 0 && OldVersion < Schema.Migrations.Num())
 	{
 		Database.BackUpTo(FString::Printf(TEXT("%s.version-%d"), *File, OldVersion));
 	}
-	for (int32 Version = OldVersion; Version < Migrations.Num(); ++Version)
+	for (int32 Version = OldVersion; Version < Schema.Migrations.Num(); ++Version)
 	{
-		RunMigration(Database, Version, Migrations[Version]);
+		RunMigration(Database, Version, Schema);
 	}
 	Database.MergeLogOnClose();
 }

@@ -206,8 +206,19 @@ bool FSqliteStatement::IsNull(int Column) const
 
 FString FSqliteStatement::GetText(int Column) const
 {
+	const std::string Text = GetUtf8(Column);
+	return FString(FStringView(FUTF8ToTCHAR(Text.c_str(), static_cast<int32>(Text.size()))));
+}
+
+std::string FSqliteStatement::GetUtf8(int Column) const
+{
 	const auto* const Bytes = reinterpret_cast<const char*>(sqlite3_column_text(Statement, Column));
-	return FString(FStringView(FUTF8ToTCHAR(Bytes ? Bytes : "", sqlite3_column_bytes(Statement, Column))));
+	return Bytes ? std::string(Bytes, sqlite3_column_bytes(Statement, Column)) : std::string();
+}
+
+double FSqliteStatement::GetReal(int Column) const
+{
+	return sqlite3_column_double(Statement, Column);
 }
 
 void FSqliteStatement::BindOne(int Index, int64 Number)
@@ -219,6 +230,11 @@ void FSqliteStatement::BindOne(int Index, const FString& Text)
 {
 	const FTCHARToUTF8 Bytes(Text);
 	sqlite3_bind_text(Statement, Index, Bytes.Get(), Bytes.Length(), SQLITE_TRANSIENT);
+}
+
+void FSqliteStatement::BindOne(int Index, const std::string& Text)
+{
+	sqlite3_bind_text(Statement, Index, Text.data(), static_cast<int>(Text.size()), SQLITE_TRANSIENT);
 }
 
 void FSqliteStatement::BindOne(int Index, const TOptional<int64>& Number)
