@@ -10,5 +10,7 @@ public class VorelService : ModuleRules
 		PCHUsage = PCHUsageMode.NoPCHs;
 		bEnableExceptions = true;
 		bUseRTTI = true;
+
+		PrivateDependencyModuleNames.AddRange(new string[] { "Core", "VorelCore" });
 	}
 }

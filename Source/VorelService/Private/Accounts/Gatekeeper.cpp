@@ -1,0 +1,46 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Accounts/Gatekeeper.h"
+
+#include "Accounts/Secrets.h"
+#include "Chat/ChatReply.h"
+#include "Http/Replies.h"
+#include "ServiceParts.h"
+
+#include <strings.h>
+
+namespace
+{
+std::string ReadBearerToken(const httplib::Request& Request)
+{
+	const std::string Value = Request.get_header_value("Authorization");
+	const std::string Scheme = "Bearer ";
+	return ::strncasecmp(Value.c_str(), Scheme.c_str(), Scheme.size()) == 0 ? Value.substr(Scheme.size()) : std::string();
+}
+
+std::optional<FAccount> FindAccount(FServiceParts& Parts, const std::string& Token)
+{
+	const std::string& OwnerKey = Parts.Options.OwnerKey;
+	if (!OwnerKey.empty() && AreSecretsEqual(HashSecret(Token), HashSecret(OwnerKey)))
+	{
+		return Parts.Accounts.GetLocalAccount();
+	}
+	return Token.empty() ? std::nullopt : Parts.Tokens.FindAccount(Token, Parts.Now());
+}
+} // namespace
+
+httplib::Server::Handler WithAccount(FServiceParts& Parts, FAccountHandler Handler)
+{
+	return [&Parts, Handler = std::move(Handler)](const httplib::Request& Request, httplib::Response& Response)
+	{
+		const std::string Token = ReadBearerToken(Request);
+		if (const std::optional<FAccount> Account = FindAccount(Parts, Token))
+		{
+			Handler(Parts, Request, Response, *Account);
+			return;
+		}
+		Response.set_header("WWW-Authenticate", Token.empty() ? "Bearer" : "Bearer error=\"invalid_token\"");
+		SendJson(Response, 401,
+			MakeErrorBody("The access token is missing, wrong or no longer good.", "invalid_request_error", "invalid_api_key"));
+	};
+}

@@ -1,0 +1,26 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include <string>
+#include <vector>
+
+// False for what is more or less than scheme, host and port. OutOrigin: in small letters, without a port that goes without saying.
+bool ReadOrigin(const std::string& Url, std::string& OutOrigin);
+
+// The names by which the service lets itself be called. A web page must not reach it by another name that it points to this machine.
+class FOwnAddresses
+{
+public:
+	// PublicOrigin: as read, or empty.
+	FOwnAddresses(const std::string& ListenHost, int Port, const std::string& PublicOrigin);
+
+	// The public origin, else where the service listens.
+	const std::string& GetMain() const { return Origins.front(); }
+
+	bool IsOwnHost(const std::string& HostHeader) const;
+	bool IsOwnOrigin(const std::string& OriginHeader) const;
+
+private:
+	std::vector<std::string> Origins;
+};
