@@ -9,6 +9,7 @@
 #include "Http/Replies.h"
 #include "OAuth/LoginHandlers.h"
 #include "OAuth/OAuthHandlers.h"
+#include "OpenApi/OpenApi.h"
 #include "Pages/Pages.h"
 #include "ServiceParts.h"
 
@@ -28,13 +29,17 @@ httplib::Server::Handler ServePage(std::string Html)
 	};
 }
 
-httplib::Server::Handler ServeVersion(const FServiceParts& Parts)
+httplib::Server::Handler ServeJson(std::string Json)
 {
-	const json Feed = {{"version", Parts.Options.Version}, {"download_url", Parts.Address + "/plugin"}};
-	return [Body = Feed.dump()](const Request&, Response& Reply)
+	return [Json = std::move(Json)](const Request&, Response& Reply)
 	{
-		SendJson(Reply, 200, Body);
+		SendJson(Reply, 200, Json);
 	};
+}
+
+std::string MakeVersionFeed(const FServiceParts& Parts)
+{
+	return json({{"version", Parts.Options.Version}, {"download_url", Parts.Address + "/plugin"}}).dump();
 }
 
 // As long as programs that send no token are about, they are served for nothing.
@@ -98,7 +103,8 @@ std::vector<FRoute> MakeRoutes(FServiceParts& Parts, FChatHandlers& Chat)
 			{
 				ServeRevocation(Parts, Call, Reply);
 			}},
-		{"GET", "/v1/version", ServeVersion(Parts)},
+		{"GET", "/openapi.json", ServeJson(MakeOpenApi(Parts.Address))},
+		{"GET", "/v1/version", ServeJson(MakeVersionFeed(Parts))},
 		{"GET", "/v1/user", WithAccount(Parts, ServeUser)},
 		{"GET", "/v1/credits", WithAccount(Parts, ServeCredits)},
 		{"GET", "/v1/models",
