@@ -13,7 +13,9 @@ build_packages=(
 	qtkeychain-qt6-dev libsodium-dev
 	fonts-roboto-unhinted fonts-jetbrains-mono fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji
 	libbenchmark-dev ca-certificates xdg-utils)
-test_packages=(libgtest-dev xvfb xdotool xauth cmark-gfm)
+test_packages=(
+	libgtest-dev xvfb xdotool xauth cmark-gfm
+	chromium dbus-daemon at-spi2-core python3-pyatspi gnome-keyring scrot)
 
 say()
 {
