@@ -137,6 +137,8 @@ FString FVorelClientServices::StartLocalService()
 	Options.PieceInterval =
 		Chosen.GuidePieceMilliseconds < 0 ? Options.PieceInterval : std::chrono::milliseconds(Chosen.GuidePieceMilliseconds);
 
+	Options.OwnerKey = ToUtf8(OwnerKey.Get());
+
 	std::string Error;
 	LocalService = FLocalService::Start(Options, Error);
 	UE_CLOG(!LocalService, LogVorel, Error, TEXT("The local service did not start: %s"), *FromUtf8(Error));
