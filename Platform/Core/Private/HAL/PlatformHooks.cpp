@@ -19,7 +19,10 @@ void FWindowsPlatformProcess::LaunchURL(const TCHAR* URL, const TCHAR* Parms, FS
 	FString Reason = TEXT("There is no desktop to open it with");
 	const TFunction<bool(const FString&, FString&)>& Hook = FPlatformHooks::Get().LaunchURL;
 	const bool bLaunched = Hook && Hook(Address, Reason);
-	UE_CLOG(!bLaunched, LogPlatform, Warning, TEXT("Can't open the address %s: %s"), *Address, *Reason);
+	// What follows the question mark may be nobody else's business.
+	int32 Query = 0;
+	const FString Shown = Address.FindChar('?', Query) ? Address.Left(Query) : Address;
+	UE_CLOG(!bLaunched, LogPlatform, Warning, TEXT("Can't open the address %s: %s"), *Shown, *Reason);
 	if (Error)
 	{
 		*Error = bLaunched ? FString() : Reason;
