@@ -1,0 +1,52 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Account/LoginMarker.h"
+
+#include "Account/PrivateFile.h"
+#include "Http/JsonText.h"
+#include "Misc/Paths.h"
+
+namespace
+{
+// {"logins": {account: place}}
+constexpr const char* Logins = "logins";
+
+FJson ReadLogins(const FString& File)
+{
+	std::string Text;
+	PrivateFile::Read(File, Text);
+	const FJson Found = GetMember(ParseJson(Text), Logins);
+	return Found.is_object() ? Found : FJson::object();
+}
+} // namespace
+
+FLoginMarker::FLoginMarker(const FString& DataFolder, const FString& InAccount)
+	: File(DataFolder.IsEmpty() ? FString() : DataFolder / TEXT("login.json"))
+	, Account(InAccount)
+{
+}
+
+ETokenPlace FLoginMarker::Read() const
+{
+	const FString Place = File.IsEmpty() ? FString() : ToString(GetMember(ReadLogins(File), ToUtf8(Account).c_str()));
+	return Place == TEXT("secret store") ? ETokenPlace::SecretStore : Place == TEXT("file") ? ETokenPlace::File : ETokenPlace::None;
+}
+
+void FLoginMarker::Write(ETokenPlace Place) const
+{
+	if (File.IsEmpty() || Place == Read())
+	{
+		return;
+	}
+	FJson Known = ReadLogins(File);
+	if (Place == ETokenPlace::None)
+	{
+		Known.erase(ToUtf8(Account));
+	}
+	else
+	{
+		Known[ToUtf8(Account)] = Place == ETokenPlace::SecretStore ? "secret store" : "file";
+	}
+	PrivateFile::MakeFolder(FPaths::GetPath(File));
+	PrivateFile::Write(File, FJson{{Logins, Known}}.dump(1, '\t'));
+}

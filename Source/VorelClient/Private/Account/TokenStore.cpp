@@ -1,0 +1,149 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "Account/NextTurn.h"
+
+#include "Account/AccountText.h"
+#include "Account/LogVorelAccount.h"
+#include "Account/PrivateFile.h"
+#include "Account/SecretStoreCall.h"
+#include "Account/Secrets.h"
+#include "Account/TokenStore.h"
+#include "Misc/Paths.h"
+
+namespace
+{
+// A folder of its own, which is the user's alone, whatever the data folder is.
+FString MakeFileName(const FLoginOptions& Options)
+{
+	const std::string Name = Secrets::Hash(ToUtf8(Options.KeyringAccount)).substr(0, 16) + ".json";
+	return Options.DataFolder / TEXT("tokens") / FromUtf8(Name);
+}
+
+void Report(const FTokenStore::FOnLoaded& OnLoaded, const std::string& Stored, const FLoginClock& Clock)
+{
+	const TOptional<FTokenSet> Tokens = FTokenSet::Read(Stored, Clock);
+	OnLoaded(Tokens ? ETokenLoad::Found : ETokenLoad::Missing, Tokens);
+}
+} // namespace
+
+FTokenStore::FTokenStore(const FLoginOptions& InOptions)
+	: Options(InOptions)
+	, Marker(Options.DataFolder, Options.KeyringAccount)
+	, TokenFile(MakeFileName(Options))
+{
+	bShared = HasTokens();
+	if (!Options.bAllowTokenFile && !Options.DataFolder.IsEmpty())
+	{
+		PrivateFile::Remove(TokenFile);
+	}
+}
+
+FTokenStore::~FTokenStore() = default;
+
+ETokenPlace FTokenStore::GetPlace() const
+{
+	const ETokenPlace Place = Marker.Read();
+	const bool bOpen = Place == ETokenPlace::SecretStore ? Options.bUseKeyring : Options.bAllowTokenFile;
+	return bOpen ? Place : ETokenPlace::None;
+}
+
+void FTokenStore::Load(FOnLoaded OnLoaded)
+{
+	if (GetPlace() != ETokenPlace::SecretStore)
+	{
+		Later([this, OnLoaded] { LoadFile(OnLoaded); });
+		return;
+	}
+	Call = FSecretStoreCall::Read(Options.KeyringAccount, Options.Limits.SecretStore,
+		[this, OnLoaded](ESecretStoreEnd End, const std::string& Secret)
+		{
+			Call.Reset();
+			End == ESecretStoreEnd::Failed ? OnLoaded(ETokenLoad::Unreadable, {}) : Report(OnLoaded, Secret, Options.Clock);
+		});
+}
+
+void FTokenStore::LoadFile(const FOnLoaded& OnLoaded)
+{
+	std::string Stored;
+	const bool bHere = GetPlace() == ETokenPlace::File;
+	const PrivateFile::ERead Read = bHere ? PrivateFile::Read(TokenFile, Stored) : PrivateFile::ERead::Missing;
+	Read == PrivateFile::ERead::Unusable ? OnLoaded(ETokenLoad::Unreadable, {}) : Report(OnLoaded, Stored, Options.Clock);
+}
+
+void FTokenStore::Save(const FTokenSet& Tokens, TFunction<void()> OnSaved)
+{
+	const auto SaveElsewhere = [this, Tokens, OnSaved]
+	{
+		HandleSaved(SaveFile(Tokens) ? ETokenPlace::File : ETokenPlace::None, OnSaved);
+	};
+	if (!Options.bUseKeyring || Options.DataFolder.IsEmpty())
+	{
+		Later(SaveElsewhere);
+		return;
+	}
+	Call = FSecretStoreCall::Write(Options.KeyringAccount, Tokens.Write(), Options.Limits.SecretStore,
+		[this, OnSaved, SaveElsewhere](ESecretStoreEnd End, const std::string&)
+		{
+			Call.Reset();
+			End == ESecretStoreEnd::Done ? HandleSaved(ETokenPlace::SecretStore, OnSaved) : SaveElsewhere();
+		});
+}
+
+bool FTokenStore::SaveFile(const FTokenSet& Tokens) const
+{
+	return Options.bAllowTokenFile && !Options.DataFolder.IsEmpty() && PrivateFile::MakePrivateFolder(FPaths::GetPath(TokenFile)) &&
+		   PrivateFile::Write(TokenFile, Tokens.Write());
+}
+
+void FTokenStore::HandleSaved(ETokenPlace Place, const TFunction<void()>& OnSaved)
+{
+	bShared = Place != ETokenPlace::None;
+	if (bShared)
+	{
+		Marker.Write(Place);
+	}
+	else
+	{
+		ForgetMarker();
+		UE_CLOG(!bNoticeGiven, LogVorelAccount, Display, TEXT("%s"), *AccountText::OnlyThisRun().ToString());
+		bNoticeGiven = true;
+	}
+	OnSaved();
+}
+
+void FTokenStore::Clear(TFunction<void()> OnCleared)
+{
+	ForgetMarker();
+	bShared = false;
+	if (!Options.DataFolder.IsEmpty())
+	{
+		PrivateFile::Remove(TokenFile);
+	}
+	if (!Options.bUseKeyring || Options.DataFolder.IsEmpty())
+	{
+		Later(OnCleared);
+		return;
+	}
+	Call = FSecretStoreCall::Delete(Options.KeyringAccount, Options.Limits.SecretStore,
+		[this, OnCleared](ESecretStoreEnd, const std::string&)
+		{
+			Call.Reset();
+			OnCleared();
+		});
+}
+
+void FTokenStore::ForgetMarker()
+{
+	// What another program keeps in a secret store that this one doesn't use is none of its business.
+	if (Options.bUseKeyring || Marker.Read() != ETokenPlace::SecretStore)
+	{
+		Marker.Write(ETokenPlace::None);
+	}
+}
+
+void FTokenStore::Later(TFunction<void()> Action)
+{
+	Call.Reset();
+	NextTurn = MakeUnique<FNextTurn>(::MoveTemp(Action));
+	NextTurn->Ask();
+}

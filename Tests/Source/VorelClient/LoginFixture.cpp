@@ -1,0 +1,173 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+// Qt's headers come before the engine's, whose macros they don't survive.
+#include <QUrl>
+
+#include "LoginFixture.h"
+
+#include "HAL/PlatformHooks.h"
+#include "Http/Form.h"
+#include "Http/JsonText.h"
+
+FLoginTest::FLoginTest()
+{
+	Options.Issuer = FString(Server.GetAddress().constData());
+	Options.ClientId = TEXT("vorel-editor");
+	Options.DataFolder = Folder.GetPath();
+	Options.KeyringAccount = TEXT("local test");
+	Options.bUseKeyring = false;
+	Options.bAllowTokenFile = true;
+	Options.Clock = {[this] { return Now; },
+		[this]
+		{
+			return TimeOfDay;
+		}};
+	FPlatformHooks::Get().LaunchURL = [this](const FString& Url, FString& OutError)
+	{
+		OpenedPages.Add(Url);
+		OutError = bBrowser ? TEXT("") : TEXT("no browser");
+		return bBrowser;
+	};
+}
+
+FLoginTest::~FLoginTest()
+{
+	EndService();
+	FPlatformHooks::Get() = FPlatformHooks();
+	ExpectNoSecretInLog();
+}
+
+void FLoginTest::EndService()
+{
+	if (Made)
+	{
+		Made->Shutdown();
+		Made->RemoveFromRoot();
+		Made = nullptr;
+	}
+	CollectGarbage();
+}
+
+UOAuthAuthenticationService& FLoginTest::Service()
+{
+	if (!Made)
+	{
+		Made = NewObject<UOAuthAuthenticationService>();
+		Made->AddToRoot();
+		Made->Initialize(Options);
+		Made->OnAuthenticationStateChanged.AddLambda([this] { ++Events; });
+	}
+	return *Made;
+}
+
+void FLoginTest::OpenPage()
+{
+	const int32 Before = OpenedPages.Num();
+	Service().StartLogin();
+	EXPECT_TRUE(PumpUntil([this, Before] { return OpenedPages.Num() > Before; }));
+	SecretsGiven.append(QByteArray::fromStdString(GetParameter("state")));
+}
+
+FString FLoginTest::WaitForEnd()
+{
+	EXPECT_TRUE(PumpUntil([this] { return Events > 0; }));
+	EXPECT_EQ(Events, 1);
+	Events = 0;
+	FString Told;
+	for (const FLogCapture::FMessage& Message : Log.GetMessages())
+	{
+		if (Message.Category == "LogVorelAccount" && Message.Verbosity <= ELogVerbosity::Display)
+		{
+			Told += (Told.IsEmpty() ? TEXT("") : TEXT(" ")) + Message.Text;
+		}
+	}
+	ExpectNoSecretInLog();
+	Log.Clear();
+	return Told;
+}
+
+void FLoginTest::LogIn(const QByteArray& Tokens)
+{
+	Server.Then(ReplyMetadata(Server));
+	Server.Then(ReplyJson("200 OK", Tokens));
+	OpenPage();
+	Browse(MakeRedirect());
+	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed in."));
+	EXPECT_TRUE(Service().IsAuthenticated());
+	const bool bStored = Options.bAllowTokenFile || Options.bUseKeyring;
+	EXPECT_TRUE(PumpUntil([this, bStored] { return !bStored || !Folder.Read(TEXT("login.json")).empty(); }));
+}
+
+FString FLoginTest::GetToken(const FString& RefusedToken)
+{
+	FString Token;
+	const TSharedPtr<void> Request = Service().GetTokens().RequestToken(
+		RefusedToken, [&Token](const FString& Given) { Token = Given.IsEmpty() ? TEXT("none") : Given; });
+	EXPECT_TRUE(Token.IsEmpty());
+	EXPECT_TRUE(PumpUntil([&Token] { return !Token.IsEmpty(); }));
+	return Token;
+}
+
+std::string FLoginTest::GetParameter(const char* Name) const
+{
+	const std::string Url = ToUtf8(OpenedPages.Last());
+	return GetField(ReadForm(Url.substr(Url.find('?') + 1)), Name);
+}
+
+QByteArray FLoginTest::MakeRedirect(const QByteArray& Code, const QByteArray& State) const
+{
+	const QByteArray GoodState = QByteArray::fromStdString(GetParameter("state"));
+	return "/callback?code=" + Code + "&state=" + (State.isEmpty() ? GoodState : State) + "&iss=" + Server.GetAddress().toPercentEncoding();
+}
+
+QByteArray FLoginTest::SendToLogin(const QByteArray& Bytes) const
+{
+	const QUrl Address(QString::fromStdString(GetParameter("redirect_uri")));
+	QTcpSocket Socket;
+	Socket.connectToHost(Address.host(), static_cast<quint16>(Address.port()));
+	Socket.write(QByteArray(Bytes).replace("HOST", Address.authority().toLatin1()));
+	EXPECT_TRUE(PumpUntil([&Socket] { return Socket.state() == QAbstractSocket::UnconnectedState; }));
+	return Socket.readAll();
+}
+
+QByteArray FLoginTest::Browse(const QByteArray& Target) const
+{
+	return SendToLogin("GET " + Target + " HTTP/1.1\r\nHost: HOST\r\n\r\n");
+}
+
+void FLoginTest::ExpectNoSecretInLog() const
+{
+	const std::string Logged = ToUtf8(Log.Dump());
+	for (const QByteArray& Secret : SecretsGiven)
+	{
+		EXPECT_EQ(Logged.find(Secret.toStdString()), std::string::npos) << Logged;
+	}
+	for (const char* const Secret : {"access-", "refresh-", "code-1"})
+	{
+		EXPECT_EQ(Logged.find(Secret), std::string::npos) << Logged;
+	}
+}
+
+FScriptedServer::FHandler ReplyJson(const QByteArray& Status, const QByteArray& Json, const QByteArray& Headers)
+{
+	return [=](const FExchange& Exchange)
+	{
+		Exchange.SendReply(Status, "application/json", Json, Headers);
+	};
+}
+
+FScriptedServer::FHandler ReplyMetadata(const FScriptedServer& Server, const QByteArray& Changes)
+{
+	const std::string Issuer = Server.GetAddress().toStdString();
+	FJson Metadata = {{"issuer", Issuer}, {"authorization_endpoint", Issuer + "/login"}, {"token_endpoint", Issuer + "/token"},
+		{"revocation_endpoint", Issuer + "/revoke"}, {"code_challenge_methods_supported", {"S256"}},
+		{"authorization_response_iss_parameter_supported", true}};
+	Metadata.merge_patch(ParseJson(Changes.toStdString()));
+	return ReplyJson("200 OK", QByteArray::fromStdString(Metadata.dump()));
+}
+
+QByteArray MakeTokens(const QByteArray& Name, const QByteArray& Seconds)
+{
+	return "{\"token_type\":\"bearer\",\"access_token\":\"access-" + Name + "\",\"refresh_token\":\"refresh-" + Name +
+		   "\",\"expires_in\":" + Seconds + "}";
+}

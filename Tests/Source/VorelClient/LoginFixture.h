@@ -1,0 +1,62 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#pragma once
+
+#include "ClientFixture.h"
+
+#include "Account/AccessTokenSource.h"
+#include "Account/OAuthAuthenticationService.h"
+#include "Support/TempFolder.h"
+
+// The real login against a scripted authorization server, with the test in the browser's place. Tokens go to a file.
+class FLoginTest : public testing::Test
+{
+protected:
+	FLoginTest();
+	~FLoginTest() override;
+
+	// Takes effect where it is called before the first use of the service.
+	FLoginOptions Options;
+
+	UOAuthAuthenticationService& Service();
+	// As at the end of the program; the next use begins anew.
+	void EndService();
+
+	// Clicks "Log in" and waits for the page to be opened.
+	void OpenPage();
+	// Until the delegate fired; returns what the user was told since the last time, and expects that it fired once.
+	FString WaitForEnd();
+	// All of it: page, name, tokens.
+	void LogIn(const QByteArray& Tokens);
+	// Waits for a token; "none" where there is none.
+	FString GetToken(const FString& RefusedToken = FString());
+
+	// What the browser's address holds.
+	std::string GetParameter(const char* Name) const;
+	// The good way back, but for what is given in its place.
+	QByteArray MakeRedirect(const QByteArray& Code = "code-1", const QByteArray& State = {}) const;
+	// Sends bytes to where the login waits, and reads the reply to its end. Empty where nobody listens.
+	QByteArray SendToLogin(const QByteArray& Bytes) const;
+	QByteArray Browse(const QByteArray& Target) const;
+
+	void ExpectNoSecretInLog() const;
+
+	FTempFolder Folder;
+	FScriptedServer Server;
+	FLogCapture Log;
+	TArray<FString> OpenedPages;
+	bool bBrowser = true;
+	int32 Events = 0;
+	double Now = 1000.0;
+	double TimeOfDay = 1.8e9;
+	// Whatever stands here must not be logged.
+	QList<QByteArray> SecretsGiven;
+
+private:
+	TObjectPtr<UOAuthAuthenticationService> Made;
+};
+
+FScriptedServer::FHandler ReplyJson(const QByteArray& Status, const QByteArray& Json, const QByteArray& Headers = {});
+// "http://host:port" of its issuer; with members in place of the usual ones, and without those that are null.
+FScriptedServer::FHandler ReplyMetadata(const FScriptedServer& Server, const QByteArray& Changes = "{}");
+QByteArray MakeTokens(const QByteArray& Name, const QByteArray& Seconds = "3600");

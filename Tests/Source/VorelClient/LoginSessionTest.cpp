@@ -1,0 +1,170 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "LoginFixture.h"
+
+#include "Account/AuthorizationMetadata.h"
+#include "Account/LoginSession.h"
+#include "Http/Form.h"
+
+namespace
+{
+constexpr const TCHAR* Ended = TEXT("Your sign-in has ended. Click \"Log in\" to sign in again.");
+} // namespace
+
+// A token is renewed before it runs out and after a refusal, once for all who ask.
+TEST_F(FLoginTest, RenewsInTime)
+{
+	LogIn(MakeTokens("1", "3600"));
+	Now += 3500.0;
+	EXPECT_TEXT(GetToken(), TEXT("access-1"));
+	Now += 60.0;
+	Server.Then(ReplyJson("200 OK", MakeTokens("2", "\"100\"")));
+	TArray<FString> Tokens;
+	const auto Take = [&Tokens](const FString& Token)
+	{
+		Tokens.Add(Token);
+	};
+	const TSharedPtr<void> First = Service().GetTokens().RequestToken(FString(), Take);
+	const TSharedPtr<void> Second = Service().GetTokens().RequestToken(TEXT("access-1"), Take);
+	TSharedPtr<void> Released = Service().GetTokens().RequestToken(FString(), Take);
+	Released.Reset();
+	ASSERT_TRUE(PumpUntil([&Tokens] { return Tokens.Num() == 2; }));
+	EXPECT_TEXT(FString::Join(Tokens, TEXT(" ")), TEXT("access-2 access-2"));
+	EXPECT_EQ(Server.GetExchanges().size(), 3);
+	EXPECT_EQ(GetField(ReadForm(Server.GetExchanges()[2].Body.toStdString()), "refresh_token"), "refresh-1");
+
+	EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("access-2"));
+	Server.Then(ReplyJson("200 OK", R"({"token_type": "Bearer", "access_token": "access-3"})"));
+	EXPECT_TEXT(GetToken(TEXT("access-2")), TEXT("access-3"));
+	EndService();
+	Server.Then(ReplyMetadata(Server));
+	Server.Then(ReplyJson("200 OK", MakeTokens("4", "-1")));
+	EXPECT_TEXT(GetToken(TEXT("access-3")), TEXT("access-4"));
+	EXPECT_EQ(GetField(ReadForm(Server.GetExchanges().last().Body.toStdString()), "refresh_token"), "refresh-2");
+}
+
+TEST_F(FLoginTest, AClockThatIsOffLogsNobodyOut)
+{
+	LogIn(MakeTokens("1"));
+	for (const double Jump : {-1e8, 60.0})
+	{
+		EndService();
+		TimeOfDay += Jump;
+		EXPECT_TEXT(GetToken(), TEXT("access-1"));
+	}
+	EndService();
+	TimeOfDay += 1e9;
+	Server.Then(ReplyMetadata(Server));
+	Server.Then(ReplyJson("503 Off", ""));
+	// Old by the clock: what the server says counts.
+	EXPECT_TEXT(GetToken(), TEXT("access-1"));
+	Server.Then(ReplyJson("200 OK", MakeTokens("2")));
+	EXPECT_TEXT(GetToken(), TEXT("access-2"));
+	EXPECT_TRUE(Service().IsAuthenticated());
+	EXPECT_EQ(Events, 0);
+}
+
+TEST_F(FLoginTest, OnlyARefusalOfTheServerEndsALogin)
+{
+	LogIn(MakeTokens("1"));
+	const FScriptedServer::FHandler Rows[] = {ReplyJson("500 Oops", ""), ReplyJson("200 OK", "rubbish"), ReplyJson("400 Bad", "{}"),
+		ReplyJson("400 Bad", R"({"error": "slow_down"})"), ReplyJson("429 Slow", ""), [](const FExchange& Exchange) { Exchange.Close(); },
+		ReplyJson("307 Moved", "", "Location: http://127.0.0.1:1/token\r\n")};
+	for (const FScriptedServer::FHandler& Handler : Rows)
+	{
+		Server.Then(Handler);
+		EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("none"));
+		EXPECT_TRUE(Service().IsAuthenticated());
+	}
+	EXPECT_EQ(Log.CountAtLevel("LogVorelAccount", ELogVerbosity::Warning), 7) << Log.Dump();
+	EXPECT_EQ(Events, 0);
+	Log.Clear();
+	Server.Then(ReplyJson("400 Bad", R"({"error": "invalid_grant"})"));
+	EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("none"));
+	EXPECT_FALSE(Service().IsAuthenticated());
+	EXPECT_TEXT(WaitForEnd(), Ended);
+	EndService();
+	EXPECT_FALSE(Service().IsAuthenticated());
+}
+
+TEST_F(FLoginTest, ALogoutWinsOverARenewal)
+{
+	LogIn(MakeTokens("1"));
+	FExchange Slow;
+	Server.Then([&Slow](const FExchange& Exchange) { Slow = Exchange; });
+	FString Token = TEXT("?");
+	const TSharedPtr<void> Request =
+		Service().GetTokens().RequestToken(TEXT("access-1"), [&Token](const FString& Given) { Token = Given; });
+	ASSERT_TRUE(PumpUntil([&Slow] { return Slow.Socket != nullptr; }));
+	Service().Logout();
+	Slow.SendReply("200 OK", "application/json", MakeTokens("2"));
+	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed out."));
+	EXPECT_TRUE(PumpUntil([&Token] { return Token.IsEmpty(); }));
+	EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().size() == 4; }));
+	EXPECT_EQ(Server.GetExchanges()[3].Path, "/revoke");
+	EndService();
+	EXPECT_FALSE(Service().IsAuthenticated());
+	EXPECT_TEXT(GetToken(), TEXT("none"));
+}
+
+// Two programs on one folder.
+TEST_F(FLoginTest, ProgramsDoNotLogEachOtherOut)
+{
+	LogIn(MakeTokens("1"));
+	FAuthorizationMetadata Metadata(Options.Issuer, Options.Limits.Http);
+	FLoginSession Other(Options, Metadata);
+	int32 OtherEnded = 0;
+	Other.OnEnded = [&OtherEnded]
+	{
+		++OtherEnded;
+	};
+	EXPECT_TRUE(Other.IsSignedIn());
+	FExchange Slow;
+	Server.Then([&Slow](const FExchange& Exchange) { Slow = Exchange; });
+	TArray<FString> Tokens;
+	const auto Take = [&Tokens](const FString& Token)
+	{
+		Tokens.Add(Token);
+	};
+	const TSharedPtr<void> First = Service().GetTokens().RequestToken(TEXT("access-1"), Take);
+	ASSERT_TRUE(PumpUntil([&Slow] { return Slow.Socket != nullptr; }));
+	const TSharedPtr<void> Second = Other.RequestToken(TEXT("access-1"), Take);
+	PumpUntil([Turns = 0]() mutable { return ++Turns > 20; });
+	EXPECT_TRUE(Tokens.IsEmpty());
+	Slow.SendReply("200 OK", "application/json", MakeTokens("2"));
+	ASSERT_TRUE(PumpUntil([&Tokens] { return Tokens.Num() == 2; }));
+	EXPECT_TEXT(FString::Join(Tokens, TEXT(" ")), TEXT("access-2 access-2"));
+	EXPECT_EQ(Server.GetExchanges().size(), 3);
+
+	// A logout is for both.
+	Server.Then(ReplyJson("200 OK", ""));
+	Service().Logout();
+	WaitForEnd();
+	EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().size() == 4; }));
+	const TSharedPtr<void> Third = Other.RequestToken(TEXT("access-2"), Take);
+	ASSERT_TRUE(PumpUntil([&Tokens] { return Tokens.Num() == 3; }));
+	EXPECT_TRUE(Tokens[2].IsEmpty());
+	EXPECT_FALSE(Other.IsSignedIn());
+	EXPECT_EQ(OtherEnded, 1);
+	EXPECT_TRUE(Log.Has(
+		"LogVorelAccount", ELogVerbosity::Warning, TEXT("You were signed out in another window. Click \"Log in\" to sign in again.")));
+}
+
+TEST_F(FLoginTest, WithoutAPlaceForTokensTheLoginHoldsForThisRun)
+{
+	Options.bAllowTokenFile = false;
+	LogIn(MakeTokens("1"));
+	EXPECT_TEXT(GetToken(), TEXT("access-1"));
+	EXPECT_TRUE(PumpUntil(
+		[this]
+		{
+			return Log.Has("LogVorelAccount", ELogVerbosity::Display,
+				TEXT("You stay signed in until Vorel AI is closed: this desktop has no password store that it could use. The setting "
+					 "allowTokenFile lets it use a file instead."));
+		}))
+		<< Log.Dump();
+	Server.Then(ReplyJson("200 OK", MakeTokens("2")));
+	EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("access-2"));
+	EndService();
+	EXPECT_FALSE(Service().IsAuthenticated());
+}
