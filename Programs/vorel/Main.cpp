@@ -2,6 +2,7 @@
 
 #include "Application/DisplayChoice.h"
 #include "Application/VorelProgram.h"
+#include "Arguments/CommandTable.h"
 #include "Conversations/ConversationCommands.h"
 #include "Options/CommandLine.h"
 #include "Play/PlayScript.h"
@@ -33,13 +34,8 @@ static int OpenWindow(const FCommandLine& Line, const FPlayScript* Script, int A
 
 int main(int ArgumentCount, char** Arguments)
 {
-	TArray<FString> Options;
-	for (int Index = 1; Index < ArgumentCount; ++Index)
-	{
-		Options.Add(FString(Arguments[Index]));
-	}
 	FString Error;
-	const TOptional<FCommandLine> Line = FCommandLine::Parse(Options, Error);
+	const TOptional<FCommandLine> Line = FCommandLine::Parse(MakeArgumentList(ArgumentCount, Arguments), Error);
 	if (!Line)
 	{
 		return RefuseToStart(TEXT("vorel: ") + Error);

@@ -2,6 +2,7 @@
 
 #include "Options/CommandLine.h"
 
+#include "Arguments/OptionTable.h"
 #include "Arguments/ReadNumber.h"
 #include "QtConversion.h"
 
@@ -10,20 +11,6 @@
 
 namespace
 {
-using FSetOption = bool (*)(FCommandLine& Line, const FString& Value);
-
-struct FOption
-{
-	const TCHAR* Name;
-	// Null for an option that stands alone.
-	const TCHAR* ValueName;
-	const TCHAR* Help;
-	// False where the value can't be used.
-	FSetOption Set;
-	// What is wrong then: "--size needs ...".
-	const TCHAR* Needs = nullptr;
-};
-
 bool SetText(FString& Target, const FString& Value)
 {
 	Target = Value;
@@ -92,7 +79,7 @@ bool SetFormat(FCommandLine& Line, const FString& Value)
 }
 
 // clang-format off
-const FOption Options[] = {
+const TOption<FCommandLine> Options[] = {
 	{TEXT("--offscreen"), nullptr, TEXT("Use no display."),
 		[](FCommandLine& Line, const FString&) { return Line.bOffscreen = true; }},
 	{TEXT("--size"), TEXT("WxH"), TEXT("Size of the tab's content in units (1000x800)."), &SetSize,
@@ -123,82 +110,14 @@ const FOption Options[] = {
 };
 // clang-format on
 
-// Of "conversations".
-struct FCommand
-{
-	const TCHAR* Name;
-	// Null for one that takes none.
-	const TCHAR* Argument;
-	const TCHAR* Help;
-};
-
-const FCommand Commands[] = {
-	{TEXT("list"), nullptr, TEXT("One a line, newest first: id, time, mode and title, separated by tabs.")},
-	{TEXT("show"), TEXT("ID"), TEXT("Print a conversation.")},
-	{TEXT("export"), TEXT("ID"), TEXT("Print it as Markdown, or as JSON with --format json.")},
-	{TEXT("import"), TEXT("FILE"), TEXT("Add a conversation from such JSON, and print its id; a taken id gives way to a new one.")},
-	{TEXT("delete"), TEXT("ID"), TEXT("Delete a conversation.")},
-};
-
-const FOption* FindOption(const FString& Name)
-{
-	for (const FOption& Option : Options)
+const FProgramCommandTable Commands = {TEXT("conversations"),
 	{
-		if (Name.Equals(Option.Name))
-		{
-			return &Option;
-		}
-	}
-	return nullptr;
-}
-
-// Reads the option at Index, and moves Index to its last argument. Returns what is wrong with it, or nothing.
-FString ReadOption(const TArray<FString>& Arguments, int32& Index, FCommandLine& Line)
-{
-	FString Name = Arguments[Index];
-	FString Value;
-	const bool bHasValue = Name.StartsWith(TEXT("--")) && Name.Split(TEXT("="), &Name, &Value);
-	const FOption* const Option = FindOption(Name);
-	if (!Option)
-	{
-		return FString::Printf(TEXT("there is no option %s, see --help"), *Name);
-	}
-	if (!Option->ValueName && bHasValue)
-	{
-		return FString::Printf(TEXT("%s takes no value"), *Name);
-	}
-	if (Option->ValueName && !bHasValue)
-	{
-		Value = Arguments.IsValidIndex(Index + 1) ? Arguments[++Index] : FString();
-	}
-	return Option->Set(Line, Value) ? FString() : FString::Printf(TEXT("%s needs %s"), *Name, Option->Needs);
-}
-
-// Takes the words that are no options. Returns what is wrong with them, or nothing.
-FString ReadCommand(const TArray<FString>& Words, FCommandLine& Line)
-{
-	if (Words.IsEmpty())
-	{
-		return FString();
-	}
-	if (!Words[0].Equals(TEXT("conversations")))
-	{
-		return FString::Printf(TEXT("there is no option %s, see --help"), *Words[0]);
-	}
-	Line.Command = Words;
-	Line.Command.RemoveAt(0);
-	for (const FCommand& Command : Commands)
-	{
-		if (!Line.Command.IsEmpty() && Line.Command[0].Equals(Command.Name))
-		{
-			const int32 NumWanted = Command.Argument ? 2 : 1;
-			const TCHAR* const Argument = Command.Argument ? Command.Argument : TEXT("nothing");
-			return Line.Command.Num() == NumWanted ? FString()
-												   : FString::Printf(TEXT("conversations %s takes %s, see --help"), Command.Name, Argument);
-		}
-	}
-	return TEXT("conversations needs list, show, export, import or delete, see --help");
-}
+		{TEXT("list"), nullptr, TEXT("One a line, newest first: id, time, mode and title, separated by tabs.")},
+		{TEXT("show"), TEXT("ID"), TEXT("Print a conversation.")},
+		{TEXT("export"), TEXT("ID"), TEXT("Print it as Markdown, or as JSON with --format json.")},
+		{TEXT("import"), TEXT("FILE"), TEXT("Add a conversation from such JSON, and print its id; a taken id gives way to a new one.")},
+		{TEXT("delete"), TEXT("ID"), TEXT("Delete a conversation.")},
+	}};
 
 // What is wrong with options that are right one by one, or nothing.
 FString FindContradiction(const FCommandLine& Line)
@@ -210,57 +129,31 @@ FString FindContradiction(const FCommandLine& Line)
 	const bool bNobodysCredits = Line.DailyCredits && !Line.ServiceUrl.IsEmpty();
 	return bNobodysCredits ? TEXT("--daily-credits is for the program's own service, which --service replaces") : TEXT("");
 }
-
-FString MakeHelpLine(const TCHAR* Name, const TCHAR* Value, const TCHAR* Help)
-{
-	const FString Form = FString(Name) + (Value ? FString(TEXT(" ")) + Value : FString());
-	return FString::Printf(TEXT("  %s%s%s\n"), *Form, *FString::ChrN(20 - Form.Len(), TEXT(' ')), Help);
-}
 } // namespace
 
 TOptional<FCommandLine> FCommandLine::Parse(const TArray<FString>& Arguments, FString& OutError)
 {
 	FCommandLine Line;
 	TArray<FString> Words;
-	bool bOptionsOver = false;
-	for (int32 Index = 0; Index < Arguments.Num(); ++Index)
+	OutError = ReadArguments(Options, Arguments, Line, Words);
+	if (OutError.IsEmpty() && !Line.bHelp)
 	{
-		if (!bOptionsOver && Arguments[Index].Equals(TEXT("--")))
-		{
-			bOptionsOver = true;
-			continue;
-		}
-		if (bOptionsOver || !Arguments[Index].StartsWith(TEXT("-")))
-		{
-			Words.Add(Arguments[Index]);
-			continue;
-		}
-		OutError = ReadOption(Arguments, Index, Line);
-		if (!OutError.IsEmpty())
-		{
-			return NullOpt;
-		}
+		OutError = Commands.Read(Words, Line.Command);
 	}
-	OutError = Line.bHelp ? FString() : ReadCommand(Words, Line);
-	OutError = Line.bHelp || !OutError.IsEmpty() ? OutError : FindContradiction(Line);
+	if (OutError.IsEmpty() && !Line.bHelp)
+	{
+		OutError = FindContradiction(Line);
+	}
 	return OutError.IsEmpty() ? TOptional<FCommandLine>(Line) : NullOpt;
 }
 
 FString FCommandLine::GetHelp()
 {
-	FString Help = TEXT("Usage: vorel [options]\n"
-						"       vorel [options] conversations COMMAND\n\n"
-						"Opens the editor window with the assistant's tab in its Tools menus, or works on the stored conversations.\n\n");
-	for (const FOption& Option : Options)
-	{
-		Help += MakeHelpLine(Option.Name, Option.ValueName, Option.Help);
-	}
-	Help += TEXT("\nCommands, which need no display; for an ID that begins like an option put -- before it:\n\n");
-	for (const FCommand& Command : Commands)
-	{
-		Help += MakeHelpLine(Command.Name, Command.Argument, Command.Help);
-	}
-	return Help +
+	return TEXT("Usage: vorel [options]\n"
+				"       vorel [options] conversations COMMAND\n\n"
+				"Opens the editor window with the assistant's tab in its Tools menus, or works on the stored conversations.\n\n") +
+		   MakeHelp(Options) + TEXT("\nCommands, which need no display; for an ID that begins like an option put -- before it:\n\n") +
+		   Commands.MakeHelp() +
 		   TEXT("\nWithout --assistant and without such an entry in the settings, the service answers: the built-in guide, or what "
 				"--service\n"
 				"names. An assistant's key is taken from the environment variable VOREL_ASSISTANT_KEY.\n"
