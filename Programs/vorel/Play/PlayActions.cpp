@@ -116,16 +116,6 @@ FPlayStep PlayActions::Open(const FString& Label)
 	};
 }
 
-FPlayStep PlayActions::Login(const FString& Name)
-{
-	return [Name](IPlayStage& Stage, double)
-	{
-		return Stage.IsSignedIn()
-				   ? FPlayResult::Done()
-				   : FailHere(Stage, FString::Printf(TEXT("%s can't sign in: there is no login panel"), *FWidgetTreeDump::Quote(Name)));
-	};
-}
-
 FPlayStep PlayActions::Focus(const FString& HintOrText)
 {
 	const FTarget Editable{HintOrText, NullOpt,

@@ -11,7 +11,6 @@ struct FContentSize;
 namespace PlayActions
 {
 FPlayStep Open(const FString& Label);
-FPlayStep Login(const FString& Name);
 FPlayStep Focus(const FString& HintOrText);
 FPlayStep Type(const FString& Text);
 FPlayStep Press(const FKeyStroke& Stroke);

@@ -29,6 +29,7 @@ public:
 	FKeyStroke TakeKey();
 	FContentSize TakeSize();
 
+	bool IsAtEnd() const { return !Peek(); }
 	// Nothing may be left.
 	void End();
 	void Fail(const FString& Problem);

@@ -4,6 +4,7 @@
 
 #include "Play/PlayActions.h"
 #include "Play/PlayArguments.h"
+#include "Play/PlayBrowser.h"
 #include "Play/PlayExpectations.h"
 #include "Play/PlayFiles.h"
 
@@ -16,7 +17,13 @@ FPlayStep ParseOpen(FPlayArguments& Arguments)
 
 FPlayStep ParseLogin(FPlayArguments& Arguments)
 {
-	return PlayActions::Login(Arguments.TakeText(TEXT("a name")));
+	const FString Name = Arguments.TakeText(TEXT("a name"));
+	return PlayBrowser::Login(Name, Arguments.IsAtEnd() ? FString() : Arguments.TakeText(TEXT("a password")));
+}
+
+FPlayStep ParseBrowse(FPlayArguments& Arguments)
+{
+	return PlayBrowser::Press(Arguments.TakeText(TEXT("the caption of a button")));
 }
 
 FPlayStep ParseFocus(FPlayArguments& Arguments)
@@ -124,6 +131,7 @@ struct FPlayCommand
 const FPlayCommand Commands[] = {
 	{TEXT("open"), &ParseOpen},
 	{TEXT("login"), &ParseLogin},
+	{TEXT("browse"), &ParseBrowse},
 	{TEXT("focus"), &ParseFocus},
 	{TEXT("type"), &ParseType},
 	{TEXT("press"), &ParsePress},

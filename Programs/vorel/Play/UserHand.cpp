@@ -30,6 +30,15 @@ void FUserHand::Click(const QPointF& Position)
 	SendMouse(QEvent::MouseButtonRelease, Position, Qt::LeftButton, Qt::NoButton);
 }
 
+void FUserHand::ComeBack()
+{
+	for (const QEvent::Type Type : {QEvent::WindowDeactivate, QEvent::WindowActivate})
+	{
+		QEvent Event(Type);
+		QCoreApplication::sendEvent(&Host, &Event);
+	}
+}
+
 void FUserHand::Wheel(const QPointF& Position, int32 Notches)
 {
 	constexpr int OneNotch = 120;

@@ -24,6 +24,8 @@ public:
 	void Wheel(const QPointF& Position, int32 Notches);
 	void Press(const FKeyStroke& Stroke);
 	void Type(const QString& Text);
+	// From another window, in which the user was meanwhile.
+	void ComeBack();
 
 private:
 	void SendMouse(QEvent::Type Type, const QPointF& Position, Qt::MouseButton Button, Qt::MouseButtons Pressed);

@@ -26,17 +26,19 @@ public:
 	QSlateWidget* GetTabContent() override { return bTabOpen ? Host.get() : nullptr; }
 	QWidget& GetWindow() override { return *Host; }
 	void ResizeTabContent(const FContentSize& Size) override { Host->resize(Size.Width, Size.Height); }
-	bool IsSignedIn() const override { return true; }
+	bool IsSignedIn() const override { return bSignedIn; }
 	bool IsRequestUnderWay() const override { return bRequestUnderWay; }
 	bool IsPainted() const override;
 	int64 GetNumFrames() const override;
-	TArray<FString> GetOpenedAddresses() const override { return {}; }
+	TArray<FString> GetOpenedAddresses() const override { return OpenedAddresses; }
 
 	int32 NumPressed = 0;
 	int32 NumPressedToo = 0;
 	int32 NumTagged = 0;
 	bool bTabOpen = true;
+	bool bSignedIn = true;
 	bool bRequestUnderWay = false;
+	TArray<FString> OpenedAddresses;
 	TSharedPtr<SScrollBox> Rows;
 
 private:

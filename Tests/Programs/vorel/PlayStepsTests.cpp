@@ -1,6 +1,8 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
+#include "Play/PageForm.h"
 #include "PlayScene.h"
+#include "QtConversion.h"
 #include "Widgets/Layout/SScrollBox.h"
 
 namespace
@@ -96,4 +98,43 @@ TEST(PlaySteps, AFileThatCantBeWrittenIsAFailure)
 	EXPECT_FAILS(Scene, "screenshot \"/proc/none/a.png\"",
 		"a.play:1: can't write /proc/none/a.png: Cannot open device for writing: No such file or directory");
 	EXPECT_FAILS(Scene, "tree \"/proc/none/a.txt\"", "a.play:1: can't write /proc/none/a.txt");
+}
+
+TEST(PlaySteps, TheBrowserSaysWhatWentWrongInIt)
+{
+	FPlayScene Scene;
+	EXPECT_PLAYS(Scene, "login \"Ada\"");
+	EXPECT_FAILS(Scene, "browse \"Top up\"", "a.play:1: nothing was sent to the browser");
+	Scene.bSignedIn = false;
+	EXPECT_FAILS(Scene, "login \"Ada\"", "a.play:1: \"Log in\": no widget shows it");
+	// The port of a service that no machine offers any more.
+	Scene.OpenedAddresses = {TEXT("http://127.0.0.1:9/login")};
+	EXPECT_FAILS(Scene, "login \"Ada\"", "a.play:1: the browser gets status 0: Connection refused");
+	EXPECT_FAILS(Scene, "browse \"Top up\"", "a.play:1: the browser gets status 0: Connection refused");
+}
+
+TEST(PageForm, IsSentAsABrowserDoes)
+{
+	const QString Html = QStringLiteral("<h1>Sign <b>in</b></h1><form action=\"/other\"><input name=\"a\"><button>Other</button></form>\n"
+										"<FORM method=\"post\" action=\"/login?x\"><input type=\"hidden\" name=\"state\"\n"
+										"value=\"&lt;a&amp;b&gt; &quot;+&quot;\"><input id=\"n\" name=\"name\" value=\"Bob\" required>\n"
+										"<button class=\"first\" name=\"action\" value=\"allow\">Go &amp; on</button>\n"
+										"<button name=\"action\" value=\"cancel\">Cancel</button></FORM>");
+	const QUrl Page(QStringLiteral("http://host:1/page?q"));
+	const QMap<QString, QString> Entries{{QStringLiteral("name"), QStringLiteral("Ä=&")}};
+	const std::tuple<const char*, const char*, const char*> Rows[] = {
+		{"", "http://host:1/other", "a="},
+		{"Go & on", "http://host:1/login?x", "state=%3Ca%26b%3E%20%22%2B%22&name=%C3%84%3D%26&action=allow"},
+		{"Cancel", "http://host:1/login?x", "state=%3Ca%26b%3E%20%22%2B%22&name=%C3%84%3D%26&action=cancel"},
+	};
+	for (const auto& [Button, Action, Body] : Rows)
+	{
+		const TOptional<FPageForm> Form = FPageForm::Find(Page, Html, Entries, QString::fromUtf8(Button));
+		ASSERT_TRUE(Form) << Button;
+		EXPECT_EQ(Form->Action.toString().toStdString(), Action);
+		EXPECT_EQ(Form->Body.toStdString(), Body);
+	}
+	EXPECT_FALSE(FPageForm::Find(Page, Html, Entries, QStringLiteral("Go")));
+	EXPECT_TEXT(ReadPageMessage(Html), TEXT("Sign in"));
+	EXPECT_TEXT(ReadPageMessage(Html + QStringLiteral("<p class=\"x\" role=\"alert\">Wrong <i>name</i>.</p>")), TEXT("Wrong name."));
 }
