@@ -3,7 +3,6 @@
 #include "VorelClientServices.h"
 
 #include "Account/LocalAuthenticationService.h"
-#include "Account/LocalUserDataService.h"
 #include "Http/JsonText.h"
 #include "Chat/HttpChatService.h"
 #include "DataFolder.h"
@@ -12,6 +11,7 @@
 #include "LogVorel.h"
 #include "Misc/Paths.h"
 #include "Update/VersionFeedUpdateService.h"
+#include "UserData/VorelUserDataService.h"
 #include "VorelClientOptions.h"
 #include "VorelUserSettings.h"
 #include <cstdlib>
@@ -67,13 +67,18 @@ const FVorelClientOptions& FVorelClientOptions::Get()
 FVorelClientServices::FVorelClientServices()
 	: ChatService(MakeRooted<UHttpChatService>())
 	, AuthService(MakeRooted<ULocalAuthenticationService>())
-	, UserDataService(MakeRooted<ULocalUserDataService>())
+	, UserDataService(MakeRooted<UVorelUserDataService>())
 	, UpdateService(MakeRooted<UVersionFeedUpdateService>())
 {
 	const FString& Chosen = FVorelClientOptions::Get().ServiceUrl;
 	ServiceUrl = Chosen.IsEmpty() ? StartLocalService() : Chosen;
 	UVorelUserSettings::Get()->SetDefaultAppUrl(ServiceUrl);
 	ChatService->Initialize(ChooseAssistant(), ReadLimits(), GetDataFile(FConversationStore::FileName));
+	ChatService->OnCreditsSpent = [this]
+	{
+		UserDataService->AskAgain();
+	};
+	UserDataService->Initialize({ServiceUrl, &OwnerKey, nullptr, nullptr}, *AuthService);
 	UpdateService->Initialize(
 		{ServiceUrl, Chosen.IsEmpty() ? FString(TEXT("embedded")) : FString(), GetDataFile(FVersionFeedNote::FileName)},
 		GetInstalledVersion());
@@ -82,6 +87,7 @@ FVorelClientServices::FVorelClientServices()
 FVorelClientServices::~FVorelClientServices()
 {
 	ChatService->Shutdown();
+	UserDataService->Shutdown();
 	UpdateService->Shutdown();
 	for (UObject* const Service : TArray<UObject*>{ChatService, AuthService, UserDataService, UpdateService})
 	{
@@ -92,6 +98,11 @@ FVorelClientServices::~FVorelClientServices()
 TObjectPtr<UChatService> FVorelClientServices::GetChatService() const
 {
 	return ChatService;
+}
+
+TObjectPtr<UUserDataService> FVorelClientServices::GetUserDataService() const
+{
+	return UserDataService;
 }
 
 TObjectPtr<UVorelUpdateService> FVorelClientServices::GetUpdateService() const
@@ -138,6 +149,10 @@ FString FVorelClientServices::StartLocalService()
 		Chosen.GuidePieceMilliseconds < 0 ? Options.PieceInterval : std::chrono::milliseconds(Chosen.GuidePieceMilliseconds);
 
 	Options.OwnerKey = ToUtf8(OwnerKey.Get());
+	Options.DataFile = ToUtf8(GetDataFile(TEXT("service.sqlite")));
+	Options.Version = ToUtf8(GetInstalledVersion());
+	Options.DailyCredits = Chosen.DailyCredits.Get(Options.DailyCredits);
+	Options.bTokenRequired = true;
 
 	std::string Error;
 	LocalService = FLocalService::Start(Options, Error);

@@ -10,6 +10,7 @@
 class FLocalService;
 class UHttpChatService;
 class UVersionFeedUpdateService;
+class UVorelUserDataService;
 
 // Owns the four services, and the embedded local service where no other one was chosen.
 class FVorelClientServices final : public FVorelClient
@@ -20,7 +21,7 @@ public:
 
 	TObjectPtr<UChatService> GetChatService() const override;
 	TObjectPtr<UAuthenticationService> GetAuthService() const override { return AuthService; }
-	TObjectPtr<UUserDataService> GetUserDataService() const override { return UserDataService; }
+	TObjectPtr<UUserDataService> GetUserDataService() const override;
 	TObjectPtr<UVorelUpdateService> GetUpdateService() const override;
 
 private:
@@ -37,6 +38,6 @@ private:
 	// In the root set.
 	TObjectPtr<UHttpChatService> ChatService;
 	TObjectPtr<UAuthenticationService> AuthService;
-	TObjectPtr<UUserDataService> UserDataService;
+	TObjectPtr<UVorelUserDataService> UserDataService;
 	TObjectPtr<UVersionFeedUpdateService> UpdateService;
 };

@@ -64,6 +64,8 @@ TEST_F(VorelProgram, PlaysEveryCommandTwiceWithTheSameFiles)
 	QHash<QString, QByteArray> First;
 	for (int Round = 0; Round < 2; ++Round)
 	{
+		// With it go the credits that are spent and shown.
+		QDir(GetPath("data")).removeRecursively();
 		const FProgramOutcome Outcome = PlaySample("every-command.play");
 		ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
 		const QHash<QString, QByteArray> Saved = ReadFolder("every-command");

@@ -71,19 +71,16 @@ TEST_F(FLocalAssistantTest, CountsAsSignedIn)
 	EXPECT_EQ(Changes, 2);
 }
 
-TEST_F(FLocalAssistantTest, KnowsTheLocalUserInTheNextFrame)
+TEST_F(FLocalAssistantTest, KnowsTheUserAndWhatAnAnswerCosts)
 {
 	const TObjectPtr<UUserDataService> Users = FVorelClient::Get().GetUserDataService();
-	FString Told;
-	Users->OnUserDataChanged.AddLambda([&](const FVorelUserData& Data, bool bSuccess)
-		{ Told += FString::Printf(TEXT("%s %d %d;"), *Data.UserName, Data.Credits, bSuccess ? 1 : 0); });
+	TArray<int32> Credits;
+	Users->OnUserDataChanged.AddLambda([&](const FVorelUserData& Data, bool bSuccess) { Credits.Add(bSuccess ? Data.Credits : -1); });
 	Users->GetUserData();
-	Users->GetUserData();
-	EXPECT_EQ(Told, TEXT(""));
-	EXPECT_TRUE(Users->UserData.UserName.IsEmpty());
-	FTSTicker::GetCoreTicker().Tick(0.0f);
-	FTSTicker::GetCoreTicker().Tick(0.0f);
-	EXPECT_EQ(Told, TEXT("Local user 100 1;"));
+	ASSERT_TRUE(PumpUntil([&] { return Credits.Num() == 1; }));
+	FVorelClient::Get().GetChatService()->SendMessage(TEXT("How do I set a timer?"));
+	ASSERT_TRUE(PumpUntil([&] { return Credits.Num() == 2; }));
+	EXPECT_EQ(Credits, (TArray<int32>{100, 99}));
 }
 
 TEST_F(FLocalAssistantTest, KeepsItsServicesUntilItIsUnloaded)
