@@ -120,9 +120,9 @@ QByteArray FLoginTest::MakeRedirect(const QByteArray& Code, const QByteArray& St
 	return "/callback?code=" + Code + "&state=" + (State.isEmpty() ? GoodState : State) + "&iss=" + Server.GetAddress().toPercentEncoding();
 }
 
-QByteArray FLoginTest::SendToLogin(const QByteArray& Bytes) const
+QByteArray FLoginTest::SendTo(const std::string& Url, const QByteArray& Bytes)
 {
-	const QUrl Address(QString::fromStdString(GetParameter("redirect_uri")));
+	const QUrl Address(QString::fromStdString(Url));
 	QTcpSocket Socket;
 	Socket.connectToHost(Address.host(), static_cast<quint16>(Address.port()));
 	Socket.write(QByteArray(Bytes).replace("HOST", Address.authority().toLatin1()));
@@ -140,7 +140,7 @@ void FLoginTest::ExpectNoSecretInLog() const
 	const std::string Logged = ToUtf8(Log.Dump());
 	for (const QByteArray& Secret : SecretsGiven)
 	{
-		EXPECT_EQ(Logged.find(Secret.toStdString()), std::string::npos) << Logged;
+		EXPECT_TRUE(Secret.isEmpty() || Logged.find(Secret.toStdString()) == std::string::npos) << Logged;
 	}
 	for (const char* const Secret : {"access-", "refresh-", "code-1"})
 	{

@@ -35,8 +35,9 @@ protected:
 	std::string GetParameter(const char* Name) const;
 	// The good way back, but for what is given in its place.
 	QByteArray MakeRedirect(const QByteArray& Code = "code-1", const QByteArray& State = {}) const;
-	// Sends bytes to where the login waits, and reads the reply to its end. Empty where nobody listens.
-	QByteArray SendToLogin(const QByteArray& Bytes) const;
+	// Sends bytes to where the login waits, with its host for HOST, and reads the reply to its end. Empty where nobody listens.
+	QByteArray SendToLogin(const QByteArray& Bytes) const { return SendTo(GetParameter("redirect_uri"), Bytes); }
+	static QByteArray SendTo(const std::string& Url, const QByteArray& Bytes);
 	QByteArray Browse(const QByteArray& Target) const;
 
 	void ExpectNoSecretInLog() const;
