@@ -12,13 +12,14 @@ namespace
 {
 json MakeSecuritySchemes(const std::string& Address)
 {
+	const bool bSecure = Address.starts_with("https://");
 	const json Flow = {{"authorizationUrl", Address + "/login"}, {"tokenUrl", Address + "/oauth/token"},
 		{"refreshUrl", Address + "/oauth/token"}, {"scopes", json::object()}};
 	return {{"account", {{"type", "oauth2"},
 							{"description",
 								"Authorization code for native programs, with PKCE (S256). The one client is the public `vorel-editor`."},
 							{"flows", {{"authorizationCode", Flow}}}}},
-		{"browserSession", {{"type", "apiKey"}, {"in", "cookie"}, {"name", "vorel_session"},
+		{"browserSession", {{"type", "apiKey"}, {"in", "cookie"}, {"name", bSecure ? "__Host-vorel_session" : "vorel_session"},
 							   {"description", "Set by signing in at `/login` without parameters, where accounts have passwords."}}}};
 }
 

@@ -208,11 +208,11 @@ const char* const OpenApiResponses = R"json({
 		"headers": {"WWW-Authenticate": {"schema": {"type": "string"}, "example": "Bearer error=\"invalid_token\""}},
 		"content": {"application/json": {"schema": {"$ref": "#/components/schemas/Error"}}}
 	},
-	"Forbidden": {"description": "The host or the origin is not the service's own.", "content": {"application/json": {"schema": {"$ref": "#/components/schemas/Error"}}}},
+	"Forbidden": {"description": "The host or the origin is not the service's own. For a browser, a page.", "content": {"application/json": {"schema": {"$ref": "#/components/schemas/Error"}}, "text/html": {"schema": {"type": "string"}}}},
 	"TooManyTries": {
 		"description": "The page again: too many tries.",
 		"headers": {"Retry-After": {"description": "Seconds.", "schema": {"type": "integer"}}},
 		"content": {"text/html": {"schema": {"type": "string"}}}
 	},
-	"Failed": {"description": "Anything else that is wrong.", "content": {"application/json": {"schema": {"$ref": "#/components/schemas/Error"}}}}
+	"Failed": {"description": "Anything else that is wrong. For a browser, a page.", "content": {"application/json": {"schema": {"$ref": "#/components/schemas/Error"}}, "text/html": {"schema": {"type": "string"}}}}
 })json";

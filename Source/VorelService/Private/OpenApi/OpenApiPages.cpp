@@ -23,7 +23,7 @@ const char* const OpenApiPagePaths = R"json({
 			],
 			"responses": {
 				"200": {"$ref": "#/components/responses/Page"},
-				"303": {"description": "The request is refused. The address holds `error`, `state` and `iss`.", "headers": {"Location": {"schema": {"type": "string"}}}},
+				"303": {"description": "To the program: the request is refused, and the address holds `error`, `state` and `iss`. Without parameters, where there is but one account, to `/billing`.", "headers": {"Location": {"schema": {"type": "string"}}}},
 				"400": {"description": "A page: the client or the redirect address is unknown.", "content": {"text/html": {"schema": {"type": "string"}}}}
 			}
 		},
@@ -66,7 +66,6 @@ const char* const OpenApiPagePaths = R"json({
 			},
 			"responses": {
 				"200": {"$ref": "#/components/responses/Page"},
-				"303": {"description": "To a page of this service.", "headers": {"Location": {"schema": {"type": "string"}}}},
 				"400": {"description": "A page: the form is out of date.", "content": {"text/html": {"schema": {"type": "string"}}}}
 			}
 		}

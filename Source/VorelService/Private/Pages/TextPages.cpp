@@ -44,17 +44,17 @@ std::string MakePrivacyPage()
 statistics.</p>
 <h2>What it stores</h2>
 <ul>
-<li>the name of your account, and when it was made</li>
+<li>the name of your account</li>
 <li>a hash of your password, where accounts have one; never the password</li>
-<li>hashes of the tokens by which programs and browsers stay signed in, and when these run out</li>
+<li>hashes of what keeps programs and browsers signed in, and when that runs out</li>
 <li>how many credits you have left today</li>
 </ul>
 <h2>What it does not store</h2>
 <p>Your questions and its answers. A question arrives with the conversation before it, is answered, and forgotten. The conversations that you
 see in the program are kept by the program, in your own data folder.</p>
 <h2>In the browser</h2>
-<p>These pages use no scripts and load nothing from elsewhere. At most they set cookies that keep you signed in and prove that a form came
-from this service. They are needed for that and used for nothing else.</p>
+<p>These pages use no scripts and load nothing from elsewhere. Where accounts have passwords, signing in here sets one cookie, which keeps you
+signed in for a week or until you sign out, and is used for nothing else.</p>
 <h2>How to be forgotten</h2>
 <p>Logging out, in the program or here, deletes what kept you signed in. Where the service runs inside your own program, its file
 <code>service.sqlite</code> in the data folder holds the rest, and you may delete it. Else whoever runs the service removes your account, with all
