@@ -44,7 +44,8 @@ icu::UnicodeString Trim(const icu::UnicodeString& Text)
 	{
 		End = Text.moveIndex32(End, -1);
 	}
-	return Text.tempSubStringBetween(Start, End);
+	// A copy: what only pointed into the text would not survive being assigned to it.
+	return icu::UnicodeString(Text, Start, End - Start);
 }
 
 // Neither moves what stands around it nor can be mistaken for nothing.
