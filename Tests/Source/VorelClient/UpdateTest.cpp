@@ -6,7 +6,7 @@
 #include "ClientFixture.h"
 
 #include "Support/TempFolder.h"
-#include "Update/SemanticVersion.h"
+#include "SemanticVersion.h"
 #include "Update/VersionFeedUpdateService.h"
 
 TEST(FSemanticVersionTest, OrdersByPrecedence)

@@ -8,7 +8,7 @@
 
 #include "Http/JsonText.h"
 #include "LogVorel.h"
-#include "Update/SemanticVersion.h"
+#include "SemanticVersion.h"
 #include "Update/VersionFeedUpdateService.h"
 
 static constexpr FRequestLimits Limits{10.0, 30.0, 30.0};

@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Update/SemanticVersion.h"
+#include "SemanticVersion.h"
 
 namespace
 {
