@@ -10,6 +10,12 @@
 
 static constexpr int PatienceInMilliseconds = 120'000;
 
+FProgramOutcome FProgramRun::RunShell(const char* Name, const char* Command, const QString& Folder)
+{
+	const QString Setup = QStringLiteral("P='%1'; exec 2>&1; ").arg(FindProgram(QString::fromUtf8(Name)));
+	return FProgramRun{QStringLiteral("/bin/bash"), {QStringLiteral("-c"), Setup + QString::fromUtf8(Command)}, Folder}.Run();
+}
+
 QString FProgramRun::FindProgram(const QString& Name)
 {
 	return QFileInfo(QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget()).path() + QLatin1Char('/') + Name;

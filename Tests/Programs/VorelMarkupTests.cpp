@@ -5,11 +5,9 @@
 
 namespace
 {
-// Runs a shell command in which the program is called $P. The output holds what it wrote to stdout and stderr.
 FProgramOutcome RunShell(const char* Command)
 {
-	const QString Setup = QStringLiteral("P='%1'; exec 2>&1; ").arg(FProgramRun::FindProgram(QStringLiteral("vorel-markup")));
-	return FProgramRun{QStringLiteral("/bin/bash"), {QStringLiteral("-c"), Setup + QString::fromUtf8(Command)}, QString()}.Run();
+	return FProgramRun::RunShell("vorel-markup", Command);
 }
 
 void ExpectOutcome(const char* Command, const char* Output, int ExitStatus)
