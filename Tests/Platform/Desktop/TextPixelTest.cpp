@@ -53,24 +53,3 @@ TEST(TextPixels, TextTakesItsTintAndEmojiTheAlphaAlone)
 	EXPECT_NE(White, Draw(Emoji, FLinearColor(1.0f, 1.0f, 1.0f, 0.5f)));
 	EXPECT_EQ(Draw(TEXT(""), FLinearColor::White), Draw(Emoji, FLinearColor::Transparent));
 }
-
-TEST(TextPixels, TheBaselineLiesOnAWholePixel)
-{
-	// A letter with a flat foot ends in one row, whatever fraction its line begins at.
-	for (const double Top : {2.0, 2.3, 2.5, 2.8})
-	{
-		const QImage Picture = Draw(TEXT("HHH"), FLinearColor::White, Top);
-		const int Ground = qGray(Picture.pixel(0, 0));
-		int Faint = 0;
-		for (int Row = 0; Row < Picture.height(); ++Row)
-		{
-			int Brightest = 0;
-			for (int Column = 0; Column < Picture.width(); ++Column)
-			{
-				Brightest = qMax(Brightest, qGray(Picture.pixel(Column, Row)));
-			}
-			Faint += Brightest > Ground + 10 && Brightest < 200 ? 1 : 0;
-		}
-		EXPECT_LE(Faint, 1) << Top;
-	}
-}

@@ -61,21 +61,16 @@ protected:
 };
 } // namespace
 
-TEST_F(Button, AddsItsStylesPaddingToTheContentsAndMovesTheContentWhilePressed)
+TEST_F(Button, ShowsWhatTheMouseDoesAndMovesItsContentWhilePressed)
 {
 	EXPECT_EQ(Widget->GetCachedGeometry().GetLocalSize(), FVector2D(100.0, 40.0));
 	EXPECT_EQ(Label->GetCachedGeometry().GetAbsolutePosition(), FVector2D(18.0, 12.0));
-	User.MouseDown(Inside);
-	EXPECT_EQ(Label->GetCachedGeometry().GetAbsolutePosition(), FVector2D(18.0, 13.0));
-}
-
-TEST_F(Button, ShowsWhatTheMouseDoes)
-{
 	EXPECT_EQ(ColorOfButton(), QColor(255, 0, 0));
 	User.MoveTo(Inside);
 	EXPECT_EQ(ColorOfButton(), QColor(0, 255, 0));
 	User.MouseDown(Inside);
 	EXPECT_EQ(ColorOfButton(), QColor(0, 0, 255));
+	EXPECT_EQ(Label->GetCachedGeometry().GetAbsolutePosition(), FVector2D(18.0, 13.0));
 	User.MouseUp(Inside);
 	EXPECT_EQ(ColorOfButton(), QColor(0, 255, 0));
 	User.MoveTo(Outside);
@@ -84,31 +79,22 @@ TEST_F(Button, ShowsWhatTheMouseDoes)
 
 TEST_F(Button, IsClickedByPressingAndLettingGoOverIt)
 {
-	User.Click(TEXT("Press me"));
-	EXPECT_EQ(NumClicks, 1);
 	User.MouseDown(Inside);
 	EXPECT_TRUE(Widget->IsPressed());
 	User.MoveTo(Outside);
 	User.MoveTo(Inside);
 	User.MouseUp(Inside);
-	EXPECT_EQ(NumClicks, 2) << "back again";
+	EXPECT_EQ(NumClicks, 1) << "back again";
 	User.DoubleClickAt(Inside);
-	EXPECT_EQ(NumClicks, 4) << "two quick clicks are two";
-}
-
-TEST_F(Button, LettingGoElsewhereIsNoClick)
-{
+	EXPECT_EQ(NumClicks, 3) << "two quick clicks are two";
 	User.MouseDown(Inside);
 	User.MouseUp(Outside);
-	EXPECT_EQ(NumClicks, 0);
 	EXPECT_FALSE(Widget->IsPressed());
-	User.MouseUp(Inside);
 	User.MouseDown(Outside);
 	User.MouseUp(Inside);
-	EXPECT_EQ(NumClicks, 0) << "it was not pressed there";
 	User.MouseDown(Inside, EKeys::RightMouseButton);
 	User.MouseUp(Inside, EKeys::RightMouseButton);
-	EXPECT_EQ(NumClicks, 0);
+	EXPECT_EQ(NumClicks, 3) << "pressed or let go elsewhere, or by another button";
 }
 
 TEST_F(Button, TakesEnterAndSpaceWhileItHasTheFocus)
@@ -145,35 +131,27 @@ TEST_F(Button, DisabledItDoesNothingAndLooksSo)
 	EXPECT_NE(ColorOfButton(), QColor(255, 0, 0));
 }
 
-TEST_F(Button, AHandlerMayReplaceTheHandlerAndTheContent)
-{
-	Widget->SetOnClicked(FOnClicked::CreateLambda(
-		[this]
-		{
-			Widget->SetContent(SNew(STextBlock).Text(FText::FromString(TEXT("Done"))));
-			Widget->SetOnClicked(FOnClicked());
-			return FReply::Handled();
-		}));
-	User.Click(TEXT("Press me"));
-	EXPECT_TRUE(User.Sees(TEXT("Done")));
-	EXPECT_FALSE(User.Sees(TEXT("Press me")));
-	User.Click(TEXT("Done"));
-	EXPECT_EQ(NumClicks, 0);
-}
-
-TEST_F(Button, AHandlerMayTakeTheButtonAway)
+TEST_F(Button, AHandlerMayReplaceTheHandlerAndTheContentAndTakeTheButtonAway)
 {
 	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox);
 	Box->AddSlot().AutoHeight()[Widget];
-	Widget->SetOnClicked(FOnClicked::CreateLambda(
-		[Box]
-		{
-			Box->ClearChildren();
-			return FReply::Handled();
-		}));
 	FUserDriver Other(Box, FVector2D(200.0, 100.0));
-	Other.ClickAt(Inside);
+	const auto TakeAway = [Box]
+	{
+		Box->ClearChildren();
+		return FReply::Handled();
+	};
+	const auto Replace = [this, TakeAway]
+	{
+		Widget->SetContent(SNew(STextBlock).Text(FText::FromString(TEXT("Done"))));
+		Widget->SetOnClicked(FOnClicked::CreateLambda(TakeAway));
+		return FReply::Handled();
+	};
+	Widget->SetOnClicked(FOnClicked::CreateLambda(Replace));
+	Other.Click(TEXT("Press me"));
 	EXPECT_FALSE(Other.Sees(TEXT("Press me")));
+	Other.Click(TEXT("Done"));
+	EXPECT_FALSE(Other.Sees(TEXT("Done")));
 	EXPECT_FALSE(Widget->HasMouseCapture());
 }
 
@@ -213,7 +191,6 @@ TEST(ButtonContent, AnImageAloneNamesTheButton)
 	EXPECT_EQ(Image->GetAccessibleText().ToString(), TEXT("")) << "the button alone carries it";
 	EXPECT_EQ(NameOf(SNew(SOverlay) + SOverlay::Slot()[SNew(SImage).Image(Brush)]), TEXT("Send"));
 	EXPECT_EQ(NameOf(SNew(SImage).Image(&Nameless)), TEXT(""));
-	EXPECT_EQ(NameOf(SNew(SImage)), TEXT(""));
 	EXPECT_EQ(NameOf(SNew(STextBlock).Text(FText::FromString(TEXT("Send")))), TEXT("")) << "its text says it";
 	const TSharedRef<SButton> Named = SNew(SButton).AccessibleText(FText::FromString(TEXT("Give up")))[SNew(SImage).Image(Brush)];
 	EXPECT_EQ(Named->GetAccessibleText().ToString(), TEXT("Give up"));
@@ -221,27 +198,17 @@ TEST(ButtonContent, AnImageAloneNamesTheButton)
 	EXPECT_EQ(NameOf(SNew(SImage).Image(Brush)), TEXT(""));
 }
 
-namespace
+TEST(Hyperlink, LeadsSomewhereAndShowsIt)
 {
-/** A link of two letters in a window of 100 by 40; green underlined while the mouse is over it. */
-class Hyperlink : public testing::Test
-{
-protected:
-	Hyperlink() { Style.SetUnderlineStyle(MakeStyle()).SetPadding(FMargin(0.0f, 0.0f, 0.0f, 1.0f)); }
-
 	FHyperlinkStyle Style;
+	Style.SetUnderlineStyle(MakeStyle()).SetPadding(FMargin(0.0f, 0.0f, 0.0f, 1.0f));
 	int32 NumOpened = 0;
-};
-} // namespace
-
-TEST_F(Hyperlink, LeadsSomewhereAndShowsIt)
-{
 	// clang-format off
 	const TSharedRef<SHyperlink> Link =
 		SNew(SHyperlink)
 		.Style(&Style)
 		.Text(FText::FromString(TEXT("Go")))
-		.OnNavigate_Lambda([this] { ++NumOpened; });
+		.OnNavigate_Lambda([&NumOpened] { ++NumOpened; });
 	FUserDriver User(
 		SNew(SOverlay) + SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Top)[Link],
 		FVector2D(100.0, 40.0), 1.0f, EDriverFonts::Even);
@@ -255,5 +222,4 @@ TEST_F(Hyperlink, LeadsSomewhereAndShowsIt)
 	EXPECT_EQ(User.GetDesktop().Cursor, EMouseCursor::Default);
 	User.Press(TEXT("Enter"));
 	EXPECT_EQ(NumOpened, 2) << "the click gave it the focus";
-	EXPECT_EQ(Link->GetTypeAsString(), TEXT("SHyperlink"));
 }

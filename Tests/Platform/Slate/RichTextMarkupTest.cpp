@@ -6,10 +6,8 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
 /** Lines with their runs: "'plain'" or "Name(attribute=value)'content'". Checks that the ranges fit each other. */
-FString Read(const FString& Markup)
+static FString Read(const FString& Markup)
 {
 	TArray<FTextLineParseResults> Lines;
 	FString Text;
@@ -21,7 +19,7 @@ FString Read(const FString& Markup)
 	FString Result;
 	for (const FTextLineParseResults& Line : Lines)
 	{
-		Result += Result.IsEmpty() && &Line == &Lines[0] ? TEXT("") : TEXT("\n");
+		Result += &Line == &Lines[0] ? TEXT("") : TEXT("\n");
 		int32 Reached = Line.Range.BeginIndex;
 		for (const FTextRunParseResults& Run : Line.Runs)
 		{
@@ -39,49 +37,28 @@ FString Read(const FString& Markup)
 	return Result;
 }
 
-struct FMarkupCase
+TEST(RichTextMarkup, IsReadIntoRuns)
 {
-	const TCHAR* Markup;
-	const TCHAR* Runs;
-};
-
-class FMarkup : public testing::TestWithParam<FMarkupCase>
-{
-};
-} // namespace
-
-TEST_P(FMarkup, IsReadIntoRuns)
-{
-	const FString Runs = Read(GetParam().Markup);
-	EXPECT_TRUE(Runs.Equals(GetParam().Runs)) << Runs << " instead of " << FString(GetParam().Runs);
+	const std::pair<const char*, const char*> Cases[] = {{"", ""}, {"plain", "'plain'"}, {"a <A>x</> b", "'a 'A'x'' b'"},
+		{"<A>x</><B>y</>", "A'x'B'y'"}, {"<A></>", "A''"}, {"<a.b_c-9>x</>", "a.b_c-9'x'"}, {"<A k=\"v w\" l=\"\">x</>", "A(k=v w)(l=)'x'"},
+		{"<A k=\"a>b</>c\">x</>", "A(k=a>b</>c)'x'"},
+		// Lines.
+		{"a\nb", "'a'\n'b'"}, {"a\r\nb", "'a'\n'b'"}, {"a\n", "'a'\n"}, {"\n\n", "\n\n"}, {"<A>x\ny</>", "'<A>x'\n'y</>'"},
+		{"<A>x</>\r\n<B>y</>", "A'x'\nB'y'"},
+		// What is no run.
+		{"a < b > c", "'a < b > c'"}, {"<A>x", "'<A>x'"}, {"x</>", "'x</>'"}, {"<>x</>", "'<>x</>'"}, {"< A>x</>", "'< A>x</>'"},
+		{"<A", "'<A'"}, {"<A k>x</>", "'<A k>x</>'"}, {"<A k=v>x</>", "'<A k=v>x</>'"}, {"<A k=\"v>x</>", "'<A k=\"v>x</>'"},
+		{"<A>x</A>", "'<A>x</A>'"}, {"<A><B>x</>y</>", "A'<B>x''y</>'"}, {"vec<int> <A>x</>", "'vec'int' <A>x'"},
+		{"a <! <A>x</>", "'a <! 'A'x'"},
+		// Character references.
+		{"&lt;A&gt;x&lt;/&gt;", "'<A>x</>'"}, {"&amp;lt;", "'&lt;'"}, {"&quot;&amp;&quot;", "'\"&\"'"}, {"&nbsp; & &l", "'&nbsp; & &l'"},
+		{"&LT;", "'&LT;'"}, {"<code>a&lt;/&gt;b&amp;amp;</>c", "code'a</>b&amp;''c'"}, {"<A k=\"&quot;&lt;\">&gt;</>", "A(k=\"<)'>'"},
+		{"x&", "'x&'"}};
+	for (const auto& [Markup, Runs] : Cases)
+	{
+		EXPECT_TEXT(Read(FString(Markup)), FString(Runs));
+	}
 }
-
-INSTANTIATE_TEST_SUITE_P(Runs, FMarkup,
-	testing::Values(FMarkupCase{TEXT(""), TEXT("")}, FMarkupCase{TEXT("plain"), TEXT("'plain'")},
-		FMarkupCase{TEXT("<A>x</>"), TEXT("A'x'")}, FMarkupCase{TEXT("a <A>x</> b"), TEXT("'a 'A'x'' b'")},
-		FMarkupCase{TEXT("<A>x</><B>y</>"), TEXT("A'x'B'y'")}, FMarkupCase{TEXT("<A></>"), TEXT("A''")},
-		FMarkupCase{TEXT("<a.b_c-9>x</>"), TEXT("a.b_c-9'x'")}, FMarkupCase{TEXT("<A k=\"v w\" l=\"\">x</>"), TEXT("A(k=v w)(l=)'x'")},
-		FMarkupCase{TEXT("<A k=\"a>b</>c\">x</>"), TEXT("A(k=a>b</>c)'x'")}));
-
-INSTANTIATE_TEST_SUITE_P(Lines, FMarkup,
-	testing::Values(FMarkupCase{TEXT("a\nb"), TEXT("'a'\n'b'")}, FMarkupCase{TEXT("a\r\nb"), TEXT("'a'\n'b'")},
-		FMarkupCase{TEXT("a\n"), TEXT("'a'\n")}, FMarkupCase{TEXT("\n\n"), TEXT("\n\n")},
-		FMarkupCase{TEXT("<A>x\ny</>"), TEXT("'<A>x'\n'y</>'")}, FMarkupCase{TEXT("<A>x</>\r\n<B>y</>"), TEXT("A'x'\nB'y'")}));
-
-INSTANTIATE_TEST_SUITE_P(WhatIsNoRun, FMarkup,
-	testing::Values(FMarkupCase{TEXT("a < b > c"), TEXT("'a < b > c'")}, FMarkupCase{TEXT("<A>x"), TEXT("'<A>x'")},
-		FMarkupCase{TEXT("x</>"), TEXT("'x</>'")}, FMarkupCase{TEXT("<>x</>"), TEXT("'<>x</>'")},
-		FMarkupCase{TEXT("< A>x</>"), TEXT("'< A>x</>'")}, FMarkupCase{TEXT("<A"), TEXT("'<A'")},
-		FMarkupCase{TEXT("<A k>x</>"), TEXT("'<A k>x</>'")}, FMarkupCase{TEXT("<A k=v>x</>"), TEXT("'<A k=v>x</>'")},
-		FMarkupCase{TEXT("<A k=\"v>x</>"), TEXT("'<A k=\"v>x</>'")}, FMarkupCase{TEXT("<A>x</A>"), TEXT("'<A>x</A>'")},
-		FMarkupCase{TEXT("<A><B>x</>y</>"), TEXT("A'<B>x''y</>'")}, FMarkupCase{TEXT("vec<int> <A>x</>"), TEXT("'vec'int' <A>x'")},
-		FMarkupCase{TEXT("a <! <A>x</>"), TEXT("'a <! 'A'x'")}));
-
-INSTANTIATE_TEST_SUITE_P(CharacterReferences, FMarkup,
-	testing::Values(FMarkupCase{TEXT("&lt;A&gt;x&lt;/&gt;"), TEXT("'<A>x</>'")}, FMarkupCase{TEXT("&amp;lt;"), TEXT("'&lt;'")},
-		FMarkupCase{TEXT("&quot;&amp;&quot;"), TEXT("'\"&\"'")}, FMarkupCase{TEXT("&nbsp; & &l"), TEXT("'&nbsp; & &l'")},
-		FMarkupCase{TEXT("&LT;"), TEXT("'&LT;'")}, FMarkupCase{TEXT("<code>a&lt;/&gt;b&amp;amp;</>c"), TEXT("code'a</>b&amp;''c'")},
-		FMarkupCase{TEXT("<A k=\"&quot;&lt;\">&gt;</>"), TEXT("A(k=\"<)'>'")}, FMarkupCase{TEXT("x&"), TEXT("'x&'")}));
 
 TEST(RichTextMarkup, HostileTextIsReadInOnePass)
 {

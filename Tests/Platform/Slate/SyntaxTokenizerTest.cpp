@@ -75,23 +75,6 @@ TEST(SyntaxTokenizer, CutsAtTheLongestRuleAndAtWholeWords)
 	}
 }
 
-TEST(SyntaxTokenizer, TakesAnything)
-{
-	const TSharedRef<FSyntaxTokenizer> Tokenizer = MakeTokenizer({TEXT("for"), TEXT("/*"), TEXT("\xD83D"), TEXT("\n")});
-	FString Rubbish;
-	uint32 Random = 1;
-	for (int32 Index = 0; Index < 20'000; ++Index)
-	{
-		Random = Random * 1664525 + 1013904223;
-		const TCHAR Special[] = {
-			0, TEXT('\r'), TEXT('\n'), TEXT(' '), 0xD83D, 0xDE00, 0x0590, 0x202E, 0x0301, 0xFFFF, TEXT('/'), TEXT('*')};
-		Rubbish.AppendChar((Random >> 16) % 3 ? Special[(Random >> 18) % 12] : static_cast<TCHAR>(Random >> 16));
-	}
-	Tokenize(*Tokenizer, Rubbish);
-	Tokenize(*MakeTokenizer({}), Rubbish);
-	EXPECT_TEXT(Tokenize(*MakeTokenizer({}), TEXT("a b")), TEXT("(a)( )(b)"));
-}
-
 TEST(SyntaxTokenizer, EqualListsShareOneAndOthersDoNot)
 {
 	const TSharedRef<FSyntaxTokenizer> First = MakeTokenizer({TEXT("for"), TEXT("if")});

@@ -30,9 +30,14 @@ SMultiLineEditableText::FArguments FTextTest::Arguments()
 	return Args;
 }
 
-void FTextTest::ShowText(const FString& InText, float Width, float Height)
+SMultiLineEditableText::FArguments FTextTest::ReadOnly(const FString& InText)
 {
-	ShowText(Arguments().Text(FText::FromString(InText)).AutoWrapText(true), Width, Height);
+	return Arguments().Text(FText::FromString(InText)).IsReadOnly(true);
+}
+
+void FTextTest::ShowText(const char* InText, float Width, float Height)
+{
+	ShowText(Arguments().Text(FText::FromString(FString(InText))).AutoWrapText(true), Width, Height);
 }
 
 void FTextTest::ShowText(const SMultiLineEditableText::FArguments& Args, float Width, float Height, float Scale)
@@ -63,11 +68,19 @@ void FTextTest::DoubleClickLetter(int32 Column, int32 RowIndex)
 	DoubleClickAt(FVector2D(Column * Letter + 1.0, RowIndex * Row + 5.0));
 }
 
-void FTextTest::PressTimes(const FString& Key, int32 Count)
+void FTextTest::Play(const FString& Keys)
 {
-	for (int32 Index = 0; Index < Count; ++Index)
+	TArray<FString> Parts;
+	Keys.ParseIntoArray(Parts, TEXT("'"), false);
+	for (int32 Index = 0; Index < Parts.Num(); ++Index)
 	{
-		Press(Key);
+		TArray<FString> Words;
+		Parts[Index].ParseIntoArray(Words, TEXT(" "));
+		for (const FString& Word : Index % 2 == 0 ? Words : TArray<FString>())
+		{
+			Press(Word);
+		}
+		Type(Index % 2 == 0 ? FString() : Parts[Index]);
 	}
 }
 

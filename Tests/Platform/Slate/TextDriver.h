@@ -11,6 +11,14 @@
 
 #include <gtest/gtest.h>
 
+/** A text, a width in letters, and what the screen shows; in UTF-8. */
+struct FWrapCase
+{
+	const char* Text;
+	int32 Width;
+	const char* Screen;
+};
+
 /** A user before a window with one text in it. Its letters are 10 wide and 20 high. */
 class FTextTest : public testing::Test, public FUserDriver
 {
@@ -26,20 +34,21 @@ protected:
 
 	/** An editable text in the window; by its arguments it may be anything else. */
 	SMultiLineEditableText::FArguments Arguments();
-	void ShowText(const FString& Text, float Width = 1000.0f, float Height = 400.0f);
+	SMultiLineEditableText::FArguments ReadOnly(const FString& InText);
 	void ShowText(const SMultiLineEditableText::FArguments& Args, float Width = 1000.0f, float Height = 400.0f, float Scale = 1.0f);
+	void ShowText(const char* InText, float Width = 1000.0f, float Height = 400.0f);
 
 	/** What is on the screen now; see FTextScreen. */
 	FString Screen() { return ReadScreen().ToString(); }
 	FTextScreen ReadScreen();
-	/** What was typed. */
 	FString Typed() const { return Text->GetText().ToString(); }
 
 	// What the user does. Rows and columns count letters; a click hits the left edge of one.
 	void Focus();
 	void ClickLetter(int32 Column, int32 RowIndex = 0);
 	void DoubleClickLetter(int32 Column, int32 RowIndex = 0);
-	void PressTimes(const FString& Key, int32 Count);
+	/** Keys, and between quotes what is typed: "Home 'text' Ctrl+Z". */
+	void Play(const FString& Keys);
 	void Compose(const TCHAR* Composition, const TCHAR* Commit = TEXT(""), int32 ReplaceFrom = 0, int32 ReplaceLength = 0);
 
 	static FSlateApplication& Application() { return FSlateApplication::Get(); }

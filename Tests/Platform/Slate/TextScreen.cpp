@@ -2,169 +2,109 @@
 
 #include "TextScreen.h"
 
-#include "Rendering/DrawElements.h"
+#include "Support/DrawnElements.h"
 #include "Support/EvenTextShaper.h"
 
-FTextScreen::FTextScreen(const FSlateDrawChunk& DisplayList, const FLinearColor& InSelectionColor, float InRowHeight)
-	: SelectionColor(InSelectionColor)
-	, RowHeight(InRowHeight)
+#include <algorithm>
+
+FTextScreen::FTextScreen(const FSlateDrawChunk& DisplayList, const FLinearColor& SelectionColor, float InRowHeight)
+	: RowHeight(InRowHeight)
 {
-	Read(DisplayList, FSlateRect::Everything());
-	for (TArray<FCell>& Row : Rows)
+	ForEachDrawn(DisplayList,
+		[&](const FSlateDrawElement& Element, const FSlateRect& Clip)
+		{
+			const FSlateRect Place = Element.GetGeometry().GetRenderBoundingRect();
+			if (const auto* Text = std::get_if<FSlateTextPayload>(&Element.GetPayload()))
+			{
+				AddText(static_cast<const FReadableShapedText&>(*Text->Text), Place, Clip);
+			}
+			else if (std::holds_alternative<FSlateBoxPayload>(Element.GetPayload()) && Place.Bottom - RowHeight / 2.0f > Clip.Top)
+			{
+				AddBox(Place, Element.GetTint() == SelectionColor);
+			}
+		});
+	for (TArray<FPiece>& Row : Rows)
 	{
-		Row.StableSort([](const FCell& A, const FCell& B) { return A.Left < B.Left; });
+		std::stable_sort(Row.begin(), Row.end(), [](const FPiece& A, const FPiece& B) { return A.Left < B.Left; });
 	}
 }
 
-void FTextScreen::Read(const FSlateDrawChunk& Chunk, FSlateRect Clip)
+TArray<FTextScreen::FPiece>& FTextScreen::FindRow(float Top, TArray<TArray<FPiece>>& In) const
 {
-	Clip = Chunk.GetClip().IsSet() ? Clip.IntersectionWith(Chunk.GetClip().GetValue()) : Clip;
-	for (const FSlateDrawChunk::FItem& Item : Chunk.GetItems())
-	{
-		if (const auto* Child = std::get_if<TSharedRef<const FSlateDrawChunk>>(&Item))
-		{
-			Read(**Child, Clip);
-			continue;
-		}
-		const FSlateDrawElement& Element = std::get<FSlateDrawElement>(Item);
-		const FSlateRect Rect = Element.GetGeometry().GetRenderBoundingRect();
-		if (const auto* Text = std::get_if<FSlateTextPayload>(&Element.GetPayload()))
-		{
-			ReadText(static_cast<const FReadableShapedText&>(*Text->Text), Rect.GetTopLeft(), Clip);
-		}
-		else if (std::holds_alternative<FSlateBoxPayload>(Element.GetPayload()))
-		{
-			ReadBox(Rect, Element.GetTint());
-		}
-	}
+	const int32 Row = FMath::RoundToInt(Top / RowHeight);
+	In.SetNum(FMath::Max(In.Num(), Row + 1));
+	return In[Row];
 }
 
-int32 FTextScreen::FindRow(float Y) const
+void FTextScreen::AddText(const FReadableShapedText& Text, const FSlateRect& Place, const FSlateRect& Clip)
 {
-	return FMath::RoundToInt(Y / RowHeight);
-}
-
-void FTextScreen::ReadText(const FReadableShapedText& Text, const FVector2D& TopLeft, const FSlateRect& Clip)
-{
-	const float Top = static_cast<float>(TopLeft.Y);
-	const int32 Row = FindRow(Top);
-	if (Top + RowHeight / 2 <= Clip.Top || Top + RowHeight / 2 >= Clip.Bottom)
+	const float Middle = Place.Top + RowHeight / 2.0f;
+	for (int32 Index = 0; Index < Text.Letters.Len() && Middle > Clip.Top && Middle < Clip.Bottom; ++Index)
 	{
-		return;
-	}
-	Rows.SetNum(FMath::Max(Rows.Num(), Row + 1));
-	for (int32 Index = 0; Index < Text.Letters.Len(); ++Index)
-	{
-		const float A = static_cast<float>(TopLeft.X) + Text.CaretOffsets[Index];
-		const float B = static_cast<float>(TopLeft.X) + Text.CaretOffsets[Index + 1];
-		const float Middle = (A + B) / 2.0f;
-		if (A == B && !Rows[Row].IsEmpty())
+		TArray<FPiece>& Row = FindRow(Place.Top, Rows);
+		const float A = Place.Left + Text.CaretOffsets[Index];
+		const float B = Place.Left + Text.CaretOffsets[Index + 1];
+		if (A == B && !Row.IsEmpty())
 		{
-			Rows[Row].Last().Letter.AppendChar(Text.Letters[Index]);
+			Row.Last().Text.AppendChar(Text.Letters[Index]);
 		}
-		else if (Middle > Clip.Left && Middle < Clip.Right)
+		else if ((A + B) / 2.0f > Clip.Left && (A + B) / 2.0f < Clip.Right)
 		{
-			Rows[Row].Add({FMath::Min(A, B), FMath::Max(A, B), FString::Chr(Text.Letters[Index])});
+			Row.Add({FMath::Min(A, B), FMath::Max(A, B), FString::Chr(Text.Letters[Index])});
 		}
 	}
 }
 
-void FTextScreen::ReadBox(const FSlateRect& Rect, const FLinearColor& Tint)
+void FTextScreen::AddBox(const FSlateRect& Place, bool bSelection)
 {
-	const bool bRow = Rect.Bottom - Rect.Top > RowHeight / 2;
-	if (Tint == SelectionColor)
+	const bool bUnderline = Place.Bottom - Place.Top <= RowHeight / 2.0f;
+	TArray<FPiece>& Row = FindRow(Place.Bottom - RowHeight, Marks);
+	if (bSelection || bUnderline)
 	{
-		Selection.Add(Rect);
+		Row.Add({Place.Left, Place.Left, bSelection ? TEXT("[") : TEXT("{")});
+		Row.Add({Place.Right, Place.Right, bSelection ? TEXT("]") : TEXT("}")});
 	}
-	else if (bRow && Rect.Right - Rect.Left <= 2.0f)
+	else if (Place.Right - Place.Left <= 2.0f)
 	{
-		Carets.Add(Rect);
-		Rows.SetNum(FMath::Max(Rows.Num(), FindRow(Rect.Top) + 1));
+		Row.Add({Place.Left, Place.Left, TEXT("|")});
 	}
-	else if (!bRow)
-	{
-		Composition.Add(Rect);
-	}
-}
-
-bool FTextScreen::IsMarked(const TArray<FSlateRect>& Marks, int32 Row, const FCell& Cell) const
-{
-	const FVector2D Middle((Cell.Left + Cell.Right) / 2.0f, 0.0);
-	return Marks.ContainsByPredicate(
-		[&](const FSlateRect& Mark) { return FindRow(Mark.Bottom - RowHeight) == Row && Middle.X > Mark.Left && Middle.X < Mark.Right; });
-}
-
-FString FTextScreen::PrintRow(int32 Row) const
-{
-	FString Result;
-	const auto AddCaret = [&](float From, float To)
-	{
-		const bool bHere = Carets.ContainsByPredicate(
-			[&](const FSlateRect& Caret) { return FindRow(Caret.Top) == Row && Caret.Left >= From && Caret.Left < To; });
-		Result += bHere ? TEXT("|") : TEXT("");
-	};
-	float Reached = -1.0e9f;
-	bool bSelected = false;
-	bool bComposed = false;
-	const auto Mark = [&](bool bNowSelected, bool bNowComposed)
-	{
-		Result += bSelected && !bNowSelected ? TEXT("]") : TEXT("");
-		Result += bComposed && !bNowComposed ? TEXT("}") : TEXT("");
-		Result += !bSelected && bNowSelected ? TEXT("[") : TEXT("");
-		Result += !bComposed && bNowComposed ? TEXT("{") : TEXT("");
-		bSelected = bNowSelected;
-		bComposed = bNowComposed;
-	};
-	for (const FCell& Cell : Rows[Row])
-	{
-		const float Middle = (Cell.Left + Cell.Right) / 2.0f;
-		const bool bNowSelected = IsMarked(Selection, Row, Cell);
-		const bool bNowComposed = IsMarked(Composition, Row, Cell);
-		Mark(bSelected && bNowSelected, bComposed && bNowComposed);
-		AddCaret(Reached, Middle);
-		Mark(bNowSelected, bNowComposed);
-		Result += Cell.Letter;
-		Reached = Middle;
-	}
-	Mark(false, false);
-	AddCaret(Reached, 1.0e9f);
-	return Result;
 }
 
 FString FTextScreen::ToString() const
 {
 	FString Result;
-	for (int32 Row = 0; Row < Rows.Num(); ++Row)
+	for (int32 Index = 0; Index < FMath::Max(Rows.Num(), Marks.Num()); ++Index)
 	{
-		Result += Row > 0 ? TEXT("\n") : TEXT("");
-		Result += PrintRow(Row);
+		TArray<FPiece> Pieces = Index < Rows.Num() ? Rows[Index] : TArray<FPiece>();
+		Pieces.Append(Index < Marks.Num() ? Marks[Index] : TArray<FPiece>());
+		// At the same gap what ends comes before the caret, and what begins behind it.
+		const auto GetOrder = [this](const FPiece& Piece)
+		{
+			const int32 Mark = Piece.Left < Piece.Right ? INDEX_NONE : FString(TEXT("]}|[{")).Find(Piece.Text);
+			return std::pair(FMath::RoundToInt(2.0f * ToColumn(Piece.Left)), Mark == INDEX_NONE ? 5 : Mark);
+		};
+		std::stable_sort(Pieces.begin(), Pieces.end(), [&](const FPiece& A, const FPiece& B) { return GetOrder(A) < GetOrder(B); });
+		Result += Index > 0 ? TEXT("\n") : TEXT("");
+		for (const FPiece& Piece : Pieces)
+		{
+			Result += Piece.Text;
+		}
 	}
-	return Result;
+	return Result.Replace(TEXT("]["), TEXT("")).Replace(TEXT("[]"), TEXT(""));
 }
 
-FString FTextScreen::ToGrid(float LetterWidth) const
+FString FTextScreen::ToGrid() const
 {
 	FString Result;
-	for (const TArray<FCell>& Row : Rows)
+	for (const TArray<FPiece>& Row : Rows)
 	{
 		FString Line;
-		for (const FCell& Cell : Row)
+		for (const FPiece& Letter : Row)
 		{
-			const int32 Column = FMath::RoundToInt(Cell.Left / LetterWidth);
-			Line += FString::ChrN(FMath::Max(Column - Line.Len(), 0), TEXT(' '));
-			Line += Cell.Letter == TEXT("\t") ? TEXT("") : *Cell.Letter;
+			Line += FString::ChrN(FMath::Max(FMath::RoundToInt(ToColumn(Letter.Left)) - Line.Len(), 0), TEXT(' '));
+			Line += Letter.Text == TEXT("\t") ? TEXT("") : *Letter.Text;
 		}
 		Result += (Result.IsEmpty() ? TEXT("") : TEXT("\n")) + Line.TrimEnd();
 	}
 	return Result;
-}
-
-float FTextScreen::GetRowLeft(int32 Row) const
-{
-	return Rows[Row][0].Left;
-}
-
-float FTextScreen::GetRowRight(int32 Row) const
-{
-	return Rows[Row].Last().Right;
 }

@@ -10,7 +10,8 @@ class FSlateDrawChunk;
 
 /**
  * What a display list shows, as text: one line for each row, the letters from left to right as they stand on the screen. The caret is a
- * "|", what is selected stands in "[" and "]", what is being composed in "{" and "}". For fonts of one size that begin at the top.
+ * "|", what is selected stands in "[" and "]", what is being composed in "{" and "}". For fonts of one size that begin at the top, whose
+ * letters are half as wide as a row is high.
  */
 class FTextScreen
 {
@@ -18,31 +19,28 @@ public:
 	FTextScreen(const FSlateDrawChunk& DisplayList, const FLinearColor& SelectionColor, float InRowHeight);
 
 	FString ToString() const;
-	/** The letters at their places in a grid of this width; without marks. */
-	FString ToGrid(float LetterWidth) const;
+	/** The letters at their places in a grid; without marks. */
+	FString ToGrid() const;
 	/** Where the letters of a row begin and end, in pixels. */
-	float GetRowLeft(int32 Row) const;
-	float GetRowRight(int32 Row) const;
+	float GetRowLeft(int32 Row) const { return Rows[Row][0].Left; }
+	float GetRowRight(int32 Row) const { return Rows[Row].Last().Right; }
 
 private:
-	struct FCell
+	/** A letter, or a mark, which is as wide as nothing. */
+	struct FPiece
 	{
-		float Left = 0.0f;
-		float Right = 0.0f;
-		FString Letter;
+		float Left;
+		float Right;
+		FString Text;
 	};
 
-	void Read(const FSlateDrawChunk& Chunk, FSlateRect Clip);
-	void ReadText(const FReadableShapedText& Text, const FVector2D& TopLeft, const FSlateRect& Clip);
-	void ReadBox(const FSlateRect& Rect, const FLinearColor& Tint);
-	int32 FindRow(float Y) const;
-	FString PrintRow(int32 Row) const;
-	bool IsMarked(const TArray<FSlateRect>& Marks, int32 Row, const FCell& Cell) const;
+	void AddText(const FReadableShapedText& Text, const FSlateRect& Place, const FSlateRect& Clip);
+	void AddBox(const FSlateRect& Place, bool bSelection);
+	TArray<FPiece>& FindRow(float Top, TArray<TArray<FPiece>>& In) const;
+	/** In letters. */
+	float ToColumn(float Left) const { return Left / (RowHeight / 2.0f); }
 
-	FLinearColor SelectionColor;
 	float RowHeight;
-	TArray<TArray<FCell>> Rows;
-	TArray<FSlateRect> Selection;
-	TArray<FSlateRect> Composition;
-	TArray<FSlateRect> Carets;
+	TArray<TArray<FPiece>> Rows;
+	TArray<TArray<FPiece>> Marks;
 };

@@ -2,6 +2,7 @@
 
 #include "Brushes/SlateColorBrush.h"
 #include "Brushes/SlateNoResource.h"
+#include "Support/DrawnElements.h"
 #include "Support/Probe.h"
 #include "Support/UserDriver.h"
 #include "Widgets/Images/SImage.h"
@@ -18,23 +19,6 @@ static void PrintTo(const FSlateRect& Rect, std::ostream* Stream)
 
 namespace
 {
-/** What the display list draws, in order, cut to its clips. */
-void CollectDrawn(const FSlateDrawChunk& Chunk, const FSlateRect& Around, TArray<FSlateRect>& OutRects)
-{
-	const FSlateRect Clip = Chunk.GetClip().IsSet() ? Around.IntersectionWith(Chunk.GetClip().GetValue()) : Around;
-	for (const FSlateDrawChunk::FItem& Item : Chunk.GetItems())
-	{
-		if (const auto* Inner = std::get_if<TSharedRef<const FSlateDrawChunk>>(&Item))
-		{
-			CollectDrawn(**Inner, Clip, OutRects);
-		}
-		else
-		{
-			OutRects.Add(std::get<FSlateDrawElement>(Item).GetBounds().IntersectionWith(Clip));
-		}
-	}
-}
-
 /** Two probes in a column, and one in the corner over them. */
 class DisplayList : public testing::Test
 {
@@ -50,7 +34,8 @@ protected:
 	TArray<FSlateRect> Drawn() const
 	{
 		TArray<FSlateRect> Rects;
-		CollectDrawn(*User.GetWindow()->GetDisplayList(), FSlateRect::Everything(), Rects);
+		ForEachDrawn(*User.GetWindow()->GetDisplayList(),
+			[&Rects](const FSlateDrawElement& Element, const FSlateRect& Clip) { Rects.Add(Element.GetBounds().IntersectionWith(Clip)); });
 		return Rects;
 	}
 
