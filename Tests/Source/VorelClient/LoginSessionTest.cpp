@@ -5,6 +5,7 @@
 #include "Account/AuthorizationMetadata.h"
 #include "Account/LoginSession.h"
 #include "Http/Form.h"
+#include <filesystem>
 
 namespace
 {
@@ -148,6 +149,17 @@ TEST_F(FLoginTest, ProgramsDoNotLogEachOtherOut)
 	EXPECT_EQ(OtherEnded, 1);
 	EXPECT_TRUE(Log.Has(
 		"LogVorelAccount", ELogVerbosity::Warning, TEXT("You were signed out in another window. Click \"Log in\" to sign in again.")));
+}
+
+TEST_F(FLoginTest, ALogoutHoldsThoughTheProgramEndsAtOnce)
+{
+	LogIn(MakeTokens("1"));
+	Service().Logout();
+	EndService();
+	EXPECT_NE(Folder.Read(TEXT("login.json")).find("signed out"), std::string::npos);
+	EXPECT_FALSE(Service().IsAuthenticated());
+	EXPECT_TRUE(PumpUntil([this] { return Folder.Read(TEXT("login.json")).find("signed out") == std::string::npos; }));
+	EXPECT_TRUE(std::filesystem::is_empty(TCHAR_TO_UTF8(*Folder.GetPath(TEXT("tokens")))));
 }
 
 TEST_F(FLoginTest, WithoutAPlaceForTokensTheLoginHoldsForThisRun)

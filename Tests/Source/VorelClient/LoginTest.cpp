@@ -68,6 +68,20 @@ TEST_F(FLoginTest, GoesThroughTheBrowserAndIsThereAgainAtTheNextStart)
 	EXPECT_FALSE(Service().IsAuthenticated());
 }
 
+TEST_F(FLoginTest, FindsAnIssuerBelowAPathInEitherPlace)
+{
+	Options.Issuer += TEXT("/tenant");
+	Server.Then(ReplyJson("404 Not Found", ""));
+	Server.Then(ReplyMetadata(Server, "{\"issuer\": \"" + Server.GetAddress() +
+										  "/tenant\", \"scopes_supported\": [\"offline_access\"],"
+										  "\"authorization_endpoint\": \"https://login.example/go?tenant=1\"}"));
+	OpenPage();
+	EXPECT_EQ(Server.GetExchanges()[0].Path, "/.well-known/oauth-authorization-server/tenant");
+	EXPECT_EQ(Server.GetExchanges()[1].Path, "/tenant/.well-known/openid-configuration");
+	EXPECT_TRUE(OpenedPages[0].StartsWith(TEXT("https://login.example/go?tenant=1&response_type=code&"))) << OpenedPages[0];
+	EXPECT_EQ(GetParameter("prompt"), "consent");
+}
+
 TEST_F(FLoginTest, WaitsOnForTheOneGoodRedirect)
 {
 	Server.Then(ReplyMetadata(Server));

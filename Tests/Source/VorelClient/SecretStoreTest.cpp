@@ -63,6 +63,7 @@ TEST(FSecretStoreTest, WithoutOneTheLoginHoldsForThisRun)
 	RunInSession("WithoutASecretStore", GetThisProgram(), {}, "unix:path=" + Silent.fullServerName().toUtf8());
 }
 
+// These two are run by those above, each in its session.
 TEST_F(FLoginTest, DISABLED_WithASecretStore)
 {
 	Options.bUseKeyring = true;

@@ -11,6 +11,11 @@ namespace
 // {"logins": {account: place}}
 constexpr const char* Logins = "logins";
 
+const char* GetName(ETokenPlace Place)
+{
+	return Place == ETokenPlace::SecretStore ? "secret store" : Place == ETokenPlace::File ? "file" : "signed out";
+}
+
 FJson ReadLogins(const FString& File)
 {
 	std::string Text;
@@ -28,8 +33,15 @@ FLoginMarker::FLoginMarker(const FString& DataFolder, const FString& InAccount)
 
 ETokenPlace FLoginMarker::Read() const
 {
-	const FString Place = File.IsEmpty() ? FString() : ToString(GetMember(ReadLogins(File), ToUtf8(Account).c_str()));
-	return Place == TEXT("secret store") ? ETokenPlace::SecretStore : Place == TEXT("file") ? ETokenPlace::File : ETokenPlace::None;
+	const FString Name = File.IsEmpty() ? FString() : ToString(GetMember(ReadLogins(File), ToUtf8(Account).c_str()));
+	for (const ETokenPlace Place : {ETokenPlace::SecretStore, ETokenPlace::File, ETokenPlace::Left})
+	{
+		if (Name == FString(GetName(Place)))
+		{
+			return Place;
+		}
+	}
+	return ETokenPlace::None;
 }
 
 void FLoginMarker::Write(ETokenPlace Place) const
@@ -45,7 +57,7 @@ void FLoginMarker::Write(ETokenPlace Place) const
 	}
 	else
 	{
-		Known[ToUtf8(Account)] = Place == ETokenPlace::SecretStore ? "secret store" : "file";
+		Known[ToUtf8(Account)] = GetName(Place);
 	}
 	PrivateFile::MakeFolder(FPaths::GetPath(File));
 	PrivateFile::Write(File, FJson{{Logins, Known}}.dump(1, '\t'));

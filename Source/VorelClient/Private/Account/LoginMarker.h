@@ -9,7 +9,9 @@ enum class ETokenPlace : uint8
 	// In memory, if anywhere.
 	None,
 	SecretStore,
-	File
+	File,
+	// Nobody is signed in, but the tokens are not cleared yet.
+	Left
 };
 
 // Notes in a file, without secrets, who is signed in and where the tokens lie, so that a program knows it as soon as it starts.

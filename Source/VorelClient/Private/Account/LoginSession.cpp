@@ -19,6 +19,10 @@ FLoginSession::FLoginSession(const FLoginOptions& InOptions, FAuthorizationMetad
 	{
 		Store.Load([this](ETokenLoad Load, const TOptional<FTokenSet>& Loaded) { HandleLoaded(Load, Loaded); });
 	}
+	else if (Store.IsToBeCleared())
+	{
+		Forget();
+	}
 }
 
 FLoginSession::~FLoginSession() = default;
@@ -44,7 +48,7 @@ void FLoginSession::HandleLoaded(ETokenLoad Load, const TOptional<FTokenSet>& Lo
 		// What can't be read now may be read by the next run.
 		if (Load == ETokenLoad::Missing)
 		{
-			Store.ForgetMarker();
+			Forget();
 		}
 		End(Load == ETokenLoad::Missing ? AccountText::TokensMissing() : AccountText::TokensUnreadable());
 	}

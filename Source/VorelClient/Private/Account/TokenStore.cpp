@@ -43,8 +43,9 @@ FTokenStore::~FTokenStore() = default;
 ETokenPlace FTokenStore::GetPlace() const
 {
 	const ETokenPlace Place = Marker.Read();
-	const bool bOpen = Place == ETokenPlace::SecretStore ? Options.bUseKeyring : Options.bAllowTokenFile;
-	return bOpen ? Place : ETokenPlace::None;
+	const bool bReadable =
+		(Place == ETokenPlace::SecretStore && Options.bUseKeyring) || (Place == ETokenPlace::File && Options.bAllowTokenFile);
+	return bReadable ? Place : ETokenPlace::None;
 }
 
 void FTokenStore::Load(FOnLoaded OnLoaded)
@@ -119,25 +120,30 @@ void FTokenStore::Clear(TFunction<void()> OnCleared)
 	{
 		PrivateFile::Remove(TokenFile);
 	}
+	const auto HandleCleared = [this, OnCleared](ESecretStoreEnd End, const std::string&)
+	{
+		Call.Reset();
+		if (IsToBeCleared() && End != ESecretStoreEnd::Failed)
+		{
+			Marker.Write(ETokenPlace::None);
+		}
+		OnCleared();
+	};
 	if (!Options.bUseKeyring || Options.DataFolder.IsEmpty())
 	{
-		Later(OnCleared);
+		Later([HandleCleared] { HandleCleared(ESecretStoreEnd::Done, std::string()); });
 		return;
 	}
-	Call = FSecretStoreCall::Delete(Options.KeyringAccount, Options.Limits.SecretStore,
-		[this, OnCleared](ESecretStoreEnd, const std::string&)
-		{
-			Call.Reset();
-			OnCleared();
-		});
+	Call = FSecretStoreCall::Delete(Options.KeyringAccount, Options.Limits.SecretStore, HandleCleared);
 }
 
 void FTokenStore::ForgetMarker()
 {
 	// What another program keeps in a secret store that this one doesn't use is none of its business.
-	if (Options.bUseKeyring || Marker.Read() != ETokenPlace::SecretStore)
+	const ETokenPlace Place = Marker.Read();
+	if (Place == ETokenPlace::File || (Place == ETokenPlace::SecretStore && Options.bUseKeyring))
 	{
-		Marker.Write(ETokenPlace::None);
+		Marker.Write(ETokenPlace::Left);
 	}
 }
 

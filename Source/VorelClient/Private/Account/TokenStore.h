@@ -29,6 +29,9 @@ public:
 	// Somebody is signed in whose tokens should be here. Asks neither the secret store nor the network.
 	bool HasTokens() const { return GetPlace() != ETokenPlace::None; }
 
+	// The last run ended before what it signed out of was cleared.
+	bool IsToBeCleared() const { return Marker.Read() == ETokenPlace::Left; }
+
 	// Other programs find the tokens, and may have renewed them or let them go.
 	bool IsShared() const { return bShared; }
 
@@ -40,6 +43,7 @@ public:
 	void ForgetMarker();
 
 private:
+	// Where tokens are read from.
 	ETokenPlace GetPlace() const;
 	void LoadFile(const FOnLoaded& OnLoaded);
 	bool SaveFile(const FTokenSet& Tokens) const;
