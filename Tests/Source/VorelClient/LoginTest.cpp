@@ -45,6 +45,9 @@ TEST_F(FLoginTest, GoesThroughTheBrowserAndIsThereAgainAtTheNextStart)
 	EXPECT_EQ(GetField(Form, "redirect_uri"), GetParameter("redirect_uri"));
 	EXPECT_EQ(Secrets::Hash(GetField(Form, "code_verifier")), GetParameter("code_challenge"));
 	EXPECT_TEXT(GetToken(), TEXT("access-1"));
+	Service().StartLogin();
+	Service().StartLogin();
+	EXPECT_TEXT(WaitForEnd(), TEXT(""));
 
 	const FString TokenFile = Folder.GetPath(TEXT("tokens")) / FString((Secrets::Hash("local test").substr(0, 16) + ".json").c_str());
 	EXPECT_TRUE(PumpUntil([this] { return !Folder.Read(TEXT("login.json")).empty(); }));
@@ -119,6 +122,7 @@ TEST_F(FLoginTest, WaitsOnForTheOneGoodRedirect)
 		Idle.back()->connectToHost(QStringLiteral("127.0.0.1"), QUrl(QString::fromStdString(GetParameter("redirect_uri"))).port());
 	}
 	EXPECT_TRUE(Browse(Good).startsWith("HTTP/1.1 200 "));
+	EXPECT_EQ(Idle[0]->state(), QAbstractSocket::UnconnectedState);
 	EXPECT_EQ(Browse(Good), "");
 	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed in."));
 	EXPECT_EQ(Server.GetExchanges().size(), 2);

@@ -65,9 +65,8 @@ TOptional<FTokenSet> FTokenSet::Read(std::string_view Stored, const FLoginClock&
 	FTokenSet Tokens;
 	Tokens.Access = ReadToken(GetMember(Json, "access_token"));
 	Tokens.Refresh = ReadToken(GetMember(Json, "refresh_token"));
+	Tokens.Lifetime = ReadLifetime(GetMember(Json, "expires_in"));
 	Tokens.ReceivedWall = ReadNumber(GetMember(Json, "received_at"));
-	const double Age = Clock.Wall() - Tokens.ReceivedWall;
-	Tokens.Lifetime = Age >= 0.0 ? ReadLifetime(GetMember(Json, "expires_in")) : 0.0;
-	Tokens.ReceivedSteady = Clock.Steady() - Age;
+	Tokens.ReceivedSteady = Clock.Steady() - (Clock.Wall() - Tokens.ReceivedWall);
 	return Tokens.Access.empty() ? TOptional<FTokenSet>() : Tokens;
 }

@@ -24,7 +24,7 @@ struct FTokenSet
 	// Of a reply of the token endpoint that has just come. Unset where it is none.
 	static TOptional<FTokenSet> ReadReply(const FJson& Reply, const FLoginClock& Clock);
 
-	// As it is stored. The age counts by the time of day; where that went backwards, nothing is known of it.
+	// As it is stored. The age then counts by the time of day; where that went backwards the tokens look young, until a server refuses one.
 	std::string Write() const;
 	static TOptional<FTokenSet> Read(std::string_view Stored, const FLoginClock& Clock);
 };
