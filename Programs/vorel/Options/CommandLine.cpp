@@ -51,13 +51,14 @@ bool SetSafeUrl(FString& Target, const FString& Value, bool bPath)
 	const bool bPlain = Url.userInfo().isEmpty() && !Url.hasQuery() && !Url.hasFragment();
 	const bool bOrigin = Url.path().isEmpty() || Url.path() == QLatin1String("/");
 	Target = Value;
-	Target.RemoveFromEnd(TEXT("/"));
 	return Url.isValid() && !Url.host().isEmpty() && bSafe && bPlain && (bPath || bOrigin);
 }
 
 bool SetServiceUrl(FCommandLine& Line, const FString& Value)
 {
-	return SetSafeUrl(Line.ServiceUrl, Value, false);
+	const bool bSafe = SetSafeUrl(Line.ServiceUrl, Value, false);
+	Line.ServiceUrl.RemoveFromEnd(TEXT("/"));
+	return bSafe;
 }
 
 bool SetIssuer(FCommandLine& Line, const FString& Value)

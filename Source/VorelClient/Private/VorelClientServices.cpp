@@ -2,7 +2,8 @@
 
 #include "VorelClientServices.h"
 
-#include "Account/LocalAuthenticationService.h"
+#include "Account/LoginOptions.h"
+#include "Account/OAuthAuthenticationService.h"
 #include "Http/JsonText.h"
 #include "Chat/HttpChatService.h"
 #include "DataFolder.h"
@@ -15,6 +16,7 @@
 #include "VorelClientOptions.h"
 #include "VorelUserSettings.h"
 #include <cstdlib>
+#include <filesystem>
 
 #define LOCTEXT_NAMESPACE "VorelClient"
 
@@ -45,6 +47,20 @@ FString GetDataFile(const TCHAR* Name)
 	return Folder.IsEmpty() ? FString() : Folder / Name;
 }
 
+FString MakeCanonical(const FString& Folder)
+{
+	std::error_code Error;
+	const std::filesystem::path Path = std::filesystem::weakly_canonical(*Folder, Error);
+	return Error ? Folder : FString(Path.u16string().c_str());
+}
+
+// Whose tokens are none of the embedded service's.
+bool HasForeignIssuer()
+{
+	const FVorelClientOptions& Options = FVorelClientOptions::Get();
+	return !Options.Issuer.IsEmpty() && Options.ServiceUrl.IsEmpty();
+}
+
 template <class T>
 TObjectPtr<T> MakeRooted()
 {
@@ -66,22 +82,25 @@ const FVorelClientOptions& FVorelClientOptions::Get()
 
 FVorelClientServices::FVorelClientServices()
 	: ChatService(MakeRooted<UHttpChatService>())
-	, AuthService(MakeRooted<ULocalAuthenticationService>())
+	, AuthService(MakeRooted<UOAuthAuthenticationService>())
 	, UserDataService(MakeRooted<UVorelUserDataService>())
 	, UpdateService(MakeRooted<UVersionFeedUpdateService>())
 {
-	const FString& Chosen = FVorelClientOptions::Get().ServiceUrl;
-	ServiceUrl = Chosen.IsEmpty() ? StartLocalService() : Chosen;
+	const FVorelClientOptions& Options = FVorelClientOptions::Get();
+	const bool bEmbedded = Options.ServiceUrl.IsEmpty();
+	ServiceUrl = bEmbedded ? StartLocalService() : Options.ServiceUrl;
 	UVorelUserSettings::Get()->SetDefaultAppUrl(ServiceUrl);
-	ChatService->Initialize(ChooseAssistant(), ReadLimits(), GetDataFile(FConversationStore::FileName));
+
+	AuthService->Initialize(MakeLoginOptions());
 	ChatService->OnCreditsSpent = [this]
 	{
 		UserDataService->AskAgain();
 	};
-	UserDataService->Initialize({ServiceUrl, &OwnerKey, nullptr, nullptr}, *AuthService);
+	ChatService->Initialize(ChooseAssistant(), ReadLimits(), GetDataFile(FConversationStore::FileName));
+	FAuthorizationMetadata* const Issuer = Options.Issuer.IsEmpty() ? nullptr : &AuthService->GetMetadata();
+	UserDataService->Initialize({ServiceUrl, &GetServiceTokens(), Issuer, &AuthService->GetTokens()}, *AuthService);
 	UpdateService->Initialize(
-		{ServiceUrl, Chosen.IsEmpty() ? FString(TEXT("embedded")) : FString(), GetDataFile(FVersionFeedNote::FileName)},
-		GetInstalledVersion());
+		{ServiceUrl, bEmbedded ? FString(TEXT("embedded")) : FString(), GetDataFile(FVersionFeedNote::FileName)}, GetInstalledVersion());
 }
 
 FVorelClientServices::~FVorelClientServices()
@@ -89,6 +108,7 @@ FVorelClientServices::~FVorelClientServices()
 	ChatService->Shutdown();
 	UserDataService->Shutdown();
 	UpdateService->Shutdown();
+	AuthService->Shutdown();
 	for (UObject* const Service : TArray<UObject*>{ChatService, AuthService, UserDataService, UpdateService})
 	{
 		Service->RemoveFromRoot();
@@ -98,6 +118,11 @@ FVorelClientServices::~FVorelClientServices()
 TObjectPtr<UChatService> FVorelClientServices::GetChatService() const
 {
 	return ChatService;
+}
+
+TObjectPtr<UAuthenticationService> FVorelClientServices::GetAuthService() const
+{
+	return AuthService;
 }
 
 TObjectPtr<UUserDataService> FVorelClientServices::GetUserDataService() const
@@ -135,8 +160,30 @@ FAssistantEndpoint FVorelClientServices::MakeOwnAssistant()
 		ServiceUrl.IsEmpty() ? LOCTEXT("NoLocalService", "The built-in assistant could not be started. The log tells why.") : FText();
 	Endpoint.BaseUrl = ServiceUrl / TEXT("v1");
 	Endpoint.BillingUrl = UVorelUserSettings::Get()->GetAppUrl() + TEXT("/billing");
-	Endpoint.Tokens = &OwnerKey;
+	Endpoint.Tokens = &GetServiceTokens();
 	return Endpoint;
+}
+
+IAccessTokenSource& FVorelClientServices::GetServiceTokens()
+{
+	return HasForeignIssuer() ? OwnerKey : AuthService->GetTokens();
+}
+
+FLoginOptions FVorelClientServices::MakeLoginOptions() const
+{
+	const FVorelClientOptions& Options = FVorelClientOptions::Get();
+	const FString Folder = FDataFolder::Get();
+	const char* const Store = std::getenv("VOREL_SECRET_STORE");
+	FLoginOptions Login;
+	Login.Issuer = Options.Issuer.IsEmpty() ? ServiceUrl : Options.Issuer;
+	Login.ClientId = Options.Issuer.IsEmpty() ? FString(TEXT("vorel-editor")) : Options.ClientId;
+	Login.DataFolder = Folder;
+	// The embedded service has another port each time, and its accounts lie in the data folder.
+	Login.KeyringAccount =
+		LocalService && Options.Issuer.IsEmpty() ? TEXT("local ") + MakeCanonical(Folder) : Login.Issuer + TEXT(" ") + Login.ClientId;
+	Login.bUseKeyring = !Folder.IsEmpty() && !(Store && FString(Store) == TEXT("none"));
+	Login.bAllowTokenFile = UVorelUserSettings::Get()->GetValues().bAllowTokenFile;
+	return Login;
 }
 
 // Empty where it does not start.
@@ -148,7 +195,7 @@ FString FVorelClientServices::StartLocalService()
 	Options.PieceInterval =
 		Chosen.GuidePieceMilliseconds < 0 ? Options.PieceInterval : std::chrono::milliseconds(Chosen.GuidePieceMilliseconds);
 
-	Options.OwnerKey = ToUtf8(OwnerKey.Get());
+	Options.OwnerKey = HasForeignIssuer() ? ToUtf8(OwnerKey.Get()) : std::string();
 	Options.DataFile = ToUtf8(GetDataFile(TEXT("service.sqlite")));
 	Options.Version = ToUtf8(GetInstalledVersion());
 	Options.DailyCredits = Chosen.DailyCredits.Get(Options.DailyCredits);

@@ -9,8 +9,10 @@
 
 class FLocalService;
 class UHttpChatService;
+class UOAuthAuthenticationService;
 class UVersionFeedUpdateService;
 class UVorelUserDataService;
+struct FLoginOptions;
 
 // Owns the four services, and the embedded local service where no other one was chosen.
 class FVorelClientServices final : public FVorelClient
@@ -20,12 +22,15 @@ public:
 	~FVorelClientServices() override;
 
 	TObjectPtr<UChatService> GetChatService() const override;
-	TObjectPtr<UAuthenticationService> GetAuthService() const override { return AuthService; }
+	TObjectPtr<UAuthenticationService> GetAuthService() const override;
 	TObjectPtr<UUserDataService> GetUserDataService() const override;
 	TObjectPtr<UVorelUpdateService> GetUpdateService() const override;
 
 private:
 	FString StartLocalService();
+	FLoginOptions MakeLoginOptions() const;
+	// For what only the service is asked.
+	IAccessTokenSource& GetServiceTokens();
 	FAssistantEndpoint ChooseAssistant();
 	FAssistantEndpoint MakeOwnAssistant();
 
@@ -37,7 +42,7 @@ private:
 
 	// In the root set.
 	TObjectPtr<UHttpChatService> ChatService;
-	TObjectPtr<UAuthenticationService> AuthService;
+	TObjectPtr<UOAuthAuthenticationService> AuthService;
 	TObjectPtr<UVorelUserDataService> UserDataService;
 	TObjectPtr<UVersionFeedUpdateService> UpdateService;
 };

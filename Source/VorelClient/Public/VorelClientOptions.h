@@ -16,7 +16,7 @@ struct FVorelClientOptions
 	// Where the service is, without a slash at the end. Empty: embedded.
 	FString ServiceUrl{};
 
-	// Another authorization server than the service, and this program's name there; both or none.
+	// Another authorization server than the service, exactly as it calls itself, and this program's name there; both or none.
 	FString Issuer{};
 	FString ClientId{};
 

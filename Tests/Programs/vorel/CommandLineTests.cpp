@@ -24,7 +24,7 @@ TEST(CommandLine, TakesValuesBehindABlankOrAnEqualsSign)
 {
 	const FCommandLine Line = Parse({TEXT("--offscreen"), TEXT("--size"), TEXT("640x480"), TEXT("--scale=1.5"), TEXT("--data-dir"),
 		TEXT("a=b"), TEXT("--assistant=https://host/v1?a=b"), TEXT("--model"), TEXT("--odd"), TEXT("--service=http://[::1]:80/"),
-		TEXT("--issuer=https://host/a"), TEXT("--client-id=b"), TEXT("--play=x.play")});
+		TEXT("--issuer=https://host/a/"), TEXT("--client-id=b"), TEXT("--play=x.play")});
 	EXPECT_TRUE(Line.bOffscreen);
 	EXPECT_EQ(Line.Size, (FContentSize{640, 480}));
 	EXPECT_EQ(*Line.Scale, 1.5);
@@ -32,7 +32,7 @@ TEST(CommandLine, TakesValuesBehindABlankOrAnEqualsSign)
 	EXPECT_TEXT(Line.AssistantUrl, TEXT("https://host/v1?a=b"));
 	EXPECT_TEXT(Line.Model, TEXT("--odd"));
 	EXPECT_TEXT(Line.ServiceUrl, TEXT("http://[::1]:80"));
-	EXPECT_TEXT(Line.Issuer + Line.ClientId, TEXT("https://host/ab"));
+	EXPECT_TEXT(Line.Issuer + Line.ClientId, TEXT("https://host/a/b"));
 	EXPECT_TEXT(Line.PlayFile, TEXT("x.play"));
 	EXPECT_EQ(*Parse({TEXT("--daily-credits"), TEXT("0")}).DailyCredits, 0);
 }

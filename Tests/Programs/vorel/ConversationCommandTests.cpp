@@ -120,7 +120,8 @@ TEST_F(ConversationCommand, ABadFileNamesWhatIsWrongAndChangesNothing)
 
 TEST_F(ConversationCommand, WorksOnWhatTheWindowStores)
 {
-	EXPECT_EQ(Play("open \"Vorel AI\"\nfocus \"Type your message here...\"\ntype \"How do I set a timer?\"\npress Enter\nwait idle 30\n")
+	EXPECT_EQ(Play("open \"Vorel AI\"\nlogin \"Ada\"\nfocus \"Type your message here...\"\ntype \"How do I set a timer?\"\npress "
+				   "Enter\nwait idle 30\n")
 				  .ExitStatus,
 		0);
 	TArray<FString> Fields;

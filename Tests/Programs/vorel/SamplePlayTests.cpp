@@ -1,5 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
+#include "Programs/vorel-service/RunningService.h"
 #include "Programs/vorel/VorelProgramTest.h"
 
 #include <QColor>
@@ -195,4 +196,54 @@ TEST_F(SamplePlay, KeepsConversationsOverThreeRuns)
 	const QByteArray Tree = Read("history/2-deleted.txt");
 	const qsizetype FirstRow = Tree.indexOf("SComboRow ");
 	EXPECT_TRUE(Tree.mid(FirstRow, Tree.indexOf('\n', FirstRow) - FirstRow).endsWith("tag=selected"));
+}
+
+TEST_F(SamplePlay, SignsInAndOutAndInAgain)
+{
+	const FProgramOutcome Outcome = PlaySample("login.play");
+	ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
+	EXPECT_EQ(FindInTree("login/1-panel.txt", "\"Log in\"").center().x(), 500.0);
+	EXPECT_EQ(FindInTree("login/2-dots.txt", "SLoadingAnimation ").center(), FindInTree("login/1-panel.txt", "\"Log in\"").center());
+	EXPECT_NE(QImage(GetPath("login/1-panel.png")), QImage(GetPath("login/2-dots.png")));
+	EXPECT_TRUE(FindInTree("login/3-greeting.txt", "SLoginPanel ").isEmpty());
+	EXPECT_TRUE(FindInTree("login/4-signed-out.txt", "SChatPanel ").isEmpty());
+	EXPECT_TRUE(Read("login/5-again.txt").contains("\"Licenced to: Ada Lovelace\""));
+
+	const QList<QByteArray> Addresses = Read("login/addresses.txt").split('\n');
+	ASSERT_EQ(Addresses.size(), 5);
+	const char* const Paths[] = {"/tos", "/privacy", "/login?response_type=code&client_id=vorel-editor&", "/login?"};
+	for (int Index = 0; Index < 4; ++Index)
+	{
+		EXPECT_TRUE(Addresses[Index].startsWith("http://127.0.0.1:") && Addresses[Index].contains(Paths[Index])) << Paths[Index];
+	}
+}
+
+TEST_F(SamplePlay, SpendsTheLastCreditAndTopsUp)
+{
+	const FProgramOutcome Outcome = PlaySample("no-credits.play", {QStringLiteral("--daily-credits=1")});
+	ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
+	const QRectF Box = FindInTree("no-credits/2-topped-up.txt", "hint=\"Type your message here...\"");
+	EXPECT_EQ(FindInTree("no-credits/1-none-left.txt", "\"You have no credits left for this Agent mode.\"").topLeft(), Box.topLeft());
+	EXPECT_GT(FindInTree("no-credits/1-none-left.txt", "\"Get more credits\"").width(), 0.0);
+	EXPECT_EQ(FindInTree("no-credits/2-topped-up.txt", "\"Get more credits\"").width(), 0.0);
+	EXPECT_TRUE(Read("no-credits/addresses.txt").endsWith("/billing\n"));
+}
+
+TEST_F(SamplePlay, IsToldOfANewerVersionByAServiceAndOfItsAbsence)
+{
+	const char* const Add = "echo the password of ada | $P --data-dir data accounts add 'Ada Lovelace'";
+	ASSERT_EQ(FProgramRun::RunShell("vorel-service", Add, ToQString(Folder.GetPath())).ExitStatus, 0);
+	Write("data/settings.json", "{\"allowTokenFile\": true}");
+	FRunningService Service(Folder, {QStringLiteral("--plugin-version=9.0.0")});
+	const QStringList Options = {QStringLiteral("--service=") + QString::fromStdString(Service.Address)};
+	const FProgramOutcome Told = PlaySample("new-version.play", Options);
+	ASSERT_EQ(Told.ExitStatus, 0) << Told.Errors;
+	EXPECT_TRUE(Read("new-version/addresses.txt").endsWith("\nhttps://vorel.example/plugin\n"));
+	EXPECT_GT(FindInTree("new-version/notice.txt", "\"Download\"").width(), 0.0);
+
+	Service.Stop(SIGTERM);
+	const FProgramOutcome Failed = PlaySample("no-user-data.play", Options);
+	ASSERT_EQ(Failed.ExitStatus, 0) << Failed.Errors;
+	const QByteArray Tree = Read("no-user-data/failed.txt");
+	EXPECT_TRUE(Tree.contains("\"Licenced to: \"") && Tree.contains("\"Credits: 0\""));
 }

@@ -26,14 +26,14 @@ protected:
 	}
 
 	// Each run of a test finds what the ones before left in the data folder.
-	FProgramOutcome PlayFile(const QString& File)
+	FProgramOutcome PlayFile(const QString& File, const QStringList& Options = {})
 	{
-		return Run({QStringLiteral("--offscreen"), QStringLiteral("--data-dir"), QStringLiteral("data"), QStringLiteral("--play"), File});
+		return Run(Options + QStringList{QStringLiteral("--offscreen"), QStringLiteral("--data-dir=data"), QStringLiteral("--play"), File});
 	}
 
-	FProgramOutcome PlaySample(const char* Name)
+	FProgramOutcome PlaySample(const char* Name, const QStringList& Options = {})
 	{
-		return PlayFile(QStringLiteral(VOREL_PROJECT_FOLDER "/Docs/Samples/") + QLatin1String(Name));
+		return PlayFile(QStringLiteral(VOREL_PROJECT_FOLDER "/Docs/Samples/") + QLatin1String(Name), Options);
 	}
 
 	FProgramOutcome Play(const char* Text)

@@ -68,8 +68,10 @@ TEST_F(VorelProgram, PlaysEveryCommandTwiceWithTheSameFiles)
 		QDir(GetPath("data")).removeRecursively();
 		const FProgramOutcome Outcome = PlaySample("every-command.play");
 		ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
-		const QHash<QString, QByteArray> Saved = ReadFolder("every-command");
+		QHash<QString, QByteArray> Saved = ReadFolder("every-command");
 		EXPECT_EQ(Saved.size(), 10);
+		// Each login has an address of its own.
+		EXPECT_TRUE(Saved.take(QStringLiteral("sent.txt")).startsWith("http://127.0.0.1:"));
 		for (auto File = First.cbegin(); File != First.cend(); ++File)
 		{
 			EXPECT_TRUE(Saved[File.key()] == File.value()) << File.key().toStdString();
@@ -97,7 +99,7 @@ TEST_F(VorelProgram, AScaleGivesMorePixelsToTheSameLayout)
 
 TEST_F(VorelProgram, AnAssistantThatDoesNotAnswerGivesTheQuestionBack)
 {
-	Write("a.play", "open \"Vorel AI\"\nfocus \"Type your message here...\"\ntype \"Anybody there?\"\npress Enter\n"
+	Write("a.play", "open \"Vorel AI\"\nlogin \"Ada\"\nfocus \"Type your message here...\"\ntype \"Anybody there?\"\npress Enter\n"
 					"wait text \"Unexpected error!\" 30\nwait idle\nexpect no text \"Type your message here...\"\ntree \"a.txt\"\n");
 	// The port of a service that no machine offers any more.
 	const FProgramOutcome Outcome = Run({QStringLiteral("--offscreen"), QStringLiteral("--data-dir=data"),

@@ -68,12 +68,22 @@ protected:
 	{
 		const QStringList Options = QStringLiteral("-displayfd 1 -nolisten tcp -screen 0 1280x1024x24").split(u' ');
 		Server = std::make_unique<FRunningProgram>(QStringLiteral("Xvfb"), Options, Environment);
+		SignIn();
 		const QByteArray Number = Server->ReadUntil(QProcess::StandardOutput, "\n").trimmed();
 		ASSERT_FALSE(Number.isEmpty());
 		Environment.insert(QStringLiteral("DISPLAY"), u':' + QString::fromLatin1(Number));
 		Vorel = std::make_unique<FRunningProgram>(
 			FProgramRun::FindProgram(QStringLiteral("vorel")), QStringList{QStringLiteral("--data-dir"), Path}, Environment);
 		Hand("search --sync --onlyvisible --name ^Vorel.AI$ windowmove 0 0 windowfocus --sync");
+	}
+
+	// For the next start, since the browser is somebody else's.
+	void SignIn()
+	{
+		Folder.Write(TEXT("settings.json"), "{\"allowTokenFile\": true}");
+		Folder.Write(TEXT("login.play"), "open \"Vorel AI\"\nlogin \"Ada\"\nwait text \"Welcome back!\"\n");
+		const QStringList Options = {QStringLiteral("--offscreen"), QStringLiteral("--data-dir=."), QStringLiteral("--play=login.play")};
+		EXPECT_EQ((FProgramRun{FProgramRun::FindProgram(QStringLiteral("vorel")), Options, Path, Environment}.Run().ExitStatus), 0);
 	}
 
 	// Commands of xdotool.

@@ -2,8 +2,7 @@
 
 #pragma once
 
-// Qt's headers come before the engine's, whose macros they don't survive.
-#include <QTimer>
+#include "Account/NextTurn.h"
 
 #include "Account/AccessTokenSource.h"
 #include "AuthenticationService.h"
@@ -21,14 +20,8 @@ public:
 	{
 		const FString Token = Tokens.IsValidIndex(Refused.Num()) ? Tokens[Refused.Num()] : FString();
 		Refused.Add(RefusedToken);
-		const TSharedRef<QTimer> Soon = MakeShared<QTimer>();
-		QObject::connect(&*Soon, &QTimer::timeout, &*Soon,
-			[Token, OnToken, &Timer = *Soon]
-			{
-				Timer.stop();
-				OnToken(Token);
-			});
-		Soon->start(0);
+		const TSharedRef<FNextTurn> Soon = MakeShared<FNextTurn>([Token, OnToken] { OnToken(Token); });
+		Soon->Ask();
 		return Soon;
 	}
 

@@ -6,19 +6,20 @@
 #include "DataFolder.h"
 #include "Modules/ModuleManager.h"
 #include "Support/TempFolder.h"
-#include "UserDataService.h"
 #include "VorelClient.h"
 #include "VorelClientOptions.h"
 #include "VorelSettings.h"
+#include <cstdlib>
 
-// The whole module with the embedded service, as the program without options starts it.
+// The whole module with the embedded service, as the program starts it.
 class FLocalAssistantTest : public testing::Test
 {
 protected:
-	FLocalAssistantTest()
+	void Load(const FVorelClientOptions& Options = {.GuidePieceMilliseconds = 0})
 	{
+		::setenv("VOREL_SECRET_STORE", "none", 1);
 		FDataFolder::Set(Folder.GetPath());
-		FVorelClientOptions::Set({.GuidePieceMilliseconds = 0});
+		FVorelClientOptions::Set(Options);
 		FModuleManager::Get().LoadModuleChecked(TEXT("VorelClient"));
 	}
 
@@ -30,61 +31,41 @@ protected:
 		CollectGarbage();
 	}
 
+	// What is told, or the failure.
+	static FString Ask(const TCHAR* Question)
+	{
+		const TObjectPtr<UChatService> Chat = FVorelClient::Get().GetChatService();
+		FString Told;
+		Chat->OnChunkReceived.AddLambda([&](const FString& Chunk) { Told += Chunk; });
+		Chat->OnRequestFailed.AddLambda([&](const FString& Error) { Told = Error; });
+		Chat->SendMessage(Question);
+		EXPECT_TRUE(PumpUntil([&] { return !Chat->bIsProcessingRequest; }));
+		return Told;
+	}
+
 	FTempFolder Folder;
 };
 
-TEST_F(FLocalAssistantTest, AnswersFromTheGuideWithoutConfiguration)
+TEST_F(FLocalAssistantTest, WithoutConfigurationAsksToSignIn)
 {
-	const TObjectPtr<UChatService> Chat = FVorelClient::Get().GetChatService();
-	FString Streamed;
-	FString Failure;
-	bool bCompleted = false;
-	Chat->OnChunkReceived.AddLambda([&](const FString& Chunk) { Streamed += Chunk; });
-	Chat->OnRequestFailed.AddLambda([&](const FString& Error) { Failure = Error; });
-	Chat->OnRequestCompleted.AddLambda([&] { bCompleted = true; });
-	Chat->SendMessage(TEXT("How do I set a timer?"));
-	// Who signs out finds the answer in its conversation when coming back.
-	FVorelClient::Get().GetAuthService()->Logout();
-	ASSERT_TRUE(PumpUntil([&] { return !Chat->bIsProcessingRequest; }));
-	EXPECT_TRUE(bCompleted) << Failure;
-	EXPECT_TRUE(Streamed.Contains(TEXT("From its article **Timers**"))) << Streamed.Left(200);
-	EXPECT_EQ(Chat->GetCurrentConversation()->Messages.Last()->Contents[0]->Text, Streamed);
-}
-
-TEST_F(FLocalAssistantTest, TellsTheWebPagesAddress)
-{
+	Load();
 	EXPECT_TRUE(UVorelSettings::Get()->GetAppUrl().StartsWith(TEXT("http://127.0.0.1:")));
+	EXPECT_FALSE(FVorelClient::Get().GetAuthService()->IsAuthenticated());
+	EXPECT_TEXT(Ask(TEXT("How do I set a timer?")), TEXT("Your login is no longer valid. Log out and sign in again."));
 }
 
-TEST_F(FLocalAssistantTest, CountsAsSignedIn)
+// Its tokens are none of the service's, which serves its owner then.
+TEST_F(FLocalAssistantTest, AnswersFromTheGuideWhoeverSignsUsersIn)
 {
-	const TObjectPtr<UAuthenticationService> Auth = FVorelClient::Get().GetAuthService();
-	int32 Changes = 0;
-	Auth->OnAuthenticationStateChanged.AddLambda([&] { ++Changes; });
-	EXPECT_TRUE(Auth->IsAuthenticated());
-	Auth->Logout();
-	Auth->Logout();
-	EXPECT_FALSE(Auth->IsAuthenticated());
-	EXPECT_EQ(Changes, 1);
-	Auth->StartLogin();
-	EXPECT_TRUE(Auth->IsAuthenticated());
-	EXPECT_EQ(Changes, 2);
-}
-
-TEST_F(FLocalAssistantTest, KnowsTheUserAndWhatAnAnswerCosts)
-{
-	const TObjectPtr<UUserDataService> Users = FVorelClient::Get().GetUserDataService();
-	TArray<int32> Credits;
-	Users->OnUserDataChanged.AddLambda([&](const FVorelUserData& Data, bool bSuccess) { Credits.Add(bSuccess ? Data.Credits : -1); });
-	Users->GetUserData();
-	ASSERT_TRUE(PumpUntil([&] { return Credits.Num() == 1; }));
-	FVorelClient::Get().GetChatService()->SendMessage(TEXT("How do I set a timer?"));
-	ASSERT_TRUE(PumpUntil([&] { return Credits.Num() == 2; }));
-	EXPECT_EQ(Credits, (TArray<int32>{100, 99}));
+	Load({.Issuer = TEXT("http://127.0.0.1:9"), .ClientId = TEXT("vorel"), .GuidePieceMilliseconds = 0});
+	const FString Told = Ask(TEXT("How do I set a timer?"));
+	EXPECT_TRUE(Told.Contains(TEXT("From its article **Timers**"))) << Told.Left(200);
+	EXPECT_TEXT(FVorelClient::Get().GetChatService()->GetCurrentConversation()->Messages.Last()->Contents[0]->Text, Told);
 }
 
 TEST_F(FLocalAssistantTest, KeepsItsServicesUntilItIsUnloaded)
 {
+	Load();
 	const TObjectPtr<UChatService> Chat = FVorelClient::Get().GetChatService();
 	CollectGarbage();
 	EXPECT_TRUE(IsValid(Chat));

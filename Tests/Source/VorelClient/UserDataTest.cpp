@@ -2,7 +2,9 @@
 
 #include "ClientFixture.h"
 #include "FakeAccount.h"
+#include "LoginFixture.h"
 
+#include "Account/AuthorizationMetadata.h"
 #include "Misc/CoreDelegates.h"
 #include "UserData/VorelUserDataService.h"
 
@@ -26,16 +28,16 @@ class FUserDataTest : public testing::Test
 protected:
 	~FUserDataTest() override
 	{
-		Users->Shutdown();
-		Users->RemoveFromRoot();
-		Authentication->RemoveFromRoot();
+		End();
 		CollectGarbage();
 	}
 
 	// Name, mail, credits and roles of every success, or "failed".
-	UVorelUserDataService& Start()
+	UVorelUserDataService& Start(FAuthorizationMetadata* Issuer = nullptr)
 	{
+		Users = NewObject<UVorelUserDataService>();
 		Users->AddToRoot();
+		Authentication = NewObject<UFakeAuthentication>();
 		Authentication->AddToRoot();
 		Users->OnUserDataChanged.AddLambda(
 			[this](const FVorelUserData& Data, bool bSuccess)
@@ -45,8 +47,20 @@ protected:
 									   *FString::Join(Data.Entitlements, TEXT("+")))
 								 : TEXT("failed;");
 			});
-		Users->Initialize({FString(Server.GetAddress().constData()), &Tokens, GetUserInfoUrl, &IssuerTokens}, *Authentication);
+		Users->Initialize({FString(Server.GetAddress().constData()), &Tokens, Issuer, &IssuerTokens}, *Authentication);
 		return *Users;
+	}
+
+	void End()
+	{
+		if (Users)
+		{
+			Users->Shutdown();
+			Users->RemoveFromRoot();
+			Authentication->RemoveFromRoot();
+			Users = nullptr;
+		}
+		Told.Reset();
 	}
 
 	bool WaitUntilTold(const FString& Expected)
@@ -61,11 +75,10 @@ protected:
 
 	FScriptedServer Server;
 	FFakeTokens Tokens{{TEXT("1"), TEXT("2"), TEXT("3"), TEXT("4"), TEXT("5"), TEXT("6"), TEXT("7"), TEXT("8")}};
-	FFakeTokens IssuerTokens{{TEXT("foreign")}};
-	TFunction<FString()> GetUserInfoUrl;
+	FFakeTokens IssuerTokens{{TEXT("foreign"), TEXT("foreign")}};
 	FString Told;
-	UVorelUserDataService* Users = NewObject<UVorelUserDataService>();
-	UFakeAuthentication* Authentication = NewObject<UFakeAuthentication>();
+	UVorelUserDataService* Users = nullptr;
+	UFakeAuthentication* Authentication = nullptr;
 };
 } // namespace
 
@@ -153,20 +166,26 @@ TEST_F(FUserDataTest, AsksAgainAfterAnAnswerAndOnReturnWithoutCredits)
 
 TEST_F(FUserDataTest, TakesTheNameFromAForeignIssuerAndTheCreditsFromTheService)
 {
-	FString Path = TEXT("/userinfo");
-	GetUserInfoUrl = [&]
-	{
-		return Path.IsEmpty() ? Path : FString(Server.GetAddress().constData()) + Path;
+	const QByteArray Endpoint = "{\"userinfo_endpoint\":\"" + Server.GetAddress() + "/info\"}";
+	const std::tuple<QByteArray, QByteArray, const TCHAR*> Rows[] = {
+		{Endpoint, R"({"sub":"42","preferred_username":"grace","email":"g@h"})", TEXT("grace g@h 2147483647 ;")},
+		{Endpoint, "[]", TEXT("failed;")},
+		// One that tells nothing of its users.
+		{"{}", "", TEXT("Signed-in user  2147483647 ;")},
 	};
-	Server.Then(Reply(R"({"name":"","credits":5000000000})"));
-	Server.Then(Reply(R"({"sub":"42","preferred_username":"grace","email":"g@h"})"));
-	Start().GetUserData();
-	ASSERT_TRUE(WaitUntilTold(TEXT("grace g@h 2147483647 ;"))) << Told;
-	EXPECT_EQ(Server.GetExchanges()[1].Headers["authorization"], "Bearer foreign");
-
-	// One that tells nothing of its users.
-	Path.Empty();
-	Server.Then(Reply(R"({"name":"","credits":-1})"));
-	Users->GetUserData();
-	EXPECT_TRUE(WaitUntilTold(TEXT("grace g@h 2147483647 ;Signed-in user  0 ;"))) << Told;
+	for (const auto& [Metadata, Info, Expected] : Rows)
+	{
+		FAuthorizationMetadata Issuer(FString(Server.GetAddress().constData()), FRequestLimits());
+		Server.Then(Reply(R"({"name":"","credits":5000000000})"));
+		Server.Then(ReplyMetadata(Server, Metadata));
+		if (!Info.isEmpty())
+		{
+			Server.Then(Reply(Info));
+		}
+		Start(&Issuer).GetUserData();
+		EXPECT_TRUE(WaitUntilTold(Expected)) << Told;
+		const FExchange& Last = Server.GetExchanges().last();
+		EXPECT_TRUE(Info.isEmpty() || (Last.Path == "/info" && Last.Headers["authorization"] == "Bearer foreign"));
+		End();
+	}
 }

@@ -2,8 +2,8 @@
 
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QRandomGenerator>
-#include <QTimer>
 
+#include "Account/NextTurn.h"
 #include "Http/QtText.h"
 
 #include "Account/OwnerKey.h"
@@ -17,10 +17,8 @@ FOwnerKey::FOwnerKey()
 
 TSharedPtr<void> FOwnerKey::RequestToken(const FString& RefusedToken, TFunction<void(const FString& Token)> OnToken)
 {
-	const TSharedRef<QTimer> Soon = MakeShared<QTimer>();
-	Soon->setSingleShot(true);
 	const FString Token = RefusedToken.IsEmpty() ? Key : FString();
-	QObject::connect(&*Soon, &QTimer::timeout, &*Soon, [Token, Given = ::MoveTemp(OnToken)] { Given(Token); });
-	Soon->start(0);
+	const TSharedRef<FNextTurn> Soon = MakeShared<FNextTurn>([Token, OnToken] { OnToken(Token); });
+	Soon->Ask();
 	return Soon;
 }

@@ -3,6 +3,7 @@
 #include "Account/AuthorizedCall.h"
 #include "Http/QtText.h"
 
+#include "Account/AuthorizationMetadata.h"
 #include "Http/Excerpt.h"
 #include "Http/JsonText.h"
 #include "UserData/UserDataFetch.h"
@@ -74,9 +75,9 @@ void FUserDataFetch::Ask(const FString& Url, IAccessTokenSource* Tokens, FString
 	Call->OnEnded = [this, Read](const TOptional<FHttpFailure>& Failure)
 	{
 		const FString Problem = Failure ? DescribeFailure(*Failure) : (this->*Read)();
-		if (Problem.IsEmpty() && !bNameAsked && Source.GetUserInfoUrl)
+		if (Problem.IsEmpty() && !IssuerRequest && Source.Issuer)
 		{
-			AskForName();
+			AskIssuer();
 		}
 		else
 		{
@@ -101,18 +102,20 @@ FString FUserDataFetch::ReadAccount()
 	return FString();
 }
 
-void FUserDataFetch::AskForName()
+void FUserDataFetch::AskIssuer()
 {
-	bNameAsked = true;
-	const FString Url = Source.GetUserInfoUrl();
-	if (Url.IsEmpty())
-	{
-		End(FString());
-	}
-	else
-	{
-		Ask(Url, Source.IssuerTokens, &FUserDataFetch::ReadUserInfo);
-	}
+	IssuerRequest = Source.Issuer->Request(
+		[this](const FAuthorizationServer* Server, const FText& Failure)
+		{
+			if (Server && !Server->UserInfoEndpoint.empty())
+			{
+				Ask(FromUtf8(Server->UserInfoEndpoint), Source.IssuerTokens, &FUserDataFetch::ReadUserInfo);
+			}
+			else
+			{
+				End(Failure.ToString());
+			}
+		});
 }
 
 FString FUserDataFetch::ReadUserInfo()

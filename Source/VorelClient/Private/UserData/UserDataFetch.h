@@ -6,18 +6,19 @@
 #include "VorelUserData.h"
 #include <string>
 
+class FAuthorizationMetadata;
 class FAuthorizedCall;
 class IAccessTokenSource;
 
-// Whom to ask about the user.
+// Whom to ask about the user. All of it must outlive the questions.
 struct FUserDataSource
 {
 	// Without a slash at the end.
 	FString ServiceUrl{};
 	IAccessTokenSource* ServiceTokens = nullptr;
 
-	// Where another server signs users in, it knows their names: its address for that, empty where it has none, and its tokens.
-	TFunction<FString()> GetUserInfoUrl;
+	// Where another server signs users in, it knows their names; else null.
+	FAuthorizationMetadata* Issuer = nullptr;
 	IAccessTokenSource* IssuerTokens = nullptr;
 };
 
@@ -37,12 +38,12 @@ private:
 	void Ask(const FString& Url, IAccessTokenSource* Tokens, FString (FUserDataFetch::*Read)());
 	FString ReadAccount();
 	FString ReadUserInfo();
-	void AskForName();
+	void AskIssuer();
 	void End(const FString& Problem);
 
 	FUserDataSource Source;
 	FVorelUserData Data;
 	std::string Body;
-	bool bNameAsked = false;
+	TSharedPtr<void> IssuerRequest;
 	TUniquePtr<FAuthorizedCall> Call;
 };
