@@ -59,8 +59,7 @@ void FLoginSession::SignIn(const FTokenSet& InTokens)
 	Renewal.Reset();
 	bSignedIn = true;
 	Tokens = InTokens;
-	StoreTurn = MakeUnique<FRefreshLock>(
-		Options.DataFolder, Options.Limits.Lock, [this](bool) { Store.Save(*Tokens, [this] { StoreTurn.Reset(); }); });
+	TakeStoreTurn([this](const TFunction<void()>& OnDone) { Store.Save(*Tokens, OnDone); });
 	NextTurn->Ask();
 }
 
@@ -88,8 +87,17 @@ void FLoginSession::Forget()
 		Revoke(*Tokens);
 		Tokens.Reset();
 	}
-	StoreTurn =
-		MakeUnique<FRefreshLock>(Options.DataFolder, Options.Limits.Lock, [this](bool) { Store.Clear([this] { StoreTurn.Reset(); }); });
+	TakeStoreTurn([this](const TFunction<void()>& OnDone) { Store.Clear(OnDone); });
+}
+
+void FLoginSession::TakeStoreTurn(TFunction<void(const TFunction<void()>&)> Work)
+{
+	const auto HandleDone = [this]
+	{
+		StoreTurn.Reset();
+		NextTurn->Ask();
+	};
+	StoreTurn = MakeUnique<FRefreshLock>(Options.DataFolder, Options.Limits.Lock, [Work, HandleDone](bool) { Work(HandleDone); });
 }
 
 void FLoginSession::Revoke(const FTokenSet& Over)
@@ -135,7 +143,7 @@ void FLoginSession::Serve()
 			Waiter.OnToken(bGood ? FromUtf8(Tokens->Access) : FString());
 			return true;
 		});
-	if (bRenew && bSignedIn && Tokens && !Renewal)
+	if (bRenew && bSignedIn && Tokens && !Renewal && !StoreTurn)
 	{
 		Renew(bRefused ? Tokens->Access : std::string());
 	}

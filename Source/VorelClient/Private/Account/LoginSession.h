@@ -45,6 +45,8 @@ private:
 	// Everybody gets what there is.
 	void ServeAll();
 	void Forget();
+	// Work tells by its argument that it is done. No renewal begins before that.
+	void TakeStoreTurn(TFunction<void(const TFunction<void()>&)> Work);
 	void Revoke(const FTokenSet& Over);
 	void End(const FText& Failure);
 
