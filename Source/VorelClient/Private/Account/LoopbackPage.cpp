@@ -6,6 +6,16 @@
 
 namespace
 {
+// The colors of the service's pages.
+constexpr const char* Style =
+	":root{color-scheme:light dark;--ground:#f4f6fb;--card:#fff;--line:#dfe3ec;--text:#16181c}"
+	"@media(prefers-color-scheme:dark){:root{--ground:#16181c;--card:#1d2025;--line:#2d3139;--text:#e9ebf0}}"
+	"body{margin:0;min-height:100vh;display:grid;place-items:center;background:var(--ground);color:var(--text);"
+	"font:1rem/1.5 system-ui,sans-serif}"
+	"main{box-sizing:border-box;max-width:28rem;margin:1rem;padding:1.75rem;border:1px solid var(--line);border-radius:.75rem;"
+	"background:var(--card)}"
+	"h1{margin:0 0 .75rem;font-size:1.5rem;line-height:1.2}p{margin:0}";
+
 QByteArray ToHtml(const FText& Text)
 {
 	return QByteArray::fromStdString(ToUtf8(Text.ToString())).replace('&', "&amp;").replace('<', "&lt;");
@@ -13,14 +23,10 @@ QByteArray ToHtml(const FText& Text)
 
 QByteArray MakeReply(const char* Status, const FText& Title, const FText& Sentence)
 {
-	const QByteArray Body =
-		"<!DOCTYPE html><html lang=\"en\"><head><meta charset=\"utf-8\">"
-		"<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"><title>" +
-		ToHtml(Title) +
-		" - Vorel AI</title><style>:root{color-scheme:light dark}body{margin:0;min-height:100vh;display:grid;place-items:center;"
-		"font:1rem/1.5 system-ui,sans-serif}main{max-width:28rem;padding:2rem}h1{font-size:1.5rem;line-height:1.2}</style></head>"
-		"<body><main><h1>" +
-		ToHtml(Title) + "</h1><p>" + ToHtml(Sentence) + "</p></main></body></html>\n";
+	const QByteArray Body = "<!DOCTYPE html><html lang=\"en\"><head><meta charset=\"utf-8\">"
+							"<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"><title>" +
+							ToHtml(Title) + " - Vorel AI</title><style>" + Style + "</style></head><body><main><h1>" + ToHtml(Title) +
+							"</h1><p>" + ToHtml(Sentence) + "</p></main></body></html>\n";
 	return "HTTP/1.1 " + QByteArray(Status) +
 		   "\r\nContent-Type: text/html; charset=utf-8\r\nContent-Length: " + QByteArray::number(Body.size()) +
 		   "\r\nConnection: close\r\nCache-Control: no-store\r\nReferrer-Policy: no-referrer\r\nX-Content-Type-Options: nosniff\r\n"
