@@ -116,6 +116,8 @@ TEST_F(FTextInput, ACompositionReplacesTheSelectionAndIsGivenUpByGoingElsewhere)
 	Compose(TEXT("ni"));
 	ClearFocus();
 	EXPECT_TEXT(TakeCommits() + Screen(), TEXT("Focus:ab;ab"));
+	Focus();
+	EXPECT_TEXT(Screen(), TEXT("|ab"));
 }
 
 TEST_F(FTextInput, InputMethodsLearnWhereTheCaretIs)

@@ -8,33 +8,15 @@
 
 namespace
 {
-const std::string Fence(32, '`');
-
 // Tabs are written as arrows.
-void AddLine(std::string& Text, std::string_view Line)
+std::string WithTabs(std::string Text)
 {
 	constexpr std::string_view Arrow = "\u2192";
-	for (size_t Position; (Position = Line.find(Arrow)) != std::string_view::npos; Line.remove_prefix(Position + Arrow.size()))
+	for (size_t At = 0; (At = Text.find(Arrow, At)) != std::string::npos;)
 	{
-		Text.append(Line.substr(0, Position)) += '\t';
+		Text.replace(At, Arrow.size(), "\t");
 	}
-	Text.append(Line) += '\n';
-}
-
-void ReadExample(std::istream& Lines, FSuiteExample& Example)
-{
-	std::string* Part = &Example.Markdown;
-	for (std::string Line; std::getline(Lines, Line) && Line != Fence;)
-	{
-		if (Line == "." && Part == &Example.Markdown)
-		{
-			Part = &Example.Html;
-		}
-		else
-		{
-			AddLine(*Part, Line);
-		}
-	}
+	return Text;
 }
 } // namespace
 
@@ -43,29 +25,33 @@ std::string GetSuitePath(std::string_view Name)
 	return VOREL_SUITES_FOLDER "/" + std::string(Name) + ".txt";
 }
 
-std::string LoadSuiteText(std::string_view Name)
+std::string LoadText(const std::string& Path)
 {
-	const std::string Path = GetSuitePath(Name);
 	std::ifstream File(Path);
-	EXPECT_TRUE(File.is_open()) << "The examples of " << Name << " are missing, which ./test.sh fetches: there is no " << Path;
+	EXPECT_TRUE(File.is_open()) << "There is no " << Path << "; the examples of the suites are fetched by ./test.sh";
 	std::stringstream Text;
 	Text << File.rdbuf();
 	return Text.str();
 }
 
-std::vector<FSuiteExample> ReadSuite(std::string_view Text)
+std::vector<FSuiteExample> ReadSuite(std::string_view Name)
 {
+	const std::string Fence(32, '`');
 	const std::string Opening = Fence + " example";
+	std::string Text = WithTabs(LoadText(GetSuitePath(Name)));
+	Text.resize(std::min(Text.find("<!-- END TESTS -->"), Text.size()));
 	std::vector<FSuiteExample> Examples;
-	std::istringstream Lines{std::string(Text)};
-	for (std::string Line; std::getline(Lines, Line) && Line != "<!-- END TESTS -->";)
+	for (size_t At = 0; (At = Text.find(Opening, At)) != std::string::npos;)
 	{
-		if (Line.starts_with(Opening))
-		{
-			const std::string Extension = Line.substr(std::min(Opening.size() + 1, Line.size()));
-			Examples.push_back({static_cast<int>(Examples.size()) + 1, Extension, "", ""});
-			ReadExample(Lines, Examples.back());
-		}
+		const size_t ExtensionBegin = At + Opening.size();
+		const size_t LineEnd = Text.find('\n', At);
+		const size_t Dot = Text.find("\n.\n", LineEnd) + 1;
+		const size_t End = Text.find("\n" + Fence + "\n", Dot + 1) + 1;
+		std::string Extension = Text.substr(ExtensionBegin, LineEnd - ExtensionBegin);
+		Extension.erase(0, Extension.starts_with(' ') ? 1 : 0);
+		Examples.push_back({static_cast<int>(Examples.size()) + 1, Extension, Text.substr(LineEnd + 1, Dot - LineEnd - 1),
+			Text.substr(Dot + 2, End - Dot - 2)});
+		At = End;
 	}
 	return Examples;
 }

@@ -19,10 +19,11 @@ struct FSuiteExample
 
 std::string GetSuitePath(std::string_view Name);
 
-// The text of "commonmark" or "gfm", which is a Markdown document itself. Fails the test, and says what to do, where it is missing.
-std::string LoadSuiteText(std::string_view Name);
+// Fails the test, and says what to do, where there is no such file.
+std::string LoadText(const std::string& Path);
 
-std::vector<FSuiteExample> ReadSuite(std::string_view Text);
+// Of "commonmark" or "gfm", whose text is a Markdown document itself.
+std::vector<FSuiteExample> ReadSuite(std::string_view Name);
 
 // What a reader of a message sees of an example, told from its HTML: each run's name in brackets before its text, without white space but
 // in code. Marks of lists and tasks, rules and the addresses of links are added as messages show them.

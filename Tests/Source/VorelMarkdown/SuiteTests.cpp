@@ -31,7 +31,7 @@ void ExpectExample(const FSuiteExample& Example, const FDeviations& Deviations)
 
 TEST(Suite, EveryExampleOfCommonMarkIsShownWithItsTextAndFormats)
 {
-	const std::vector<FSuiteExample> Examples = ReadSuite(LoadSuiteText("commonmark"));
+	const std::vector<FSuiteExample> Examples = ReadSuite("commonmark");
 	ASSERT_EQ(Examples.size(), 652u);
 	const FDeviations Deviations = {{171, "md4c 0.4.8 does not know that <textarea> lasts until its end tag"},
 		{354, "md4c 0.4.8 takes currency signs for letters"}, {608, "a bare address is a link"}, {611, "a bare address is a link"},
@@ -46,7 +46,7 @@ TEST(Suite, TheTablesTasksStrikesAndLinksOfGfmToo)
 {
 	const std::set<std::string> Extensions = {"table", "disabled", "strikethrough", "autolink"};
 	size_t Count = 0;
-	for (const FSuiteExample& Example : ReadSuite(LoadSuiteText("gfm")))
+	for (const FSuiteExample& Example : ReadSuite("gfm"))
 	{
 		if (Extensions.contains(Example.Extension))
 		{
@@ -66,6 +66,6 @@ TEST(Suite, TheProgramWritesWhatTheParserMakes)
 		std::string Markup(8'000'000, 0);
 		Markup.resize(std::fread(Markup.data(), 1, Markup.size(), Output));
 		EXPECT_EQ(::pclose(Output), 0);
-		EXPECT_TRUE(Markup == RenderMarkup(LoadSuiteText(Name)) + "\n") << Name;
+		EXPECT_TRUE(Markup == RenderMarkup(LoadText(GetSuitePath(Name))) + "\n") << Name;
 	}
 }
