@@ -6,8 +6,6 @@
 #include "Editor.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Rendering/SlatePainter.h"
-#include "Support/DriverKeys.h"
-#include "Support/WidgetSearch.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/SWindow.h"
 #include "Widgets/WidgetTreeDump.h"
@@ -44,7 +42,82 @@ public:
 namespace
 {
 constexpr int32 MostFramesToSettle = 8;
+
+FKey FindKey(const FString& Name)
+{
+	if (Name.Len() == 1)
+	{
+		return FKey(*Name.ToUpper());
+	}
+	static const FKey NamedKeys[] = {EKeys::BackSpace, EKeys::Delete, EKeys::Insert, EKeys::Enter, EKeys::Escape, EKeys::SpaceBar,
+		EKeys::Tab, EKeys::Left, EKeys::Right, EKeys::Up, EKeys::Down, EKeys::Home, EKeys::End, EKeys::PageUp, EKeys::PageDown};
+	for (const FKey& Key : NamedKeys)
+	{
+		if (Key.ToString() == Name)
+		{
+			return Key;
+		}
+	}
+	ADD_FAILURE() << "There is no key \"" << Name << "\"";
+	return FKey();
 }
+
+/** "Ctrl+Shift+Z", "Enter"; a word that is no key's name fails the test. */
+FKeyEvent ParseKeyEvent(const FString& KeyWithModifiers)
+{
+	TArray<FString> Words;
+	KeyWithModifiers.ParseIntoArray(Words, TEXT("+"));
+	const FString Name = Words.Pop();
+	const auto TakeModifier = [&Words](const TCHAR* Modifier)
+	{
+		return Words.Remove(Modifier) > 0;
+	};
+	const FModifierKeysState Modifiers(TakeModifier(TEXT("Shift")), TakeModifier(TEXT("Ctrl")), TakeModifier(TEXT("Alt")));
+	EXPECT_TRUE(Words.IsEmpty()) << KeyWithModifiers;
+	return FKeyEvent(FindKey(Name), Modifiers);
+}
+
+using FTest = TFunctionRef<bool(const FString&)>;
+
+bool Matches(const SWidget& Widget, FTest Test)
+{
+	const FName& Tag = Widget.GetTag();
+	return Test(Widget.GetShownText()) || Test(Widget.GetHint()) || Test(Widget.GetAccessibleText().ToString()) ||
+		   (Tag != NAME_None && Test(Tag.ToString()));
+}
+
+TSharedPtr<SWidget> FindFirst(const TSharedRef<SWidget>& Widget, FTest Test)
+{
+	if (!Widget->GetVisibility().IsVisible())
+	{
+		return nullptr;
+	}
+	FChildren& Children = *Widget->GetChildren();
+	for (int32 Index = 0; Index < Children.Num(); ++Index)
+	{
+		if (const TSharedPtr<SWidget> Inner = FindFirst(Children.GetChildAt(Index), Test))
+		{
+			return Inner;
+		}
+	}
+	return Matches(*Widget, Test) ? TSharedPtr<SWidget>(Widget) : nullptr;
+}
+
+/** As the driver says of texts. Collapsed and hidden widgets are passed over. */
+TSharedPtr<SWidget> FindWidgetByText(const TSharedRef<SWidget>& Root, const FString& Text)
+{
+	const auto IsEqual = [&Text](const FString& Shown)
+	{
+		return Shown.Equals(Text, ESearchCase::CaseSensitive);
+	};
+	const auto IsContained = [&Text](const FString& Shown)
+	{
+		return Shown.Contains(Text, ESearchCase::CaseSensitive);
+	};
+	const TSharedPtr<SWidget> Equal = FindFirst(Root, IsEqual);
+	return Equal.IsValid() ? Equal : FindFirst(Root, IsContained);
+}
+} // namespace
 
 FUserDriver::FUserDriver(const TSharedRef<SWidget>& Content, const FVector2D& InSize, float InScale, EDriverFonts Fonts)
 	: Session(FDriverSession::Share(Fonts))

@@ -6,13 +6,19 @@
 
 #include <gtest/gtest.h>
 
+// One tab, opened, brought forward and closed, is shown by the module's tests; here are several, and what hears of them.
+
 class TabManagerTest : public testing::Test
 {
 protected:
 	TabManagerTest()
 	{
-		Register("A");
-		Register("B");
+		const auto Spawn = [](const FSpawnTabArgs&)
+		{
+			return TSharedRef<SDockTab>(SNew(SDockTab).TabRole(ETabRole::NomadTab));
+		};
+		GetManager().RegisterNomadTabSpawner("A", FOnSpawnTab::CreateLambda(Spawn));
+		GetManager().RegisterNomadTabSpawner("B", FOnSpawnTab::CreateLambda(Spawn));
 	}
 
 	~TabManagerTest() override
@@ -27,31 +33,28 @@ protected:
 
 	static FGlobalTabmanager& GetManager() { return *FGlobalTabmanager::Get(); }
 	static TSharedPtr<SDockTab> Invoke(const FName& Name) { return GetManager().TryInvokeTab(FTabId(Name)); }
-
-	void Register(const FName& Name) { GetManager().RegisterNomadTabSpawner(Name, FOnSpawnTab::CreateRaw(this, &TabManagerTest::Spawn)); }
-
-	TSharedRef<SDockTab> Spawn(const FSpawnTabArgs& Args)
-	{
-		Spawned.Add(Args.GetTabId().TabType);
-		return SNew(SDockTab).TabRole(ETabRole::NomadTab);
-	}
-
-	TArray<FName> Spawned;
 };
 
-TEST_F(TabManagerTest, SpawnsATabOnceAndBringsItForwardAfterwards)
+TEST_F(TabManagerTest, OneOfSeveralIsInTheForegroundAndClosingIsTold)
 {
 	const TSharedPtr<SDockTab> A = Invoke("A");
-	ASSERT_TRUE(A);
-	EXPECT_EQ(A->GetLayoutIdentifier(), FTabId("A"));
 	const TSharedPtr<SDockTab> B = Invoke("B");
+	EXPECT_EQ(A->GetLayoutIdentifier(), FTabId("A"));
 	EXPECT_FALSE(A->IsForeground());
 	EXPECT_EQ(Invoke("A"), A);
 	EXPECT_TRUE(A->IsForeground());
-	EXPECT_EQ(Spawned, (TArray<FName>{"A", "B"}));
 	EXPECT_EQ(GetManager().GetOpenTabs(), (TArray<TSharedRef<SDockTab>>{A.ToSharedRef(), B.ToSharedRef()}));
-	A->RequestCloseTab();
-	EXPECT_TRUE(B->IsForeground()) << "another comes forward";
+
+	FString Log;
+	A->SetOnTabClosed(FOnTabClosedCallback::CreateLambda([&](TSharedRef<SDockTab>) { Log += TEXT("tab "); }));
+	const FDelegateHandle Handle = GetManager().OnTabClosed.AddLambda([&](const TSharedRef<SDockTab>&) { Log += TEXT("manager "); });
+	EXPECT_TRUE(A->RequestCloseTab());
+	EXPECT_FALSE(A->RequestCloseTab());
+	EXPECT_TEXT(Log, TEXT("manager tab "));
+	EXPECT_TRUE(B->IsForeground());
+	B->RequestCloseTab();
+	EXPECT_FALSE(GetManager().GetForegroundTab());
+	GetManager().OnTabClosed.Remove(Handle);
 }
 
 TEST_F(TabManagerTest, AnOpenTabOutlivesItsSpawner)
@@ -59,23 +62,7 @@ TEST_F(TabManagerTest, AnOpenTabOutlivesItsSpawner)
 	const TSharedPtr<SDockTab> A = Invoke("A");
 	EXPECT_TRUE(GetManager().UnregisterNomadTabSpawner("A"));
 	EXPECT_FALSE(GetManager().UnregisterNomadTabSpawner("A"));
-	EXPECT_TRUE(A->IsForeground());
 	EXPECT_TRUE(A->RequestCloseTab());
-	EXPECT_FALSE(Invoke("A"));
 	GetManager().RegisterNomadTabSpawner("A", FOnSpawnTab());
 	EXPECT_FALSE(Invoke("A"));
-}
-
-TEST_F(TabManagerTest, SpawnsAnewAfterClosing)
-{
-	const TSharedPtr<SDockTab> First = Invoke("A");
-	FString Log;
-	First->SetOnTabClosed(FOnTabClosedCallback::CreateLambda([&](TSharedRef<SDockTab>) { Log += TEXT("tab "); }));
-	const FDelegateHandle Handle = GetManager().OnTabClosed.AddLambda([&](const TSharedRef<SDockTab>&) { Log += TEXT("manager "); });
-	EXPECT_TRUE(First->RequestCloseTab());
-	EXPECT_FALSE(First->RequestCloseTab());
-	EXPECT_TEXT(Log, TEXT("manager tab "));
-	EXPECT_FALSE(GetManager().GetForegroundTab());
-	EXPECT_NE(Invoke("A"), First);
-	GetManager().OnTabClosed.Remove(Handle);
 }

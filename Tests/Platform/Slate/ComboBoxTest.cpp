@@ -27,11 +27,7 @@ protected:
 		for (int32 Last = Options.Num() + Count; Options.Num() < Last;)
 		{
 			const int32 Index = Options.Num();
-			Options.Add(MakeShared<FString>(FString::Printf(TEXT("%s %d"),
-				Index % 3 == 0   ? TEXT("a")
-				: Index % 3 == 1 ? TEXT("b")
-								 : TEXT("c"),
-				Index)));
+			Options.Add(MakeShared<FString>(FString::Printf(TEXT("%c %d"), TEXT("abc")[Index % 3], Index)));
 		}
 	}
 
@@ -74,21 +70,18 @@ protected:
 		Changes += (Option.IsValid() ? *Option : FString(TEXT("null"))) + TEXT(" by ") + Ways[SelectInfo] + TEXT(";");
 	}
 
-	FString TakeChanges()
-	{
-		FString Taken = MoveTemp(Changes);
-		Changes = FString();
-		return Taken;
-	}
+	FString TakeChanges() { return std::exchange(Changes, FString()); }
 
-	/** Opens the list and presses keys, or types what begins with a quote; tells what Enter chooses then. */
-	FString ChooseBy(std::initializer_list<const TCHAR*> Keys)
+	/** Opens the list and presses keys, or types what begins with a quote, with "_" for a blank; tells what Enter chooses then. */
+	FString ChooseBy(const FString& Keys)
 	{
+		TArray<FString> Words;
+		Keys.ParseIntoArray(Words, TEXT(" "));
 		Box->SetSelectedItem(nullptr);
 		User.Press(TEXT("Down"));
-		for (const TCHAR* Key : Keys)
+		for (const FString& Word : Words)
 		{
-			Key[0] == u'\'' ? User.Type(Key + 1) : User.Press(Key);
+			Word[0] == TEXT('\'') ? User.Type(Word.RightChop(1).Replace(TEXT("_"), TEXT(" "))) : User.Press(Word);
 		}
 		TakeChanges();
 		User.Press(TEXT("Enter"));
@@ -143,7 +136,7 @@ TEST_F(ComboBox, AClickOpensItAClickChoosesAndTheSameAgainIsNotReported)
 	EXPECT_EQ(Box->GetSelectedItem(), Options[2]);
 }
 
-TEST_F(ComboBox, ClosesWithoutAChoice)
+TEST_F(ComboBox, ClosesWithoutAChoiceAndDisabledOrGone)
 {
 	User.Click(TEXT("Pick"));
 	User.ClickAt(FVector2D(10.0, 5.0));
@@ -157,20 +150,33 @@ TEST_F(ComboBox, ClosesWithoutAChoice)
 	EXPECT_TRUE(Box->IsOpen());
 	User.ClickAt(FVector2D(190.0, 290.0));
 	EXPECT_FALSE(Box->IsOpen());
+	User.Click(TEXT("Pick"));
+	Box->SetEnabled(false);
+	User.Frame();
+	EXPECT_FALSE(Box->IsOpen());
+	User.Click(TEXT("Pick"));
+	EXPECT_FALSE(Box->IsOpen());
 	EXPECT_EQ(TakeChanges(), FString());
+	Box->SetEnabled(true);
+	User.Click(TEXT("Pick"));
+	Column->ClearChildren();
+	Box.Reset();
+	User.Press(TEXT("Enter"));
+	User.ClickAt(FVector2D(50.0, 50.0));
+	EXPECT_FALSE(User.Sees(TEXT("a 0")));
 }
 
 TEST_F(ComboBox, KeysMoveTheHighlightAndEnterChooses)
 {
 	SetOptions(100);
 	User.Press(TEXT("Tab"));
-	EXPECT_EQ(ChooseBy({}), FString());
-	EXPECT_EQ(ChooseBy({TEXT("Down")}), TEXT("a 0 by key;"));
-	EXPECT_EQ(ChooseBy({TEXT("Down"), TEXT("Down"), TEXT("Down"), TEXT("Up")}), TEXT("b 1 by key;"));
-	EXPECT_EQ(ChooseBy({TEXT("Up")}), TEXT("a 99 by key;"));
-	EXPECT_EQ(ChooseBy({TEXT("End"), TEXT("Down")}), TEXT("a 99 by key;"));
-	EXPECT_EQ(ChooseBy({TEXT("End"), TEXT("Home"), TEXT("Up")}), TEXT("a 0 by key;"));
-	EXPECT_EQ(ChooseBy({TEXT("PageDown"), TEXT("PageDown"), TEXT("PageUp"), TEXT("PageUp")}), TEXT("a 0 by key;"));
+	const TPair<const TCHAR*, const TCHAR*> Cases[] = {{TEXT(""), TEXT("")}, {TEXT("Down"), TEXT("a 0 by key;")},
+		{TEXT("Down Down Down Up"), TEXT("b 1 by key;")}, {TEXT("Up"), TEXT("a 99 by key;")}, {TEXT("End Down"), TEXT("a 99 by key;")},
+		{TEXT("End Home Up"), TEXT("a 0 by key;")}, {TEXT("PageDown PageDown PageUp PageUp"), TEXT("a 0 by key;")}};
+	for (const auto& [Keys, Chosen] : Cases)
+	{
+		EXPECT_EQ(ChooseBy(Keys), Chosen) << FString(Keys);
+	}
 	User.Press(TEXT("Enter"));
 	User.Press(TEXT("PageDown"));
 	EXPECT_TRUE(User.Sees(TEXT("a 0"))) << "it moves the highlight within the view";
@@ -181,14 +187,16 @@ TEST_F(ComboBox, KeysMoveTheHighlightAndEnterChooses)
 TEST_F(ComboBox, TypingFindsAnOptionByItsBeginning)
 {
 	User.Press(TEXT("Tab"));
-	EXPECT_EQ(ChooseBy({TEXT("'1")}), TEXT("b 1 by key;")) << "no option begins so, but a word in one";
+	EXPECT_EQ(ChooseBy(TEXT("'1")), TEXT("b 1 by key;")) << "no option begins so, but a word in one";
 	SetOptions(2000);
-	EXPECT_EQ(ChooseBy({TEXT("'B")}), TEXT("b 1 by key;"));
-	EXPECT_EQ(ChooseBy({TEXT("'c"), TEXT("' 5")}), TEXT("c 5 by key;"));
-	EXPECT_EQ(ChooseBy({TEXT("Down"), TEXT("'a")}), TEXT("a 3 by key;"));
-	EXPECT_EQ(ChooseBy({TEXT("End"), TEXT("'a")}), TEXT("a 0 by key;"));
-	EXPECT_EQ(ChooseBy({TEXT("'a"), TEXT("Down"), TEXT("'a")}), TEXT("a 3 by key;")) << "another key ends the typing";
-	EXPECT_EQ(ChooseBy({TEXT("'z")}), FString());
+	// Another key ends the typing.
+	const TPair<const TCHAR*, const TCHAR*> Cases[] = {{TEXT("'B"), TEXT("b 1 by key;")}, {TEXT("'c '_5"), TEXT("c 5 by key;")},
+		{TEXT("Down 'a"), TEXT("a 3 by key;")}, {TEXT("End 'a"), TEXT("a 0 by key;")}, {TEXT("'a Down 'a"), TEXT("a 3 by key;")},
+		{TEXT("'z"), TEXT("")}};
+	for (const auto& [Keys, Chosen] : Cases)
+	{
+		EXPECT_EQ(ChooseBy(Keys), Chosen) << FString(Keys);
+	}
 	User.Press(TEXT("Down"));
 	const FModifierKeysState AltGr(false, true, true);
 	FSlateApplication::Get().ProcessKeyCharEvent(User.GetWindow(), FCharacterEvent(u'c', AltGr));
@@ -247,7 +255,7 @@ TEST_F(ComboBox, AButtonInARowIsTheButtonsAlone)
 	User.Press(TEXT("Enter"));
 	EXPECT_EQ(TakeChanges(), TEXT("a 0 by key;")) << "the list has the keys again";
 	SetOptions(3);
-	EXPECT_EQ(ChooseBy({TEXT("Home"), TEXT("Tab"), TEXT("Tab"), TEXT("Down")}), TEXT("c 2 by key;")) << "the highlight went along";
+	EXPECT_EQ(ChooseBy(TEXT("Home Tab Tab Down")), TEXT("c 2 by key;")) << "the highlight went along";
 }
 
 TEST_F(ComboBox, ItsOptionsMayChangeWhileItIsOpen)
@@ -283,23 +291,6 @@ TEST_F(ComboBox, ItsOptionsMayChangeWhileItIsOpen)
 	User.Click(TEXT("(none)"));
 	EXPECT_EQ(TakeChanges(), TEXT("null by click;"));
 	EXPECT_FALSE(Box->IsOpen());
-}
-
-TEST_F(ComboBox, DisabledOrGoneItsListCloses)
-{
-	User.Click(TEXT("Pick"));
-	Box->SetEnabled(false);
-	User.Frame();
-	EXPECT_FALSE(Box->IsOpen());
-	User.Click(TEXT("Pick"));
-	EXPECT_FALSE(Box->IsOpen());
-	Box->SetEnabled(true);
-	User.Click(TEXT("Pick"));
-	Column->ClearChildren();
-	Box.Reset();
-	User.Press(TEXT("Enter"));
-	User.ClickAt(FVector2D(50.0, 50.0));
-	EXPECT_FALSE(User.Sees(TEXT("a 0")));
 }
 
 TEST_F(ComboBox, OpensAboveWhereThereIsMoreRoom)

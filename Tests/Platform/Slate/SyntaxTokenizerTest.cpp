@@ -74,19 +74,3 @@ TEST(SyntaxTokenizer, CutsAtTheLongestRuleAndAtWholeWords)
 		EXPECT_TEXT(Tokenize(*Tokenizer, Row.Text), Row.Tokens);
 	}
 }
-
-TEST(SyntaxTokenizer, EqualListsShareOneAndOthersDoNot)
-{
-	const TSharedRef<FSyntaxTokenizer> First = MakeTokenizer({TEXT("for"), TEXT("if")});
-	EXPECT_EQ(MakeTokenizer({TEXT("for"), TEXT("if")}), First);
-	EXPECT_FALSE(MakeTokenizer({TEXT("For"), TEXT("if")}) == First);
-	EXPECT_FALSE(MakeTokenizer({TEXT("for")}) == First);
-	for (const TCHAR* Other : {TEXT("a"), TEXT("b"), TEXT("c"), TEXT("d"), TEXT("e")})
-	{
-		EXPECT_TEXT(Tokenize(*MakeTokenizer({Other}), TEXT("for")), TEXT("(for)"));
-	}
-	const TSharedRef<FSyntaxTokenizer> Again = MakeTokenizer({TEXT("for"), TEXT("if")});
-	EXPECT_FALSE(Again == First) << "lists that were not asked for lately are not kept";
-	EXPECT_TEXT(Tokenize(*Again, TEXT("for if")), TEXT("[for]( )[if]"));
-	EXPECT_TEXT(Tokenize(*First, TEXT("For if")), TEXT("(For)( )[if]"));
-}
