@@ -194,7 +194,6 @@ FString FVorelClientServices::StartLocalService()
 	Options.GuideFolder = ToUtf8(FPaths::ProjectDir() / TEXT("Source/VorelService/Content/Guide"));
 	Options.PieceInterval =
 		Chosen.GuidePieceMilliseconds < 0 ? Options.PieceInterval : std::chrono::milliseconds(Chosen.GuidePieceMilliseconds);
-
 	Options.OwnerKey = HasForeignIssuer() ? ToUtf8(OwnerKey.Get()) : std::string();
 	Options.DataFile = ToUtf8(GetDataFile(TEXT("service.sqlite")));
 	Options.Version = ToUtf8(GetInstalledVersion());
@@ -203,6 +202,12 @@ FString FVorelClientServices::StartLocalService()
 
 	std::string Error;
 	LocalService = FLocalService::Start(Options, Error);
+	if (!LocalService && !Options.DataFile.empty())
+	{
+		UE_LOG(LogVorel, Warning, TEXT("The local service keeps its account in memory, for this run: %s"), *FromUtf8(Error));
+		Options.DataFile.clear();
+		LocalService = FLocalService::Start(Options, Error);
+	}
 	UE_CLOG(!LocalService, LogVorel, Error, TEXT("The local service did not start: %s"), *FromUtf8(Error));
 	return LocalService ? FromUtf8(LocalService->GetAddress()) : FString();
 }

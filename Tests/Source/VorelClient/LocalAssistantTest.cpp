@@ -10,6 +10,7 @@
 #include "VorelClientOptions.h"
 #include "VorelSettings.h"
 #include <cstdlib>
+#include <filesystem>
 
 // The whole module with the embedded service, as the program starts it.
 class FLocalAssistantTest : public testing::Test
@@ -57,6 +58,8 @@ TEST_F(FLocalAssistantTest, WithoutConfigurationAsksToSignIn)
 // Its tokens are none of the service's, which serves its owner then.
 TEST_F(FLocalAssistantTest, AnswersFromTheGuideWhoeverSignsUsersIn)
 {
+	// Nor does it need a file.
+	std::filesystem::create_directory(*Folder.GetPath(TEXT("service.sqlite")));
 	Load({.Issuer = TEXT("http://127.0.0.1:9"), .ClientId = TEXT("vorel"), .GuidePieceMilliseconds = 0});
 	const FString Told = Ask(TEXT("How do I set a timer?"));
 	EXPECT_TRUE(Told.Contains(TEXT("From its article **Timers**"))) << Told.Left(200);
