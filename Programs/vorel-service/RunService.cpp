@@ -44,7 +44,6 @@ FLocalServiceOptions MakeOptions(const FServiceCommandLine& Line, const FString&
 	Options.MaxConnections = MaxConnections;
 	Options.DataFile = TCHAR_TO_UTF8(DataFile);
 	Options.bPasswords = true;
-	Options.bTokenRequired = true;
 	Options.ListenHost = TCHAR_TO_UTF8(Line.Listen.Host);
 	Options.Port = Line.Listen.Port;
 	Options.PublicUrl = TCHAR_TO_UTF8(Line.PublicUrl);

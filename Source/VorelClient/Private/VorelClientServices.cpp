@@ -198,7 +198,6 @@ FString FVorelClientServices::StartLocalService()
 	Options.DataFile = ToUtf8(GetDataFile(TEXT("service.sqlite")));
 	Options.Version = ToUtf8(GetInstalledVersion());
 	Options.DailyCredits = Chosen.DailyCredits.Get(Options.DailyCredits);
-	Options.bTokenRequired = true;
 
 	std::string Error;
 	LocalService = FLocalService::Start(Options, Error);

@@ -4,7 +4,6 @@
 
 #include "Accounts/Secrets.h"
 #include "Accounts/ServiceDatabase.h"
-#include "Chat/ChatHandlers.h"
 #include "Guide/Guide.h"
 #include "Http/HttpServer.h"
 #include "Routes.h"
@@ -40,30 +39,24 @@ std::string DescribeTakenPort(const FLocalServiceOptions& Options)
 class FLocalService::FRunning
 {
 public:
-	FRunning(const FLocalServiceOptions& Options, std::unique_ptr<FGuide> InGuide, std::unique_ptr<FServiceDatabase> InDatabase,
+	FRunning(const FLocalServiceOptions& Options, std::unique_ptr<FGuide> Guide, std::unique_ptr<FServiceDatabase> Database,
 		std::unique_ptr<FHttpServer> InServer, const FOwnAddresses& Addresses)
-		: Guide(std::move(InGuide))
-		, Database(std::move(InDatabase))
-		, Parts(Options, *Database, Addresses.GetMain())
-		, Chat(Parts, *Guide)
+		: Parts(Options, std::move(Guide), std::move(Database), Addresses.GetMain())
 		, Server(std::move(InServer))
 	{
-		Server->Run(MakeRoutes(Parts, Chat), Addresses);
+		Server->Run(MakeRoutes(Parts), Addresses);
 	}
 
 	~FRunning()
 	{
-		Chat.Stop();
+		Parts.StopSignal.Stop();
 		Server->Stop();
 	}
 
 	const std::string& GetAddress() const { return Parts.Address; }
 
 private:
-	const std::unique_ptr<FGuide> Guide;
-	const std::unique_ptr<FServiceDatabase> Database;
 	FServiceParts Parts;
-	FChatHandlers Chat;
 	const std::unique_ptr<FHttpServer> Server;
 };
 

@@ -15,103 +15,51 @@
 
 #include <nlohmann/json.hpp>
 
-using httplib::Request;
-using httplib::Response;
-using nlohmann::json;
-
 namespace
 {
-httplib::Server::Handler ServePage(std::string Html)
+httplib::Server::Handler With(FServiceParts& Parts, FHandler Handler)
 {
-	return [Html = std::move(Html)](const Request&, Response& Reply)
+	return [&Parts, Handler](const httplib::Request& Request, httplib::Response& Response)
 	{
-		SendPage(Reply, 200, Html);
+		Handler(Parts, Request, Response);
 	};
 }
 
-httplib::Server::Handler ServeJson(std::string Json)
+// Send: how what never changes is sent.
+httplib::Server::Handler Serve(std::string Content, void (*Send)(httplib::Response& Response, int Status, const std::string& Content))
 {
-	return [Json = std::move(Json)](const Request&, Response& Reply)
+	return [Content = std::move(Content), Send](const httplib::Request&, httplib::Response& Response)
 	{
-		SendJson(Reply, 200, Json);
+		Send(Response, 200, Content);
 	};
 }
 
 std::string MakeVersionFeed(const FServiceParts& Parts)
 {
-	return json({{"version", Parts.Options.Version}, {"download_url", Parts.Address + "/plugin"}}).dump();
-}
-
-// As long as programs that send no token are about, they are served for nothing.
-httplib::Server::Handler WithPayer(FServiceParts& Parts, FChatHandlers& Chat)
-{
-	const auto Paid = WithAccount(Parts, [&Chat](FServiceParts&, const Request& Call, Response& Reply, const FAccount& Account)
-		{ Chat.ServeCompletion(Call, Reply, &Account); });
-	return [&Parts, &Chat, Paid](const Request& Call, Response& Reply)
-	{
-		Parts.Options.bTokenRequired || Call.has_header("Authorization") ? Paid(Call, Reply) : Chat.ServeCompletion(Call, Reply, nullptr);
-	};
+	return nlohmann::json({{"version", Parts.Options.Version}, {"download_url", Parts.Address + "/plugin"}}).dump();
 }
 } // namespace
 
-std::vector<FRoute> MakeRoutes(FServiceParts& Parts, FChatHandlers& Chat)
+std::vector<FRoute> MakeRoutes(FServiceParts& Parts)
 {
-	const FLoginHandlers Login(Parts);
-	const FBillingHandlers Billing(Parts);
 	return {
-		{"GET", "/", ServePage(MakeStartPage(Parts.Address, Parts.Options.bPasswords))},
-		{"GET", "/tos", ServePage(MakeTermsPage())},
-		{"GET", "/privacy", ServePage(MakePrivacyPage())},
-		{"GET", "/plugin", ServePage(MakePluginPage(Parts.Options.Version))},
-		{"GET", "/login",
-			[Login](const Request& Call, Response& Reply)
-			{
-				Login.Show(Call, Reply);
-			}},
-		{"POST", "/login",
-			[Login](const Request& Call, Response& Reply)
-			{
-				Login.Take(Call, Reply);
-			}},
-		{"GET", "/billing",
-			[Billing](const Request& Call, Response& Reply)
-			{
-				Billing.Show(Call, Reply);
-			}},
-		{"POST", "/billing",
-			[Billing](const Request& Call, Response& Reply)
-			{
-				Billing.TopUp(Call, Reply);
-			}},
-		{"POST", "/logout",
-			[Billing](const Request& Call, Response& Reply)
-			{
-				Billing.SignOut(Call, Reply);
-			}},
-		{"GET", "/.well-known/oauth-authorization-server",
-			[&Parts](const Request&, Response& Reply)
-			{
-				ServeMetadata(Parts, Reply);
-			}},
-		{"POST", "/oauth/token",
-			[&Parts](const Request& Call, Response& Reply)
-			{
-				ServeToken(Parts, Call, Reply);
-			}},
-		{"POST", "/oauth/revoke",
-			[&Parts](const Request& Call, Response& Reply)
-			{
-				ServeRevocation(Parts, Call, Reply);
-			}},
-		{"GET", "/openapi.json", ServeJson(MakeOpenApi(Parts.Address))},
-		{"GET", "/v1/version", ServeJson(MakeVersionFeed(Parts))},
+		{"GET", "/", Serve(MakeStartPage(Parts.Address, Parts.Options.bPasswords), SendPage)},
+		{"GET", "/tos", Serve(MakeTermsPage(), SendPage)},
+		{"GET", "/privacy", Serve(MakePrivacyPage(), SendPage)},
+		{"GET", "/plugin", Serve(MakePluginPage(Parts.Options.Version), SendPage)},
+		{"GET", "/login", With(Parts, ShowLogin)},
+		{"POST", "/login", With(Parts, TakeLogin)},
+		{"GET", "/billing", With(Parts, ShowBilling)},
+		{"POST", "/billing", With(Parts, TopUp)},
+		{"POST", "/logout", With(Parts, SignOut)},
+		{"GET", "/.well-known/oauth-authorization-server", With(Parts, ServeMetadata)},
+		{"POST", "/oauth/token", With(Parts, ServeToken)},
+		{"POST", "/oauth/revoke", With(Parts, ServeRevocation)},
+		{"GET", "/openapi.json", Serve(MakeOpenApi(Parts.Address), SendJson)},
+		{"GET", "/v1/version", Serve(MakeVersionFeed(Parts), SendJson)},
 		{"GET", "/v1/user", WithAccount(Parts, ServeUser)},
 		{"GET", "/v1/credits", WithAccount(Parts, ServeCredits)},
-		{"GET", "/v1/models",
-			[](const Request&, Response& Reply)
-			{
-				FChatHandlers::ServeModels(Reply);
-			}},
-		{"POST", "/v1/chat/completions", WithPayer(Parts, Chat), Parts.Options.MaxRequestBytes},
+		{"GET", "/v1/models", WithAccount(Parts, ServeModels)},
+		{"POST", "/v1/chat/completions", WithAccount(Parts, ServeCompletion), Parts.Options.MaxRequestBytes},
 	};
 }

@@ -6,8 +6,5 @@
 
 #include <vector>
 
-class FChatHandlers;
-struct FServiceParts;
-
-// All that the service answers to. What is given must outlive the routes.
-std::vector<FRoute> MakeRoutes(FServiceParts& Parts, FChatHandlers& Chat);
+// All that the service answers to. The parts must outlive the routes.
+std::vector<FRoute> MakeRoutes(FServiceParts& Parts);

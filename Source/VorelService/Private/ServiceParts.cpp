@@ -2,18 +2,26 @@
 
 #include "ServiceParts.h"
 
+#include "Accounts/ServiceDatabase.h"
+#include "Guide/Guide.h"
+
 #include <ctime>
 
-FServiceParts::FServiceParts(const FLocalServiceOptions& InOptions, FServiceDatabase& Database, const std::string& InAddress)
+FServiceParts::FServiceParts(const FLocalServiceOptions& InOptions, std::unique_ptr<FGuide> InGuide,
+	std::unique_ptr<FServiceDatabase> InDatabase, const std::string& InAddress)
 	: Options(InOptions)
 	, Address(InAddress)
-	, Accounts(Database)
-	, Credits(Database, InOptions.DailyCredits)
-	, Tokens(Database)
-	, Sessions(Database, InAddress.starts_with("https://"))
+	, Guide(std::move(InGuide))
+	, Database(std::move(InDatabase))
+	, Accounts(*Database)
+	, Credits(*Database, InOptions.DailyCredits)
+	, Tokens(*Database)
+	, Sessions(*Database, InAddress.starts_with("https://"))
 	, SignIn(Accounts, InOptions.bPasswords)
 {
 }
+
+FServiceParts::~FServiceParts() = default;
 
 std::int64_t FServiceParts::Now() const
 {

@@ -45,9 +45,6 @@ struct FLocalServiceOptions
 	// A bearer token that acts as the local account as long as the service runs. Empty: none.
 	std::string OwnerKey{};
 
-	// Whether the chat asks for a token, and takes credits.
-	bool bTokenRequired = false;
-
 	// Seconds since 1970; empty: the system's clock.
 	std::function<std::int64_t()> Clock{};
 };

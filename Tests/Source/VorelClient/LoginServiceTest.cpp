@@ -24,7 +24,6 @@ protected:
 	{
 		ServiceOptions.GuideFolder = ToUtf8(FPaths::ProjectDir() / TEXT("Source/VorelService/Content/Guide"));
 		ServiceOptions.DataFile = ToUtf8(Folder.GetPath(TEXT("service.sqlite")));
-		ServiceOptions.bTokenRequired = true;
 		ServiceOptions.Clock = [this]
 		{
 			return ServiceTime.load();

@@ -158,6 +158,7 @@ TEST_F(FLocalServiceTest, ServesMoreClientsThanConnectionsOneAfterTheOther)
 			[this, &Answered]
 			{
 				httplib::Client Own(Service->GetAddress());
+				Own.set_bearer_token_auth(OwnerKey);
 				const httplib::Result Reply = Own.Post("/v1/chat/completions", MakeQuestion("timer", true).dump(), "application/json");
 				Answered += Reply && Reply->status == 200 ? 1 : 0;
 			});
@@ -176,6 +177,7 @@ TEST_F(FLocalServiceTest, BreaksOffTheAnswersUnderWayWhenItStops)
 		[Address = Service->GetAddress()]
 		{
 			httplib::Client Own(Address);
+			Own.set_bearer_token_auth(OwnerKey);
 			EXPECT_FALSE(Own.Post("/v1/chat/completions", MakeQuestion("timer", true).dump(), "application/json"));
 		});
 	httplib::Client(Service->GetAddress()).Get("/");

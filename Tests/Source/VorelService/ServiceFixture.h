@@ -4,27 +4,44 @@
 
 #include "LocalService.h"
 
+#include <atomic>
 #include <gtest/gtest.h>
 #include <httplib.h>
 #include <nlohmann/json.hpp>
 
 using nlohmann::json;
 
-// A running service with the real guide, and a client of it.
+// A running service with the real guide, a client of it that may do what its owner may, and a clock that stands still.
 class FServiceTest : public testing::Test
 {
 protected:
-	void SetUp() override { Start({.PieceInterval = {}}); }
+	static constexpr const char* OwnerKey = "key-of-the-owner";
 
-	void Start(FLocalServiceOptions Options)
+	void SetUp() override { Start({.PieceInterval = {}, .DailyCredits = 1000}); }
+
+	void Start(const FLocalServiceOptions& Options)
 	{
 		Service.reset();
-		Options.GuideFolder = VOREL_GUIDE_FOLDER;
 		std::string Error;
-		Service = FLocalService::Start(Options, Error);
+		Service = Launch(Options, Error);
 		ASSERT_TRUE(Service) << Error;
-		Http = std::make_unique<httplib::Client>(Service->GetAddress());
+		Http = Connect(*Service);
+		Http->set_bearer_token_auth(OwnerKey);
 	}
+
+	// As many as a test wants besides the first.
+	std::unique_ptr<FLocalService> Launch(FLocalServiceOptions Options, std::string& OutError)
+	{
+		Options.GuideFolder = VOREL_GUIDE_FOLDER;
+		Options.OwnerKey = OwnerKey;
+		Options.Clock = [this]
+		{
+			return Time.load();
+		};
+		return FLocalService::Start(Options, OutError);
+	}
+
+	static std::unique_ptr<httplib::Client> Connect(const FLocalService& To) { return std::make_unique<httplib::Client>(To.GetAddress()); }
 
 	static json MakeQuestion(const std::string& Text, bool bStream)
 	{
@@ -41,6 +58,8 @@ protected:
 											 : "(no answer)";
 	}
 
+	// Noon of a day in 2026.
+	std::atomic<std::int64_t> Time = 1'790'000'000 / 86'400 * 86'400 + 43'200;
 	std::unique_ptr<FLocalService> Service;
 	std::unique_ptr<httplib::Client> Http;
 };

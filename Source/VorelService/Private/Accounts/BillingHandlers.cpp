@@ -9,65 +9,66 @@
 
 namespace
 {
-std::string GetFormPurpose(const FAccount& Account)
-{
-	return "billing " + std::to_string(Account.Id);
-}
-} // namespace
-
-void FBillingHandlers::Show(const httplib::Request& Request, httplib::Response& Response) const
-{
-	Send(Response, FindAccount(Request), "");
-}
-
-void FBillingHandlers::TopUp(const httplib::Request& Request, httplib::Response& Response) const
-{
-	if (const std::optional<FAccount> Account = CheckForm(Request, Response))
-	{
-		Parts.Credits.TopUp(Account->Id);
-		Send(Response, Account, "Your credits are full again.");
-	}
-}
-
-void FBillingHandlers::SignOut(const httplib::Request& Request, httplib::Response& Response) const
-{
-	if (CheckForm(Request, Response))
-	{
-		Parts.Sessions.End(Request, Response);
-		SendElsewhere(Response, "/billing");
-	}
-}
-
-std::optional<FAccount> FBillingHandlers::FindAccount(const httplib::Request& Request) const
+std::optional<FAccount> FindReader(FServiceParts& Parts, const httplib::Request& Request)
 {
 	return Parts.Options.bPasswords ? Parts.Sessions.Find(Request, Parts.Now()) : Parts.Accounts.GetLocalAccount();
 }
 
-std::optional<FAccount> FBillingHandlers::CheckForm(const httplib::Request& Request, httplib::Response& Response) const
+std::string GetFormPurpose(const FAccount& Reader)
 {
-	const std::optional<FAccount> Account = FindAccount(Request);
-	if (!Account || !IsForm(Request) ||
-		!Parts.FormTokens.IsGood(GetField(Request.params, "form_token"), GetFormPurpose(*Account), Parts.Now()))
+	return "billing " + std::to_string(Reader.Id);
+}
+
+// Nothing where the form is not the reader's, from a page of ours; the response then says so.
+std::optional<FAccount> FindSender(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response)
+{
+	const std::optional<FAccount> Reader = FindReader(Parts, Request);
+	const std::string Token = IsForm(Request) ? GetField(Request.params, "form_token") : std::string();
+	if (!Reader || !Parts.FormTokens.IsGood(Token, GetFormPurpose(*Reader), Parts.Now()))
 	{
 		SendPage(Response, 400, MakeErrorPage("Nothing has changed", "The page was open for too long. Please load it again."));
 		return std::nullopt;
 	}
-	return Account;
+	return Reader;
 }
 
-void FBillingHandlers::Send(httplib::Response& Response, const std::optional<FAccount>& Account, const std::string& Notice) const
+void SendBilling(FServiceParts& Parts, httplib::Response& Response, const std::optional<FAccount>& Reader, const std::string& Notice)
 {
 	FBillingPage Page;
-	if (Account)
+	if (Reader)
 	{
 		const std::int64_t Now = Parts.Now();
-		Page = {.AccountName = Account->Name,
-			.Credits = Parts.Credits.GetLeft(Account->Id, Now),
+		Page = {.AccountName = Reader->Name,
+			.Credits = Parts.Credits.GetLeft(Reader->Id, Now),
 			.DailyCredits = Parts.Credits.GetDaily(),
-			.Hidden = {{"form_token", Parts.FormTokens.Make(GetFormPurpose(*Account), Now)}},
+			.Hidden = {{"form_token", Parts.FormTokens.Make(GetFormPurpose(*Reader), Now)}},
 			.Notice = Notice,
 			.bSignedIn = true,
 			.bCanSignOut = Parts.Options.bPasswords};
 	}
 	SendPage(Response, 200, MakeBillingPage(Page));
+}
+} // namespace
+
+void ShowBilling(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response)
+{
+	SendBilling(Parts, Response, FindReader(Parts, Request), "");
+}
+
+void TopUp(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response)
+{
+	if (const std::optional<FAccount> Sender = FindSender(Parts, Request, Response))
+	{
+		Parts.Credits.TopUp(Sender->Id);
+		SendBilling(Parts, Response, Sender, "Your credits are full again.");
+	}
+}
+
+void SignOut(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response)
+{
+	if (FindSender(Parts, Request, Response))
+	{
+		Parts.Sessions.End(Request, Response);
+		SendElsewhere(Response, "/billing");
+	}
 }

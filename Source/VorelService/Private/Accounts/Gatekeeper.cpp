@@ -31,7 +31,7 @@ std::optional<FAccount> FindAccount(FServiceParts& Parts, const std::string& Tok
 
 httplib::Server::Handler WithAccount(FServiceParts& Parts, FAccountHandler Handler)
 {
-	return [&Parts, Handler = std::move(Handler)](const httplib::Request& Request, httplib::Response& Response)
+	return [&Parts, Handler](const httplib::Request& Request, httplib::Response& Response)
 	{
 		const std::string Token = ReadBearerToken(Request);
 		if (const std::optional<FAccount> Account = FindAccount(Parts, Token))

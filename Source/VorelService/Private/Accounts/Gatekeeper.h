@@ -4,14 +4,13 @@
 
 #include "Accounts/AccountStore.h"
 
-#include <functional>
 #include <httplib.h>
 
 struct FServiceParts;
 
-// What it does for the account that a token stands for.
-using FAccountHandler =
-	std::function<void(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response, const FAccount& Account)>;
+// Answers one request for the account that its token stands for.
+using FAccountHandler = void (*)(
+	FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response, const FAccount& Account);
 
 // Answers 401 to requests without a good bearer token.
 httplib::Server::Handler WithAccount(FServiceParts& Parts, FAccountHandler Handler);

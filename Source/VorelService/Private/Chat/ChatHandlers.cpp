@@ -8,41 +8,13 @@
 #include "Http/Replies.h"
 #include "ServiceParts.h"
 
-void FChatHandlers::ServeModels(httplib::Response& Response)
-{
-	SendJson(Response, 200, MakeModelList());
-}
+#include <httplib.h>
 
-void FChatHandlers::ServeCompletion(const httplib::Request& Request, httplib::Response& Response, const FAccount* Account)
+namespace
 {
-	FChatRequest Chat;
-	std::string Error;
-	if (!ParseChatRequest(Request.body, Chat, Error))
-	{
-		Refuse(Request, Response, 400, Error);
-		return;
-	}
-	const FChatReply Reply(Chat, ComposeGuideAnswer(Guide, Chat.Questions));
-	if (Account && Chat.bCostsCredit && !Parts.Credits.Take(Account->Id, Parts.Now()))
-	{
-		SendJson(Response, 402,
-			MakeErrorBody(
-				"No credits are left for today. Top up at " + Parts.Address + "/billing.", "insufficient_quota", "insufficient_credits"));
-		return;
-	}
-	if (Chat.bStream)
-	{
-		Stream(Response, Reply.MakeEvents());
-	}
-	else
-	{
-		SendJson(Response, 200, Reply.MakeWhole());
-	}
-}
-
-void FChatHandlers::Stream(httplib::Response& Response, std::vector<std::string> Events)
+void Stream(FServiceParts& Parts, httplib::Response& Response, std::vector<std::string> Events)
 {
-	const auto Paced = std::make_shared<FPacedStream>(std::move(Events), Parts.Options.PieceInterval, StopSignal);
+	const auto Paced = std::make_shared<FPacedStream>(std::move(Events), Parts.Options.PieceInterval, Parts.StopSignal);
 	Response.set_chunked_content_provider("text/event-stream",
 		[Paced](std::size_t, httplib::DataSink& Sink)
 		{
@@ -58,4 +30,29 @@ void FChatHandlers::Stream(httplib::Response& Response, std::vector<std::string>
 			}
 			return true;
 		});
+}
+} // namespace
+
+void ServeModels(FServiceParts&, const httplib::Request&, httplib::Response& Response, const FAccount&)
+{
+	SendJson(Response, 200, MakeModelList());
+}
+
+void ServeCompletion(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response, const FAccount& Account)
+{
+	FChatRequest Chat;
+	std::string Error;
+	if (!ParseChatRequest(Request.body, Chat, Error))
+	{
+		Refuse(Request, Response, 400, Error);
+		return;
+	}
+	const FChatReply Reply(Chat, ComposeGuideAnswer(*Parts.Guide, Chat.Questions));
+	if (Chat.bCostsCredit && !Parts.Credits.Take(Account.Id, Parts.Now()))
+	{
+		const std::string Problem = "No credits are left for today. Top up at " + Parts.Address + "/billing.";
+		SendJson(Response, 402, MakeErrorBody(Problem, "insufficient_quota", "insufficient_credits"));
+		return;
+	}
+	Chat.bStream ? Stream(Parts, Response, Reply.MakeEvents()) : SendJson(Response, 200, Reply.MakeWhole());
 }

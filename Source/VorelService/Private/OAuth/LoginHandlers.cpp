@@ -4,62 +4,18 @@
 
 #include "Http/FormFields.h"
 #include "Http/Replies.h"
+#include "OAuth/AuthorizationRequest.h"
 #include "Pages/Pages.h"
 #include "ServiceParts.h"
 
 namespace
 {
+using FProgram = std::optional<FAuthorizationRequest>;
+
 constexpr const char* FormPurpose = "login";
-constexpr const char* PageTooOld = "This page was open for too long. Please try again.";
-} // namespace
 
-void FLoginHandlers::Show(const httplib::Request& Request, httplib::Response& Response) const
-{
-	std::optional<FAuthorizationRequest> Program;
-	if (!ReadProgram(Request, Response, Program))
-	{
-		return;
-	}
-	if (!Program && !Parts.Options.bPasswords)
-	{
-		SendElsewhere(Response, "/billing");
-		return;
-	}
-	SendForm(Program, {}, "", Response);
-}
-
-void FLoginHandlers::Take(const httplib::Request& Request, httplib::Response& Response) const
-{
-	std::optional<FAuthorizationRequest> Program;
-	if (!IsForm(Request))
-	{
-		SendPage(Response, 400, MakeErrorPage("Not signed in", "Please use the form of the sign-in page."));
-		return;
-	}
-	if (!ReadProgram(Request, Response, Program))
-	{
-		return;
-	}
-	if (Program && GetField(Request.params, "action") == "cancel")
-	{
-		SendElsewhere(Response, Program->MakeAnswer("error", "access_denied", Parts.Address));
-		return;
-	}
-	const std::int64_t Now = Parts.Now();
-	const std::string Name = GetField(Request.params, "name");
-	const bool bOwnPage = Parts.FormTokens.IsGood(GetField(Request.params, "form_token"), FormPurpose, Now);
-	const FSignInResult Result =
-		bOwnPage ? Parts.SignIn.Try(Name, GetField(Request.params, "password"), Now) : FSignInResult{std::nullopt, PageTooOld};
-	if (Result.Account)
-	{
-		Finish(*Result.Account, Program, Response);
-		return;
-	}
-	SendForm(Program, Result, Name, Response);
-}
-
-bool FLoginHandlers::ReadProgram(
-	const httplib::Request& Request, httplib::Response& Response, std::optional<FAuthorizationRequest>& OutProgram) const
+// The program that the user comes from, if any. False where what it asks for is wrong; the response then says so, to it or to the user.
+bool ReadProgram(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response, FProgram& OutProgram)
 {
 	const httplib::Params& Fields = Request.params;
 	if (Fields.count("client_id") + Fields.count("redirect_uri") + Fields.count("response_type") == 0)
@@ -80,22 +36,8 @@ bool FLoginHandlers::ReadProgram(
 	return true;
 }
 
-void FLoginHandlers::Finish(const FAccount& Account, const std::optional<FAuthorizationRequest>& Program, httplib::Response& Response) const
-{
-	if (Program)
-	{
-		SendElsewhere(Response, Program->MakeAnswer("code", Parts.Tokens.AddCode(Account, Program->Terms, Parts.Now()), Parts.Address));
-		return;
-	}
-	if (Parts.Options.bPasswords)
-	{
-		Parts.Sessions.Begin(Account, Parts.Now(), Response);
-	}
-	SendElsewhere(Response, "/billing");
-}
-
-void FLoginHandlers::SendForm(const std::optional<FAuthorizationRequest>& Program, const FSignInResult& Failure,
-	const std::string& NameTyped, httplib::Response& Response) const
+void SendForm(FServiceParts& Parts, httplib::Response& Response, const FProgram& Program, const FSignInResult& Failure = {},
+	const std::string& NameTyped = "")
 {
 	FLoginPage Page{.AccountName = Parts.Options.bPasswords ? std::string() : Parts.Accounts.GetLocalAccount().Name,
 		.NameTyped = NameTyped,
@@ -109,5 +51,64 @@ void FLoginHandlers::SendForm(const std::optional<FAuthorizationRequest>& Progra
 	{
 		Response.set_header("Retry-After", std::to_string(Failure.RetryAfter));
 	}
-	SendPage(Response, Failure.RetryAfter > 0 ? 429 : Failure.Problem.empty() ? 200 : 400, MakeLoginPage(Page));
+	const int Refused = Failure.RetryAfter > 0 ? 429 : 400;
+	SendPage(Response, Failure.Problem.empty() ? 200 : Refused, MakeLoginPage(Page));
+}
+
+FSignInResult TrySignIn(FServiceParts& Parts, const httplib::Params& Fields)
+{
+	if (!Parts.FormTokens.IsGood(GetField(Fields, "form_token"), FormPurpose, Parts.Now()))
+	{
+		return {.Problem = "This page was open for too long. Please try again."};
+	}
+	return Parts.SignIn.Try(GetField(Fields, "name"), GetField(Fields, "password"), Parts.Now());
+}
+
+void WelcomeUser(FServiceParts& Parts, httplib::Response& Response, const FProgram& Program, const FAccount& Account)
+{
+	if (Program)
+	{
+		const std::string Code = Parts.Tokens.AddCode(Account, Program->Terms, Parts.Now());
+		SendElsewhere(Response, Program->MakeAnswer("code", Code, Parts.Address));
+		return;
+	}
+	if (Parts.Options.bPasswords)
+	{
+		Parts.Sessions.Begin(Account, Parts.Now(), Response);
+	}
+	SendElsewhere(Response, "/billing");
+}
+} // namespace
+
+void ShowLogin(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response)
+{
+	FProgram Program;
+	if (!ReadProgram(Parts, Request, Response, Program))
+	{
+		return;
+	}
+	// Where there is one account, a browser has nothing to sign in to.
+	Program || Parts.Options.bPasswords ? SendForm(Parts, Response, Program) : SendElsewhere(Response, "/billing");
+}
+
+void TakeLogin(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response)
+{
+	FProgram Program;
+	if (!IsForm(Request))
+	{
+		SendPage(Response, 400, MakeErrorPage("Not signed in", "Please use the form of the sign-in page."));
+		return;
+	}
+	if (!ReadProgram(Parts, Request, Response, Program))
+	{
+		return;
+	}
+	if (Program && GetField(Request.params, "action") == "cancel")
+	{
+		SendElsewhere(Response, Program->MakeAnswer("error", "access_denied", Parts.Address));
+		return;
+	}
+	const FSignInResult Result = TrySignIn(Parts, Request.params);
+	Result.Account ? WelcomeUser(Parts, Response, Program, *Result.Account)
+				   : SendForm(Parts, Response, Program, Result, GetField(Request.params, "name"));
 }

@@ -53,7 +53,7 @@ void SendTokens(httplib::Response& Response, const std::optional<FTokens>& Token
 }
 } // namespace
 
-void ServeMetadata(FServiceParts& Parts, httplib::Response& Response)
+void ServeMetadata(FServiceParts& Parts, const httplib::Request&, httplib::Response& Response)
 {
 	const std::string& Address = Parts.Address;
 	const json Metadata = {{"issuer", Address}, {"authorization_endpoint", Address + "/login"},

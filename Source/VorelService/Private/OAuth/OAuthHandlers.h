@@ -7,6 +7,6 @@
 struct FServiceParts;
 
 // What programs ask without a browser, by RFC 8414, RFC 6749 and RFC 7009.
-void ServeMetadata(FServiceParts& Parts, httplib::Response& Response);
+void ServeMetadata(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response);
 void ServeToken(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response);
 void ServeRevocation(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response);

@@ -1,0 +1,268 @@
+// Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
+
+#include "SignInFixture.h"
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+namespace
+{
+std::string ReadFile(const std::filesystem::path& File)
+{
+	std::ifstream Stream(File, std::ios::binary);
+	return std::string(std::istreambuf_iterator<char>(Stream), {});
+}
+} // namespace
+
+TEST_F(FSignInTest, SignsAProgramInAndAsksForTheNameOnce)
+{
+	const json Metadata = json::parse(Http->Get("/.well-known/oauth-authorization-server")->body);
+	EXPECT_EQ(Metadata["issuer"], Service->GetAddress());
+	EXPECT_EQ(Metadata["authorization_endpoint"], Service->GetAddress() + "/login");
+
+	const httplib::Result Answer = SignIn("  Zoë \"Z\" ");
+	EXPECT_EQ(Answer->status, 303);
+	const std::string Location = Answer->get_header_value("Location");
+	EXPECT_EQ(Location.find("http://127.0.0.1:7777/callback?code="), 0u) << Location;
+	EXPECT_TRUE(Location.ends_with(std::string("&state=") + State + "&iss=" + Service->GetAddress())) << Location;
+
+	const httplib::Result Reply = UseCode(GetQueryField(Location, "code"));
+	EXPECT_EQ(Reply->get_header_value("Cache-Control"), "no-store");
+	const json Tokens = json::parse(Reply->body);
+	EXPECT_EQ(Tokens["token_type"], "Bearer");
+	EXPECT_EQ(Tokens["expires_in"], 3600);
+	EXPECT_EQ(json::parse(Get("/v1/user", Tokens["access_token"])->body),
+		json({{"name", "Zoë \"Z\""}, {"email", ""}, {"credits", 100}, {"daily_credits", 100}, {"roles", {"user"}}}));
+
+	const std::string Page = OpenLogin(MakeRequest())->body;
+	EXPECT_NE(Page.find("Continue as Zoë &quot;Z&quot;"), std::string::npos);
+	EXPECT_EQ(Page.find("name=\"name\""), std::string::npos);
+	const auto [Access, Unused] = GetTokens(UseCode(GetCode("Somebody else")));
+	EXPECT_EQ(json::parse(Get("/v1/user", Access)->body)["name"], "Zoë \"Z\"");
+}
+
+TEST_F(FSignInTest, RefusesWrongRequestsOfPrograms)
+{
+	const char* const InWords = "";
+	const struct
+	{
+		FFields Changes;
+		const char* Error;
+	} Rows[] = {
+		{{{"client_id", "other"}}, InWords},
+		{{{"client_id", ""}}, InWords},
+		{{{"client_id", "vorel-editor"}, {"client_id", "other"}}, InWords},
+		{{{"redirect_uri", ""}}, InWords},
+		{{{"redirect_uri", "https://127.0.0.1:7777/callback"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1/callback"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1:/callback"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1:65536/callback"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1:07777/callback"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1:99999999999999999999/callback"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1:7777/callback/"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1:7777/callback?a=/callback"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1:7777/callback\r\nSet-Cookie: a=b"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1:7@evil.example/callback"}}, InWords},
+		{{{"redirect_uri", "http://127.0.0.1.evil.example:7777/callback"}}, InWords},
+		{{{"redirect_uri", "http://localhost:7777/callback"}}, InWords},
+		{{{"redirect_uri", "http://[::1]:7777/callback"}, {"redirect_uri", "http://127.0.0.1:7777/callback"}}, InWords},
+		{{{"response_type", ""}}, "invalid_request"},
+		{{{"response_type", "token"}}, "unsupported_response_type"},
+		{{{"response_mode", "fragment"}}, "invalid_request"},
+		{{{"code_challenge", ""}}, "invalid_request"},
+		{{{"code_challenge", "short"}}, "invalid_request"},
+		{{{"code_challenge", std::string(43, '+')}}, "invalid_request"},
+		{{{"code_challenge_method", ""}}, "invalid_request"},
+		{{{"code_challenge_method", "plain"}}, "invalid_request"},
+		{{{"state", ""}}, "invalid_request"},
+		{{{"state", "two\r\nlines"}}, "invalid_request"},
+		{{{"state", std::string(2000, 'x')}}, "invalid_request"},
+		{{{"state", "one"}, {"state", "two"}}, "invalid_request"},
+		{{{"scope", "one"}, {"scope", "two"}}, "invalid_request"},
+	};
+	const std::string Token = ReadForm(OpenLogin(MakeRequest())->body).find("form_token")->second;
+	for (const auto& [Changes, Error] : Rows)
+	{
+		FFields Form = MakeRequest(Changes);
+		Form.insert({{"name", "Ada"}, {"form_token", Token}, {"action", "allow"}});
+		for (const httplib::Result& Reply : {OpenLogin(MakeRequest(Changes)), PostForm("/login", Form)})
+		{
+			const std::string Location = Reply->get_header_value("Location");
+			const std::string Row = Changes.begin()->first + " " + Changes.begin()->second;
+			EXPECT_EQ(Reply->status, Error == InWords ? 400 : 303) << Row;
+			EXPECT_EQ(GetQueryField(Location, "error"), Error) << Row;
+			EXPECT_EQ(GetQueryField(Location, "code"), "") << Row;
+			EXPECT_EQ(Location.empty(), Error == InWords) << Row;
+			EXPECT_FALSE(Reply->has_header("Set-Cookie")) << Row;
+		}
+	}
+	EXPECT_EQ(OpenLogin(MakeRequest({{"redirect_uri", "http://[::1]:1/callback"}}))->status, 200);
+}
+
+TEST_F(FSignInTest, TellsTheProgramThatItsUserCancelled)
+{
+	FFields Form = ReadForm(OpenLogin(MakeRequest())->body);
+	Form.emplace("action", "cancel");
+	const std::string Location = PostForm("/login", Form)->get_header_value("Location");
+	EXPECT_EQ(GetQueryField(Location, "error"), "access_denied");
+	EXPECT_NE(GetQueryField(Location, "state"), "");
+	EXPECT_NE(GetQueryField(Location, "iss"), "");
+}
+
+TEST_F(FSignInTest, TakesOnlyFormsOfItsOwnPages)
+{
+	const FFields Form = ReadForm(OpenLogin(MakeRequest())->body);
+	const auto Send = [&](const httplib::Headers& Headers, const FFields& Changes)
+	{
+		FFields Sent = Form;
+		for (const auto& [Name, Value] : Changes)
+		{
+			Sent.find(Name)->second = Value;
+		}
+		Sent.insert({{"name", "Ada"}, {"action", "allow"}});
+		return PostForm("/login", Sent, Headers)->status;
+	};
+	EXPECT_EQ(Send({{"Origin", "null"}}, {}), 403);
+	EXPECT_EQ(Send({{"Origin", "http://127.0.0.1:1"}}, {}), 403);
+	EXPECT_EQ(Send({{"Sec-Fetch-Site", "cross-site"}}, {}), 403);
+	EXPECT_EQ(Send({{"Sec-Fetch-Site", "same-site"}}, {}), 403);
+	EXPECT_EQ(Send({}, {{"form_token", ""}}), 400);
+	EXPECT_EQ(Send({}, {{"form_token", std::to_string(Time + 10) + "."}}), 400);
+	EXPECT_EQ(Http->Post("/login?" + httplib::detail::params_to_query_str(Form), {}, FFields{{"name", "Ada"}})->status, 400);
+	Time += 3600;
+	EXPECT_EQ(Send({}, {}), 400);
+	Time -= 1;
+	EXPECT_EQ(Send({{"Origin", Service->GetAddress()}, {"Sec-Fetch-Site", "same-origin"}}, {}), 303);
+}
+
+TEST_F(FSignInTest, RefusesCodesThatAreWrongInAnyWayAndNeverTakesThemAgain)
+{
+	const struct
+	{
+		FFields Changes;
+		const char* Error;
+		bool bCodeSpent;
+	} Rows[] = {
+		{{{"code_verifier", std::string(43, 'x')}}, "invalid_grant", true},
+		{{{"redirect_uri", "http://127.0.0.1:7778/callback"}}, "invalid_grant", true},
+		{{{"code", "unknown"}}, "invalid_grant", false},
+		{{{"code_verifier", ""}}, "invalid_request", false},
+		{{{"redirect_uri", ""}}, "invalid_request", false},
+		{{{"code_verifier", "one"}, {"code_verifier", "two"}}, "invalid_request", false},
+		{{{"client_id", "other"}}, "invalid_client", false},
+		{{{"grant_type", "password"}}, "unsupported_grant_type", false},
+		{{{"grant_type", ""}}, "invalid_request", false},
+	};
+	for (const auto& [Changes, Error, bCodeSpent] : Rows)
+	{
+		const std::string Code = GetCode("Ada");
+		const httplib::Result Reply = UseCode(Code, Changes);
+		EXPECT_EQ(Reply->status, 400) << Error;
+		EXPECT_EQ(GetError(Reply), Error) << Changes.begin()->first;
+		EXPECT_EQ(UseCode(Code)->status, bCodeSpent ? 400 : 200) << Changes.begin()->first;
+	}
+	const std::string Late = GetCode("Ada");
+	Time += 60;
+	EXPECT_EQ(GetError(UseCode(Late)), "invalid_grant");
+	EXPECT_EQ(Http->Post("/oauth/token", "{}", "application/json")->status, 400);
+}
+
+TEST_F(FSignInTest, TakesBackWhatACodeGaveThatComesAgain)
+{
+	const std::string Code = GetCode("Ada");
+	const auto [Access, RefreshToken] = GetTokens(UseCode(Code));
+	const auto [OtherAccess, Unused] = GetTokens(UseCode(GetCode("Ada")));
+	EXPECT_EQ(GetUserStatus(Access), 200);
+	Time += 600;
+	EXPECT_EQ(GetError(UseCode(Code)), "invalid_grant");
+	EXPECT_EQ(GetUserStatus(Access), 401);
+	EXPECT_EQ(GetError(Refresh(RefreshToken)), "invalid_grant");
+	EXPECT_EQ(GetUserStatus(OtherAccess), 200);
+}
+
+TEST_F(FSignInTest, ReplacesRefreshTokensAndNoticesAThief)
+{
+	const auto [FirstAccess, First] = GetTokens(UseCode(GetCode("Ada")));
+	Time += 3600;
+	EXPECT_EQ(GetUserStatus(FirstAccess), 401);
+	const auto [SecondAccess, Second] = GetTokens(Refresh(First));
+	Time += 60;
+	// A reply was lost, or another program shares the token.
+	const auto [ThirdAccess, Third] = GetTokens(Refresh(First));
+	EXPECT_EQ(std::set<std::string>({First, Second, Third}).size(), 3u);
+	const auto [FourthAccess, Fourth] = GetTokens(Refresh(Second));
+	for (const std::string& Access : {SecondAccess, ThirdAccess, FourthAccess})
+	{
+		EXPECT_EQ(GetUserStatus(Access), 200);
+	}
+	EXPECT_EQ(GetUserStatus(Fourth), 401) << "a refresh token is no access token";
+	Time += 1;
+	EXPECT_EQ(GetError(Refresh(First)), "invalid_grant");
+	EXPECT_EQ(GetUserStatus(FourthAccess), 401);
+	EXPECT_EQ(GetError(Refresh(Fourth)), "invalid_grant");
+
+	const std::string Old = GetTokens(UseCode(GetCode("Ada"))).second;
+	Time += 90 * 86'400;
+	EXPECT_EQ(GetError(Refresh(Old)), "invalid_grant");
+}
+
+TEST_F(FSignInTest, RevokesAllTokensOfALoginByAnyOfThem)
+{
+	const auto [Kept, Unused] = GetTokens(UseCode(GetCode("Ada")));
+	for (const bool bByAccess : {true, false})
+	{
+		const auto [Access, RefreshToken] = GetTokens(UseCode(GetCode("Ada")));
+		const httplib::Result Reply = PostForm("/oauth/revoke",
+			{{"token", bByAccess ? Access : RefreshToken}, {"token_type_hint", "refresh_token"}, {"client_id", "vorel-editor"}});
+		EXPECT_EQ(Reply->status, 200);
+		EXPECT_EQ(GetUserStatus(Access), 401);
+		EXPECT_EQ(GetError(Refresh(RefreshToken)), "invalid_grant");
+	}
+	EXPECT_EQ(PostForm("/oauth/revoke", {{"token", "unknown"}, {"client_id", "vorel-editor"}})->status, 200);
+	EXPECT_EQ(GetUserStatus(Kept), 200);
+}
+
+TEST_F(FSignInTest, SharesOneFileWithOtherServices)
+{
+	std::string Error;
+	const std::unique_ptr<FLocalService> Other = Launch({.DataFile = GetDataFile()}, Error);
+	ASSERT_TRUE(Other) << Error;
+	const std::string Code = GetCode("Ada");
+	Http = Connect(*Other);
+	const auto [Access, RefreshToken] = GetTokens(UseCode(Code));
+	Http = Connect(*Service);
+	EXPECT_EQ(GetUserStatus(Access), 200);
+	const std::string Renewed = GetTokens(Refresh(RefreshToken)).first;
+	Http = Connect(*Other);
+	EXPECT_EQ(json::parse(Get("/v1/user", Renewed)->body)["name"], "Ada");
+	EXPECT_NE(OpenLogin(MakeRequest())->body.find("Continue as Ada"), std::string::npos);
+}
+
+TEST_F(FSignInTest, StoresNoSecret)
+{
+	StartWithPasswords();
+	const std::string Code = GetCode("Ada", "password of ada");
+	const auto [Access, RefreshToken] = GetTokens(UseCode(Code));
+	const auto [SecondAccess, SecondRefresh] = GetTokens(Refresh(RefreshToken));
+	const std::string Unused = GetCode("Grace", "password of grace");
+	const std::string Cookie = SignIn("Grace", "password of grace", {})->get_header_value("Set-Cookie");
+	const std::string Session = Cookie.substr(Cookie.find('=') + 1, 43);
+
+	std::string Stored;
+	for (const std::filesystem::directory_entry& File : std::filesystem::directory_iterator(TCHAR_TO_UTF8(Folder.GetPath())))
+	{
+		Stored += ReadFile(File.path());
+		EXPECT_EQ(File.status().permissions(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_write) << File.path();
+	}
+	EXPECT_NE(Stored.find("Grace"), std::string::npos);
+	for (const std::string& Secret : {Code, Access, RefreshToken, SecondAccess, SecondRefresh, Unused, Session})
+	{
+		EXPECT_EQ(Secret.size(), 43u);
+		EXPECT_EQ(Stored.find(Secret), std::string::npos);
+	}
+	for (const char* const Secret : {"password of", "dBjftJeZ4CVP-mB92K27uhbUJU1p1r_wW1gFWFOEjXk", OwnerKey})
+	{
+		EXPECT_EQ(Stored.find(Secret), std::string::npos) << Secret;
+	}
+}
