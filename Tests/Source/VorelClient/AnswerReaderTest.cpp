@@ -138,15 +138,6 @@ TEST(FAnswerReaderTest, TellsWhatWentWrong)
 	});
 }
 
-TEST(FAnswerReaderTest, KnowsItsEndBeforeTheBodyEnds)
-{
-	FAnswerReader Reader;
-	Reader.Feed(Hi);
-	EXPECT_FALSE(Reader.GetEnd().IsSet());
-	Reader.Feed(Finish("\"stop\""));
-	EXPECT_TRUE(Reader.GetEnd().IsSet());
-}
-
 TEST(FAnswerReaderTest, StopsServersThatNeverEnd)
 {
 	const std::string Line(1024 * 1024, 'x');

@@ -119,24 +119,6 @@ TEST_F(FChatRequestTest, HandsOverOneChunkAFrameHoweverManyEventsCame)
 	EXPECT_EQ(TakeEvents(), TEXT("chunk(de)* answer(abcde) completed"));
 }
 
-TEST_F(FChatRequestTest, PutsTextTogetherThatIsCutAnywhere)
-{
-	const QByteArray Stream = MakeDelta("\xE4\xBB\x8A\xF0\x9F\x98\x80") + MakeDelta(" ok") + StopChunk;
-	Server.Then(
-		[&Stream](const FExchange& Exchange)
-		{
-			Exchange.Socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-			Exchange.SendStreamHead();
-			for (const char Byte : Stream)
-			{
-				Exchange.Send(QByteArray(1, Byte));
-			}
-		});
-	Ask(TEXT("Hi"));
-	EXPECT_EQ(MaxChunksPerFrame, 1);
-	EXPECT_EQ(Service().GetCurrentConversation()->Messages.Last()->Contents[0]->Text, TEXT("今😀 ok"));
-}
-
 TEST_F(FChatRequestTest, EndsAtTheEndMarkThoughTheConnectionStaysOpen)
 {
 	Server.Then(

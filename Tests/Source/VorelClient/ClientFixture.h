@@ -37,13 +37,13 @@ protected:
 	// "history(number of stored messages)", "mode(name)", "completed", "failed(sentence)". A star follows where bIsProcessingRequest was
 	// true.
 	FString TakeEvents();
-	FString TakeFailure();
+	// The sentence of a question that fails.
+	FString AskForFailure();
 
 	void Tick();
 
 	FScriptedServer Server;
 	FLogCapture Log;
-	int32 MaxChunksPerFrame = 0;
 
 private:
 	void Record(const FString& Event);
@@ -51,6 +51,4 @@ private:
 
 	TObjectPtr<UHttpChatService> Made;
 	TArray<FString> Events;
-	int32 ChunksInFrame = 0;
-	FDelegateHandle TickHandle;
 };

@@ -124,9 +124,7 @@ TEST_F(FFailureTest, AServerThatNeverBeginsToAnswer)
 {
 	Limits.FirstByte = 0.05;
 	Server.Then([](const FExchange& Exchange) { Exchange.SendStreamHead(); });
-	Service().SendMessage(TEXT("Hi"));
-	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
-	EXPECT_EQ(TakeFailure(), TEXT("The assistant did not begin to answer within 0.05 seconds."));
+	EXPECT_EQ(AskForFailure(), TEXT("The assistant did not begin to answer within 0.05 seconds."));
 	Server.Then(Answer("Fine"));
 	EXPECT_EQ(Ask(TEXT("Again")), TEXT("user(Again)* chunk(Fine)* answer(Fine) completed"));
 }
@@ -161,9 +159,7 @@ TEST_F(FFailureTest, AServerThatAcceptsNoConnection)
 
 	Limits.Connect = 0.1;
 	Endpoint.BaseUrl = FString::Printf(TEXT("http://127.0.0.1:%d/v1"), static_cast<int32>(ntohs(Address.sin_port)));
-	Service().SendMessage(TEXT("Hi"));
-	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
-	EXPECT_EQ(TakeFailure(),
+	EXPECT_EQ(AskForFailure(),
 		FString::Printf(TEXT("127.0.0.1:%d did not accept a connection within 0.1 seconds."), static_cast<int32>(ntohs(Address.sin_port))));
 	::close(Caller);
 	::close(Listener);
@@ -174,9 +170,7 @@ TEST_F(FFailureTest, AServerWithoutASecureConnection)
 	Server.bRaw = true;
 	Server.Then(Raw("HTTP/1.1 400 Bad Request\r\n\r\n"));
 	Endpoint.BaseUrl = Endpoint.BaseUrl.Replace(TEXT("http:"), TEXT("https:"));
-	Service().SendMessage(TEXT("Hi"));
-	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
-	EXPECT_TRUE(TakeFailure().StartsWith(TEXT("No secure connection to 127.0.0.1:")));
+	EXPECT_TRUE(AskForFailure().StartsWith(TEXT("No secure connection to 127.0.0.1:")));
 }
 
 TEST_F(FFailureTest, AServerThatNamesNoModel)
@@ -191,9 +185,7 @@ TEST_F(FFailureTest, AServerThatNamesNoModel)
 	for (const auto& [Handler, Sentence] : Rows)
 	{
 		Server.Then(Handler);
-		Service().SendMessage(TEXT("Hi"));
-		ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
-		EXPECT_EQ(TakeFailure(), Sentence);
+		EXPECT_EQ(AskForFailure(), Sentence);
 	}
 }
 
@@ -224,9 +216,7 @@ TEST_F(FFailureTest, RedirectsStayWithinTheOrigin)
 	FScriptedServer Elsewhere;
 	Elsewhere.Then(Answer("Stolen"));
 	Server.Then(Reply("307 Moved", "{}", "Location: " + Elsewhere.GetAddress() + "/v1/chat/completions\r\n"));
-	Service().SendMessage(TEXT("Hi"));
-	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
-	EXPECT_EQ(TakeFailure(),
+	EXPECT_EQ(AskForFailure(),
 		FString::Printf(
 			TEXT("The assistant's address leads on to another server, %s, which was not contacted. If you trust it, give its address "
 				 "instead."),
@@ -247,8 +237,6 @@ TEST_F(FFailureTest, RedirectsDoNotGoRoundForEver)
 	{
 		Server.Then(Reply("307 Moved", "{}", "Location: /v1/chat/completions\r\n"));
 	}
-	Service().SendMessage(TEXT("Hi"));
-	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
-	EXPECT_EQ(TakeFailure(), TEXT("The assistant's address leads round in a circle."));
+	EXPECT_EQ(AskForFailure(), TEXT("The assistant's address leads round in a circle."));
 	EXPECT_LT(Server.GetExchanges().size(), 10);
 }

@@ -76,36 +76,3 @@ TEST(FServerSentEventParserTest, GivesTheSameEventsWhereverTheBytesAreCut)
 		}
 	}
 }
-
-TEST(FServerSentEventParserTest, GivesUpAtItsLimits)
-{
-	const std::string Megabyte(1024 * 1024, 'x');
-	for (const char* LineEnd : {"", "\n"})
-	{
-		FServerSentEventParser Parser;
-		TArray<FServerSentEvent> Events;
-		int32 Fed = 0;
-		while (Fed < 20 && Parser.Feed("data:" + Megabyte + LineEnd, Events))
-		{
-			++Fed;
-		}
-		EXPECT_EQ(Fed, 7) << LineEnd;
-		EXPECT_TRUE(Events.IsEmpty());
-	}
-}
-
-TEST(FServerSentEventParserTest, HandsOutTheUnfinishedEventOnDemand)
-{
-	const std::pair<std::string_view, const TCHAR*> Rows[] = {
-		{"data: a\n\ndata: b", TEXT("b")}, {"data: b\n", TEXT("b")}, {"data: a\ndata: b\r", TEXT("a/b")}};
-	for (const auto& [Bytes, Expected] : Rows)
-	{
-		FServerSentEventParser Parser;
-		TArray<FServerSentEvent> Events;
-		Parser.Feed(Bytes, Events);
-		const TOptional<FServerSentEvent> Unfinished = Parser.TakeUnfinished();
-		ASSERT_TRUE(Unfinished.IsSet()) << Bytes;
-		EXPECT_EQ(Unfinished->Data.Replace(TEXT("\n"), TEXT("/")), Expected) << Bytes;
-	}
-	EXPECT_FALSE(FServerSentEventParser().TakeUnfinished().IsSet());
-}

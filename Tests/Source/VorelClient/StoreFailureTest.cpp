@@ -226,8 +226,7 @@ TEST_F(FStoreFailureTest, AConversationThatCantBeReadIsNotTakenForAnEmptyOne)
 	Service().LoadConversation(TEXT("old"));
 	EXPECT_LT(Service().GetCurrentConversation()->Messages.Num(), 200);
 	TakeEvents();
-	Service().SendMessage(TEXT("Hi"));
-	EXPECT_EQ(TakeFailure(), TEXT("Nothing was sent, because the earlier messages of this conversation can't be read."));
+	EXPECT_EQ(AskForFailure(), TEXT("Nothing was sent, because the earlier messages of this conversation can't be read."));
 
 	Replace(Whole);
 	Server.Then(Answer("Fine"));
