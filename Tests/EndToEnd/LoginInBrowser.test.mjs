@@ -16,6 +16,12 @@ test('a person logs in with Chromium, out, and in again', { timeout: 110_000 }, 
 	await desktop.picture('login-1-panel');
 	await desktop.click('Log in');
 	await page.goto(await desktop.takeAddress());
+	await page.getByRole('button', { name: 'Cancel' }).press('Enter');
+	await desktop.find(/^The sign-in was cancelled in the browser/);
+	await page.keep('login-1-cancelled');
+
+	await desktop.click('Log in');
+	await page.goto(await desktop.takeAddress());
 	await desktop.picture('login-2-waiting');
 	await page.keep('login-3-page');
 	await page.keyboard.type('Ada Lovelace');

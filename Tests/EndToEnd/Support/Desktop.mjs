@@ -35,8 +35,8 @@ export class Desktop
 		fs.writeFileSync(house.path('browser'), `#!/bin/sh\nprintf '%s\\n' "$1" >>'${house.path('addresses')}'\n`, { mode: 0o755 });
 		fs.mkdirSync(house.path('.local/share/applications'));
 		fs.writeFileSync(house.path('.local/share/applications/browser.desktop'),
-			`[Desktop Entry]\nType=Application\nName=Browser\nExec=${house.path('browser')} %u\nMimeType=x-scheme-handler/http;\n`);
-		fs.writeFileSync(house.path('.config/mimeapps.list'), '[Default Applications]\nx-scheme-handler/http=browser.desktop\n');
+			`[Desktop Entry]\nType=Application\nName=Browser\nExec=${house.path('browser')} %u\nMimeType=x-scheme-handler/http;x-scheme-handler/https;\n`);
+		fs.writeFileSync(house.path('.config/mimeapps.list'), '[Default Applications]\nx-scheme-handler/http=browser.desktop\nx-scheme-handler/https=browser.desktop\n');
 	}
 
 	// The next address that was opened in the browser.
