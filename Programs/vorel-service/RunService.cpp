@@ -64,11 +64,11 @@ void WarnOfOpenNetwork(const FServiceCommandLine& Line)
 	}
 }
 
-// Address: the public one, if there is any.
-void TellAddress(const FServiceCommandLine& Line, const std::string& Address)
+void TellAddress(const FServiceCommandLine& Line, const FLocalService& Service)
 {
-	const std::string Place = Line.PublicUrl.IsEmpty() ? std::string() : std::string(TCHAR_TO_UTF8(Line.Listen.ToString())) + " for ";
-	std::printf("vorel-service: listening at %s%s\n", Place.c_str(), Address.c_str());
+	const FListenAddress Listen{Line.Listen.Host, Service.GetPort()};
+	const std::string Place = Line.PublicUrl.IsEmpty() ? std::string() : std::string(TCHAR_TO_UTF8(Listen.ToString())) + " for ";
+	std::printf("vorel-service: listening at %s%s\n", Place.c_str(), Service.GetAddress().c_str());
 	std::fflush(stdout);
 }
 
@@ -97,7 +97,7 @@ bool RunService(const FServiceCommandLine& Line, const FString& DataFile, FStrin
 	}
 	WarnOfOpenNetwork(Line);
 	HintAtAccounts(Options.DataFile);
-	TellAddress(Line, Service->GetAddress());
+	TellAddress(Line, *Service);
 	EndSignals.Wait();
 	return true;
 }

@@ -40,8 +40,9 @@ class FLocalService::FRunning
 {
 public:
 	FRunning(const FLocalServiceOptions& Options, std::unique_ptr<FGuide> Guide, std::unique_ptr<FServiceDatabase> Database,
-		std::unique_ptr<FHttpServer> InServer, const FOwnAddresses& Addresses)
-		: Parts(Options, std::move(Guide), std::move(Database), Addresses.GetMain())
+		std::unique_ptr<FHttpServer> InServer, int InPort, const FOwnAddresses& Addresses)
+		: Port(InPort)
+		, Parts(Options, std::move(Guide), std::move(Database), Addresses.GetMain())
 		, Server(std::move(InServer))
 	{
 		Server->Run(MakeRoutes(Parts), Addresses);
@@ -54,6 +55,8 @@ public:
 	}
 
 	const std::string& GetAddress() const { return Parts.Address; }
+
+	const int Port;
 
 private:
 	FServiceParts Parts;
@@ -78,7 +81,7 @@ std::unique_ptr<FLocalService> FLocalService::Start(const FLocalServiceOptions& 
 		return nullptr;
 	}
 	return std::unique_ptr<FLocalService>(new FLocalService(std::make_unique<FRunning>(
-		Options, std::move(Guide), std::move(Database), std::move(Server), FOwnAddresses(Options.ListenHost, Port, PublicOrigin))));
+		Options, std::move(Guide), std::move(Database), std::move(Server), Port, FOwnAddresses(Options.ListenHost, Port, PublicOrigin))));
 }
 
 FLocalService::FLocalService(std::unique_ptr<FRunning> InRunning)
@@ -91,4 +94,9 @@ FLocalService::~FLocalService() = default;
 const std::string& FLocalService::GetAddress() const
 {
 	return Running->GetAddress();
+}
+
+int FLocalService::GetPort() const
+{
+	return Running->Port;
 }

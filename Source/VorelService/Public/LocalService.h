@@ -63,6 +63,9 @@ public:
 	// "http://127.0.0.1:PORT", or the public URL. Chat completions are served below "/v1".
 	const std::string& GetAddress() const;
 
+	// On which it listens, whatever its address.
+	int GetPort() const;
+
 private:
 	class FRunning;
 
