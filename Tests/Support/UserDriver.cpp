@@ -272,6 +272,22 @@ void FUserDriver::ClearFocus()
 	Frame();
 }
 
+void FUserDriver::Play(const FString& Keys)
+{
+	TArray<FString> Parts;
+	Keys.ParseIntoArray(Parts, TEXT("'"), false);
+	for (int32 Index = 0; Index < Parts.Num(); ++Index)
+	{
+		TArray<FString> Words;
+		Parts[Index].ParseIntoArray(Words, TEXT(" "));
+		for (const FString& Word : Index % 2 == 0 ? Words : TArray<FString>())
+		{
+			Press(Word);
+		}
+		Type(Index % 2 == 0 ? FString() : Parts[Index]);
+	}
+}
+
 void FUserDriver::Resize(const FVector2D& InSize)
 {
 	Size = InSize;

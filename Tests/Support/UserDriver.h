@@ -66,6 +66,9 @@ public:
 	void KeyUp(const FString& KeyWithModifiers);
 	void ClearFocus();
 
+	/** Keys, and between quotes what is typed: "Home 'text' Ctrl+Z". */
+	void Play(const FString& Keys);
+
 	// The window
 
 	void Resize(const FVector2D& Size);

@@ -68,22 +68,6 @@ void FTextTest::DoubleClickLetter(int32 Column, int32 RowIndex)
 	DoubleClickAt(FVector2D(Column * Letter + 1.0, RowIndex * Row + 5.0));
 }
 
-void FTextTest::Play(const FString& Keys)
-{
-	TArray<FString> Parts;
-	Keys.ParseIntoArray(Parts, TEXT("'"), false);
-	for (int32 Index = 0; Index < Parts.Num(); ++Index)
-	{
-		TArray<FString> Words;
-		Parts[Index].ParseIntoArray(Words, TEXT(" "));
-		for (const FString& Word : Index % 2 == 0 ? Words : TArray<FString>())
-		{
-			Press(Word);
-		}
-		Type(Index % 2 == 0 ? FString() : Parts[Index]);
-	}
-}
-
 void FTextTest::Compose(const TCHAR* Composition, const TCHAR* Commit, int32 ReplaceFrom, int32 ReplaceLength)
 {
 	FTextCompositionEvent Event;

@@ -47,8 +47,6 @@ protected:
 	void Focus();
 	void ClickLetter(int32 Column, int32 RowIndex = 0);
 	void DoubleClickLetter(int32 Column, int32 RowIndex = 0);
-	/** Keys, and between quotes what is typed: "Home 'text' Ctrl+Z". */
-	void Play(const FString& Keys);
 	void Compose(const TCHAR* Composition, const TCHAR* Commit = TEXT(""), int32 ReplaceFrom = 0, int32 ReplaceLength = 0);
 
 	static FSlateApplication& Application() { return FSlateApplication::Get(); }

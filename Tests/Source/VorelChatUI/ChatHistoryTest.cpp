@@ -23,14 +23,26 @@ protected:
 			[this](TObjectPtr<USerializableChatHistory> Item) { Fired += TakeLog(Log) + "delete " + ToUtf8(Item->Id) + "; "; });
 	}
 
-	void Announce() { Actions->OnChatHistoriesRefreshed.ExecuteIfBound(Client.Chat->ChatHistories); }
-
-	void ClickDeleteInRow(size_t Row)
+	void Announce()
 	{
-		const FVector2D Middle =
-			FindOne(User.GetWindow(), TEXT("SImage"), Row + 1)->GetCachedGeometry().LocalToAbsolute(FVector2D(8.0, 8.0));
-		User.ClickAt(Middle);
+		Actions->OnChatHistoriesRefreshed.ExecuteIfBound(Client.Chat->ChatHistories);
+		User.Frame();
 	}
+
+	void Open()
+	{
+		Announce();
+		User.Click(TEXT("History"));
+	}
+
+	std::string DeleteRow(size_t Row)
+	{
+		const FVector2D Place = FindOne(User.GetWindow(), TEXT("SImage"), Row + 1)->GetCachedGeometry().GetAbsolutePosition();
+		User.ClickAt(Place + FVector2D(8.0, 8.0));
+		return TakeFired();
+	}
+
+	std::string Rows() const { return ReadTexts(User.GetWindow()); }
 
 	// What was fired and logged since the last time, in its order.
 	std::string TakeFired() { return std::exchange(Fired, "") + TakeLog(Log); }
@@ -40,79 +52,63 @@ protected:
 	std::string Fired;
 	TSharedRef<FChatPanelActions> Actions = MakeShared<FChatPanelActions>();
 	TSharedRef<SChatHistory> Widget = SNew(SChatHistory).PanelActions(Actions);
-	// clang-format off
-	FUserDriver User{
-		SNew(SOverlay) + SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Top)[Widget],
-		FVector2D(400.0, 300.0), 1.0f, EDriverFonts::Even};
-	// clang-format on
+	FUserDriver User{SNew(SOverlay) + SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Top)[Widget], FVector2D(400.0, 300.0), 1.0f,
+		EDriverFonts::Even};
 };
+
+const std::string InvalidItem = "Error: Invalid chat history passed to chat history item widget\n";
 
 } // namespace
 
 TEST_F(ChatHistory, ListsWhatIsAnnouncedInItsOrder)
 {
 	User.Click(TEXT("History"));
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History") << "an empty list opens too";
+	EXPECT_EQ(Rows(), "History") << "an empty list opens too";
 	Client.MakeHistory(TEXT("A title of more than twenty characters"));
 	Announce();
-	User.Frame();
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | first | A title of more than");
+	EXPECT_EQ(Rows(), "History | first | A title of more than");
 	User.Click(TEXT("first"));
 	EXPECT_EQ(TakeFired(), "Log: Chat history selection changed to first\nopen first; ");
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History");
 	const TArray<TObjectPtr<USerializableChatHistory>> Former = Client.Chat->ChatHistories;
 	Client.Chat->ChatHistories.Empty();
-	Announce();
-	User.Click(TEXT("History"));
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History");
+	Open();
+	EXPECT_EQ(Rows(), "History");
 	Client.Chat->ChatHistories = Former;
 	Announce();
 	User.Click(TEXT("first"));
 	EXPECT_EQ(TakeFired(), "") << "the selection was not touched";
 }
 
-TEST_F(ChatHistory, AnInvalidConversationIsAnEmptyRowThatCanBeChosen)
+TEST_F(ChatHistory, AnInvalidConversationIsAnEmptyRowAndOneThatIsGoneCanBeNeitherDeletedNorOpened)
 {
 	Client.MakeHistory(TEXT("broken"))->bIsValidHistory = false;
 	Client.Chat->ChatHistories.Add(nullptr);
-	Announce();
-	User.Click(TEXT("History"));
-	EXPECT_EQ(TakeFired(), "Error: Invalid chat history passed to chat history item widget\n"
-						   "Error: Invalid chat history passed to chat history item widget\n");
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | first");
+	Open();
+	EXPECT_EQ(TakeFired(), InvalidItem + InvalidItem);
+	EXPECT_EQ(Rows(), "History | first");
 	EXPECT_EQ(FindAll(User.GetWindow(), TEXT("SComboRow")).size(), 3u);
-	User.Press(TEXT("Down"));
-	User.Press(TEXT("Down"));
-	User.Press(TEXT("Enter"));
+	User.Play(TEXT("Down Down Enter"));
 	EXPECT_EQ(TakeFired(), "Log: Chat history selection changed to broken\nopen broken; ");
-	User.Press(TEXT("Enter"));
-	User.Press(TEXT("End"));
+	User.Play(TEXT("Enter End"));
 	TakeFired();
 	User.Press(TEXT("Enter"));
 	EXPECT_EQ(TakeFired(), "");
-}
 
-TEST_F(ChatHistory, AConversationThatIsGoneCanBeNeitherDeletedNorOpened)
-{
+	Client.Chat->ChatHistories.SetNum(1);
 	const TObjectPtr<UFakeChatHistory> Gone = Client.MakeHistory(TEXT("gone"));
-	Announce();
-	User.Click(TEXT("History"));
+	Open();
 	Gone->MarkAsGarbage();
-	ClickDeleteInRow(1);
-	EXPECT_EQ(TakeFired(), "");
+	EXPECT_EQ(DeleteRow(1), "");
 	Announce();
-	User.Frame();
-	EXPECT_EQ(TakeFired(), "Error: Invalid chat history passed to chat history item widget\n");
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | first");
-	User.Press(TEXT("End"));
-	User.Press(TEXT("Enter"));
+	EXPECT_EQ(TakeFired(), InvalidItem);
+	EXPECT_EQ(Rows(), "History | first");
+	User.Play(TEXT("End Enter"));
 	EXPECT_EQ(TakeFired(), "");
 }
 
 TEST_F(ChatHistory, HasItsMeasures)
 {
-	Announce();
-	User.Click(TEXT("History"));
+	Open();
 	EXPECT_EQ(ToUtf8(User.Tree()), R"(SOverlay 0,0 400x300
   SChatHistory 0,0 92x22
     SBox 0,0 92x22
@@ -135,17 +131,13 @@ TEST_F(ChatHistory, ADeletionOpensTheFirstThatIsLeftUnlessItIsSelected)
 {
 	Client.MakeHistory(TEXT("second"));
 	Client.MakeHistory(TEXT("third"));
-	Announce();
-	User.Click(TEXT("History"));
-	ClickDeleteInRow(1);
-	EXPECT_EQ(TakeFired(), "Log: Chat history deleted second\ndelete second; Log: Chat history selection changed to first\nopen first; ");
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | first | third") << "the list stays open";
+	Open();
+	EXPECT_EQ(DeleteRow(1), "Log: Chat history deleted second\ndelete second; Log: Chat history selection changed to first\nopen first; ");
+	EXPECT_EQ(Rows(), "History | first | third") << "the list stays open";
 	EXPECT_EQ(FindOne(User.GetWindow(), TEXT("SComboRow"))->GetTag(), FName(TEXT("selected")));
-	ClickDeleteInRow(1);
-	EXPECT_EQ(TakeFired(), "Log: Chat history deleted third\ndelete third; ");
-	ClickDeleteInRow(0);
-	EXPECT_EQ(TakeFired(), "Log: Chat history deleted first\ndelete first; ");
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History");
+	EXPECT_EQ(DeleteRow(1), "Log: Chat history deleted third\ndelete third; ");
+	EXPECT_EQ(DeleteRow(0), "Log: Chat history deleted first\ndelete first; ");
+	EXPECT_EQ(Rows(), "History");
 }
 
 TEST_F(ChatHistory, TheListThatADeletionBringsKeepsTheSelection)
@@ -157,11 +149,9 @@ TEST_F(ChatHistory, TheListThatADeletionBringsKeepsTheSelection)
 			Client.Chat->ChatHistories.Remove(Item);
 			Announce();
 		});
-	Announce();
-	User.Click(TEXT("History"));
-	ClickDeleteInRow(0);
-	EXPECT_EQ(TakeFired(), "Log: Chat history deleted first\nLog: Chat history selection changed to second\nopen second; ");
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History | second");
+	Open();
+	EXPECT_EQ(DeleteRow(0), "Log: Chat history deleted first\nLog: Chat history selection changed to second\nopen second; ");
+	EXPECT_EQ(Rows(), "History | second");
 	User.Click(TEXT("second"));
 	EXPECT_EQ(TakeFired(), "");
 }
@@ -169,9 +159,8 @@ TEST_F(ChatHistory, TheListThatADeletionBringsKeepsTheSelection)
 TEST_F(ChatHistory, WithoutActionsOrEventsNothingHappens)
 {
 	Widget->UnregisterEvents();
-	Announce();
-	User.Click(TEXT("History"));
-	EXPECT_EQ(ReadTexts(User.GetWindow()), "History");
+	Open();
+	EXPECT_EQ(Rows(), "History");
 	FUserDriver Other(SNew(SChatHistory), FVector2D(400.0, 300.0));
 	Other.Click(TEXT("History"));
 	EXPECT_TRUE(Other.GetWindow()->GetPopup().IsValid());

@@ -20,7 +20,6 @@ protected:
 	InputArea()
 	{
 		Actions->OnSendMessage.BindLambda([this](const FString& Text) { Sent += "[" + ToUtf8(Text) + "]"; });
-		User.Frame();
 		User.Click(TEXT("Type your message here..."));
 	}
 
@@ -44,7 +43,14 @@ protected:
 	}
 
 	std::string TakeSent() { return std::exchange(Sent, std::string()); }
+
+	// What stands in the box.
 	std::string Text() const { return ToUtf8(Box()->GetText().ToString()); }
+	std::string TextAfterFailure()
+	{
+		Client.FailTurn(TEXT("x"));
+		return Text();
+	}
 
 	FFakeClient Client;
 	TSharedRef<FChatPanelActions> Actions = MakeShared<FChatPanelActions>();
@@ -57,36 +63,26 @@ protected:
 
 } // namespace
 
-TEST_F(InputArea, EnterSendsAndShiftEnterMakesALine)
+TEST_F(InputArea, EnterAndTheButtonSendAllButNothing)
 {
-	User.Type(TEXT("one"));
-	User.Press(TEXT("Shift+Enter"));
-	User.Type(TEXT("two"));
-	EXPECT_EQ(TakeSent(), "");
+	User.Play(TEXT("'one' Shift+Enter 'two'"));
 	User.ClearFocus();
 	EXPECT_EQ(TakeSent(), "");
 	User.Click(TEXT("two"));
 	User.Press(TEXT("Enter"));
-	EXPECT_EQ(TakeSent(), "[one\ntwo]");
-	EXPECT_EQ(Text(), "");
-
-	// An action that is not bound makes no difference to the box.
-	Actions->OnSendMessage.Unbind();
-	User.Type(TEXT("lost"));
-	User.Press(TEXT("Enter"));
-	EXPECT_EQ(Text(), "");
-	EXPECT_EQ(TakeLog(Log), "");
-}
-
-TEST_F(InputArea, BlanksAloneAreSentAndNothingIsNot)
-{
+	EXPECT_EQ(TakeSent() + Text(), "[one\ntwo]");
 	User.Press(TEXT("Enter"));
 	User.Click(TEXT("Send"));
 	EXPECT_EQ(TakeSent(), "");
 	User.Click(TEXT("Type your message here..."));
 	User.Type(TEXT("  "));
 	User.Click(TEXT("Send"));
-	EXPECT_EQ(TakeSent(), "[  ]");
+	EXPECT_EQ(TakeSent() + Text(), "[  ]");
+
+	// An action that is not bound makes no difference to the box.
+	Actions->OnSendMessage.Unbind();
+	User.Click(TEXT("Type your message here..."));
+	User.Play(TEXT("'lost' Enter"));
 	EXPECT_EQ(Text(), "");
 	EXPECT_EQ(TakeLog(Log), "");
 }
@@ -94,8 +90,7 @@ TEST_F(InputArea, BlanksAloneAreSentAndNothingIsNot)
 TEST_F(InputArea, RefusesWhileAnAnswerIsUnderWay)
 {
 	Client.Chat->bIsProcessingRequest = true;
-	User.Type(TEXT("early"));
-	User.Press(TEXT("Enter"));
+	User.Play(TEXT("'early' Enter"));
 	EXPECT_EQ(TakeSent(), "");
 	EXPECT_EQ(Text(), "early");
 	EXPECT_EQ(TakeLog(Log), "Warning: Already receiving AI response. Please wait before sending a new message.\n");
@@ -125,97 +120,65 @@ TEST_F(InputArea, GuardsComeInTheirOrder)
 	EXPECT_EQ(ReadTexts(Notification), "");
 }
 
-TEST_F(InputArea, AFailureGivesBackTheLastTextSentByEnter)
+TEST_F(InputArea, AFailureGivesBackOnceTheLastTextSentByEnter)
 {
-	User.Type(TEXT("by enter"));
-	User.Press(TEXT("Enter"));
-	Client.FailTurn(TEXT("x"));
+	User.Play(TEXT("'by enter' Enter"));
+	EXPECT_EQ(TextAfterFailure(), "by enter");
 	// Before the next frame the tree can be read too.
 	EXPECT_TRUE(User.Tree().Contains(TEXT("focused \"by enter\""), ESearchCase::CaseSensitive)) << User.Tree();
-	EXPECT_EQ(Text(), "by enter");
-	// It is given back once.
 	Box()->SetText(FText::FromString(TEXT("something else")));
-	Client.FailTurn(TEXT("x"));
-	EXPECT_EQ(Text(), "something else");
+	EXPECT_EQ(TextAfterFailure(), "something else");
 	User.Click(TEXT("Send"));
-	Client.FailTurn(TEXT("x"));
-	EXPECT_EQ(Text(), "");
-}
+	EXPECT_EQ(TextAfterFailure(), "");
 
-TEST_F(InputArea, TheTextIsKeptAfterSuccessAndAfterARefusal)
-{
-	User.Type(TEXT("kept"));
-	User.Press(TEXT("Enter"));
+	// It is kept after a success and after a refusal.
+	User.Click(TEXT("Type your message here..."));
+	User.Play(TEXT("'kept' Enter"));
 	Client.EndTurn(TEXT("answer"));
 	User.Type(TEXT("by button"));
 	User.Click(TEXT("Send"));
-	Client.FailTurn(TEXT("x"));
-	EXPECT_EQ(Text(), "kept");
-
+	EXPECT_EQ(TextAfterFailure(), "kept");
 	Client.Chat->bIsProcessingRequest = true;
 	User.Click(TEXT("kept"));
-	User.Press(TEXT("End"));
-	User.Type(TEXT("!"));
-	User.Press(TEXT("Enter"));
+	User.Play(TEXT("End '!' Enter"));
 	Box()->SetText(FText::GetEmpty());
-	Client.FailTurn(TEXT("x"));
-	EXPECT_EQ(Text(), "kept!");
+	EXPECT_EQ(TextAfterFailure(), "kept!");
 
 	// Enter in an empty box forgets it.
-	User.Press(TEXT("Ctrl+A"));
-	User.Press(TEXT("Delete"));
-	User.Press(TEXT("Enter"));
-	Client.FailTurn(TEXT("x"));
-	EXPECT_EQ(Text(), "");
+	User.Play(TEXT("Ctrl+A Delete Enter"));
+	EXPECT_EQ(TextAfterFailure(), "");
 }
 
 TEST_F(InputArea, GrowsWithItsTextFrom40To120Units)
 {
-	const auto Height = [this]
+	const auto HeightAfter = [this](int NumLines)
 	{
-		User.Frame();
+		for (int Line = 0; Line < NumLines; ++Line)
+		{
+			User.Press(TEXT("Shift+Enter"));
+		}
 		return FindOne(Area, TEXT("SBox"))->GetCachedGeometry().GetLocalSize().Y;
 	};
-	EXPECT_EQ(Height(), 40.0);
-	for (int Line = 0; Line < 5; ++Line)
-	{
-		User.Press(TEXT("Shift+Enter"));
-	}
-	EXPECT_GT(Height(), 40.0);
-	for (int Line = 0; Line < 20; ++Line)
-	{
-		User.Press(TEXT("Shift+Enter"));
-	}
-	EXPECT_EQ(Height(), 120.0);
-	EXPECT_EQ(FindOne(Area, TEXT("SImage"))->GetCachedGeometry().GetLocalSize(), FVector2D(680.0, 140.0));
+	EXPECT_EQ(HeightAfter(0), 40.0);
+	EXPECT_GT(HeightAfter(5), 40.0);
+	EXPECT_EQ(HeightAfter(20), 120.0);
+	EXPECT_EQ(PlaceOf(FindOne(Area, TEXT("SImage"))), "0,0 680x140");
 }
 
-TEST_F(InputArea, WithoutCreditsAnAgentModeSwitchesTheInputOff)
+TEST_F(InputArea, WithoutCreditsAnAgentModeSwitchesTheInputOffUntilTheModeChanges)
 {
-	struct FRow
-	{
-		const TCHAR* UserName;
-		int32 Credits;
-		FString ModeName;
-		bool bOn;
-	};
 	const FString Agent = UChatService::DefaultAgentChatModeName;
-	const FRow Rows[] = {{TEXT("Ann"), 0, Agent, false}, {TEXT("Ann"), -1, Agent, false}, {TEXT("Ann"), 1, Agent, true},
-		{TEXT(""), 0, Agent, true}, {TEXT("Ann"), 0, TEXT("Ask"), true}, {TEXT("Ann"), 0, FFakeClient::ReagentMode, true}};
-	for (const FRow& Row : Rows)
+	const std::tuple<const TCHAR*, int32, FString, bool> Rows[] = {{TEXT("Ann"), 0, Agent, false}, {TEXT("Ann"), -1, Agent, false},
+		{TEXT("Ann"), 1, Agent, true}, {TEXT(""), 0, Agent, true}, {TEXT("Ann"), 0, TEXT("Ask"), true},
+		{TEXT("Ann"), 0, FFakeClient::ReagentMode, true}, {TEXT("Ann"), 0, Agent, false}};
+	for (const auto& [UserName, Credits, ModeName, bOn] : Rows)
 	{
-		Client.Chat->CurrentChatModeName = Row.ModeName;
-		Client.SetUserData(Row.UserName, Row.Credits);
-		EXPECT_EQ(Area->IsInputEnabled(), Row.bOn) << ToUtf8(Row.ModeName) << " " << Row.Credits;
-		EXPECT_EQ(Box()->GetVisibility() == EVisibility::Visible, Row.bOn);
-		EXPECT_EQ(Box()->IsEnabled(), Row.bOn);
+		Client.Chat->CurrentChatModeName = ModeName;
+		Client.SetUserData(UserName, Credits);
+		EXPECT_EQ(Area->IsInputEnabled(), bOn) << ToUtf8(ModeName) << " " << Credits;
+		EXPECT_EQ(Box()->GetVisibility() == EVisibility::Visible, bOn);
+		EXPECT_EQ(Box()->IsEnabled(), bOn);
 	}
-}
-
-TEST_F(InputArea, TheNoticeLeadsToTheBillingPageUntilTheModeChanges)
-{
-	Client.Chat->CurrentChatModeName = UChatService::DefaultAgentChatModeName;
-	Client.SetUserData(TEXT("Ann"), 0);
 	User.Frame();
 	EXPECT_EQ(ReadTexts(Area), "You have no credits left for this Agent mode. | Get more credits");
 	User.Click(TEXT("Get more credits"));
