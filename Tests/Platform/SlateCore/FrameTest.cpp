@@ -26,10 +26,6 @@ private:
 	}
 };
 
-class SDerivedTickingProbe : public STickingProbe
-{
-};
-
 struct FBound
 {
 	FVector2D Size = FVector2D(20.0, 10.0);
@@ -69,13 +65,8 @@ TEST(BoundAttributes, AreNotReadOutOfViewAndAreUpToDateWhenTheyComeIntoIt)
 	FBound Bound;
 	const TSharedRef<SProbe> Above = SNew(SProbe).Size(FVector2D(10.0, 1000.0));
 	const TSharedRef<SProbe> Probe = SNew(SProbe).BoundSize(Bound.MakeAttribute());
-	// clang-format off
-	FUserDriver User(
-		SNew(SVerticalBox)
-		+ SVerticalBox::Slot().AutoHeight()[Above]
-		+ SVerticalBox::Slot().AutoHeight()[Probe],
+	FUserDriver User(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Above] + SVerticalBox::Slot().AutoHeight()[Probe],
 		FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
-	// clang-format on
 	Bound.NumRead = 0;
 	Bound.Size = FVector2D(10.0, 33.0);
 	User.AdvanceTime(0.0f);
@@ -101,14 +92,9 @@ TEST(BoundAttributes, ABoundVisibilityBringsACollapsedWidgetBack)
 TEST(Ticking, AWidgetTicksAndKeepsTheFramesComingWhileItIsInView)
 {
 	const TSharedRef<SProbe> Above = SNew(SProbe);
-	const TSharedRef<STickingProbe> Probe = SNew(SDerivedTickingProbe);
-	// clang-format off
-	FUserDriver User(
-		SNew(SVerticalBox)
-		+ SVerticalBox::Slot().AutoHeight()[Above]
-		+ SVerticalBox::Slot().AutoHeight()[Probe],
+	const TSharedRef<STickingProbe> Probe = SNew(STickingProbe);
+	FUserDriver User(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Above] + SVerticalBox::Slot().AutoHeight()[Probe],
 		FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
-	// clang-format on
 	const auto CountTicks = [&]
 	{
 		User.Frame();

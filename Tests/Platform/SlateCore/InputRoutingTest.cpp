@@ -89,7 +89,7 @@ TEST_F(InputRouting, AWidgetThatCapturesGetsEverythingUntilItLetsGoOrDisappears)
 	EXPECT_TRUE(Lower->IsHovered()) << "which lies under the resting mouse now";
 }
 
-TEST_F(InputRouting, AFocusedWidgetThatDisappearsOrIsDisabledLosesTheFocus)
+TEST_F(InputRouting, AFocusedWidgetThatDisappearsOrIsDisabledLosesTheFocusWhichTabMoves)
 {
 	User.ClickAt(OnUpper);
 	Root->SetVisibility(EVisibility::Collapsed);
@@ -101,10 +101,9 @@ TEST_F(InputRouting, AFocusedWidgetThatDisappearsOrIsDisabledLosesTheFocus)
 	Upper->SetEnabled(false);
 	User.Frame();
 	EXPECT_FALSE(User.GetFocused().IsValid());
-}
+	Upper->SetEnabled(true);
 
-TEST_F(InputRouting, TabWalksRoundAndShiftTabBack)
-{
+	// Tab walks round, and Shift+Tab back.
 	const auto FocusedBy = [this](const TCHAR* Key)
 	{
 		User.Press(Key);

@@ -46,13 +46,9 @@ TEST_F(Style, AMissingNameOrAnotherTypeYieldsTheDefaultOfItsKind)
 TEST_F(Style, WhatWasHandedOutOutlivesBeingReplaced)
 {
 	Set.Set("Brush", new FSlateColorBrush(Orange));
-	Set.Set("Text", FTextBlockStyle());
 	const FSlateBrush* Brush = Set.GetBrush("Brush");
-	const FTextBlockStyle& Text = Set.GetWidgetStyle<FTextBlockStyle>("Text");
 	Set.Set("Brush", new FSlateColorBrush(FLinearColor::Red));
-	Set.Set("Text", FTextBlockStyle().SetFont(FSlateFontInfo("Bold", 99.0f)));
 	EXPECT_EQ(Brush->TintColor, FSlateColor(Orange));
-	EXPECT_NE(Text.Font.Size, 99.0f);
 	EXPECT_EQ(Set.GetBrush("Brush")->TintColor, FSlateColor(FLinearColor::Red));
 }
 
@@ -63,15 +59,13 @@ TEST_F(Style, TheRegistryBearsRepetitionAndNamesBrushes)
 	EXPECT_EQ(FSlateStyleRegistry::FindBrushName(Brush), FName()) << "not registered";
 	FSlateStyleRegistry::RegisterSlateStyle(Set);
 	FSlateStyleRegistry::RegisterSlateStyle(Set);
-	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("teststyle"), &Set);
 	EXPECT_EQ(FSlateStyleRegistry::FindBrushName(Brush), FName("Icon.Send"));
 	{
 		const FSlateStyleSet Other("TestStyle");
 		FSlateStyleRegistry::RegisterSlateStyle(Other);
 		FSlateStyleRegistry::UnRegisterSlateStyle(Other);
 	}
-	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("TestStyle"), &Set) << "another set of that name changes nothing";
-	FSlateStyleRegistry::UnRegisterSlateStyle(Set);
+	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("teststyle"), &Set) << "another set of that name changes nothing";
 	FSlateStyleRegistry::UnRegisterSlateStyle(Set);
 	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("TestStyle"), nullptr);
 	EXPECT_EQ(FSlateStyleRegistry::FindBrushName(Brush), FName());

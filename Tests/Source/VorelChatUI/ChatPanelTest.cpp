@@ -61,15 +61,13 @@ TEST_F(ChatPanel, AMessageGoesFromTheBoxToTheService)
 {
 	Client.Calls->Allow(TEXT("SendMessage"), [this](const FString& Text) { Client.StartTurn(Text); });
 	User.Click(TEXT("Type your message here..."));
-	User.Type(TEXT("How?"));
-	User.Press(TEXT("Enter"));
+	User.Play(TEXT("'How?' Enter"));
 	EXPECT_EQ(TakeCalls(), "CheckForUpdates() SendMessage(How?)");
 	EXPECT_EQ(List(), "You: How? | (thinking)");
 	Client.DeliverChunk(TEXT("**So"));
 	Client.DeliverChunk(TEXT("**."));
 	EXPECT_EQ(List(), "You: How? | Vorel: So.");
-	User.Type(TEXT("again"));
-	User.Press(TEXT("Enter"));
+	User.Play(TEXT("'again' Enter"));
 	EXPECT_EQ(Toast(), "Please wait | AI is still responding. Let it finish before sending a new message.");
 	Client.EndTurn(TEXT("**So**."));
 	EXPECT_EQ(List(), "You: How? | Vorel: So.");

@@ -1,15 +1,13 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "Syntax/CodeBlockMarshaller.h"
-#include "Chat/ChatItemWidgets/SCodeWidget.h"
 #include "Framework/Text/SlateTextLayout.h"
-#include "Rendering/DrawElements.h"
 #include "Styling/WidgetStyle.h"
+#include "Support/DrawnElements.h"
 #include "Support/UserDriver.h"
 #include "Syntax/CodeWhiteSpaceRun.h"
 #include "Widgets.h"
 #include "Widgets/SNullWidget.h"
-#include <QImage>
 #include <gtest/gtest.h>
 
 namespace
@@ -47,16 +45,15 @@ protected:
 		Layout->Paint(FGeometry(), FSlateRect(0.0f, 0.0f, 1.0e6f, 1.0e6f), Elements, 0, FWidgetStyle(), ESlateDrawEffect::None);
 		std::string Result;
 		double Row = 0.0;
-		const TSharedRef<const FSlateDrawChunk> Chunk = Elements.EndChunk();
-		for (const FSlateDrawChunk::FItem& Item : Chunk->GetItems())
-		{
-			const FSlateDrawElement& Element = std::get<FSlateDrawElement>(Item);
-			const FSlateRect Rect = Element.GetGeometry().GetRenderBoundingRect();
-			Result += !Result.empty() && Rect.Top > Row ? "\n" : "";
-			Row = Rect.Top;
-			const int32 Length = std::get<FSlateTextPayload>(Element.GetPayload()).Text->CaretOffsets.Num() - 1;
-			Result += std::string(static_cast<size_t>(Length), GetLetter(Element.GetTint()));
-		}
+		ForEachDrawn(*Elements.EndChunk(),
+			[&](const FSlateDrawElement& Element, const FSlateRect&)
+			{
+				const double Top = Element.GetGeometry().GetRenderBoundingRect().Top;
+				Result += !Result.empty() && Top > Row ? "\n" : "";
+				Row = Top;
+				const int32 Length = std::get<FSlateTextPayload>(Element.GetPayload()).Text->CaretOffsets.Num() - 1;
+				Result += std::string(static_cast<size_t>(Length), GetLetter(Element.GetTint()));
+			});
 		return Result;
 	}
 
@@ -149,30 +146,34 @@ TEST_F(CodeBlockMarshaller, ABlockThatGrowsLooksAsIfMadeAtOnce)
 	Codes.Append(
 		{Code, Code + TEXT("\""), Code.Left(500), TEXT("other\n") + Code, FString(), Code.Replace(TEXT("\r"), TEXT("")), Code, Code});
 
-	const auto Print = [](const FString& Source, TArray<TSharedPtr<void>>& Alive)
+	// What is made from a source, and is held until the next is made.
+	TSharedPtr<FCodeBlockMarshaller> LastMarshaller;
+	TSharedPtr<FSlateTextLayout> LastLayout;
+	const auto Print = [&](const FString& Source)
 	{
 		const TSharedRef<FSlateTextLayout> NewLayout = FSlateTextLayout::Create(*SNullWidget::NullWidget, FTextBlockStyle::GetDefault());
 		const TSharedRef<FCodeBlockMarshaller> NewMarshaller = FCodeBlockMarshaller::Create();
 		NewMarshaller->SetText(Source, *NewLayout);
 		NewLayout->SetScale(1.5f);
 		NewLayout->UpdateIfNeeded();
-		Alive = {NewLayout, NewMarshaller};
+		LastLayout = NewLayout;
+		LastMarshaller = NewMarshaller;
 		return NewLayout->ToDebugString();
 	};
 	TArray<FString> Expected;
 	for (const FString& Source : Codes)
 	{
-		TArray<TSharedPtr<void>> Alone;
-		Expected.Add(Print(Source, Alone));
+		LastLayout.Reset();
+		LastMarshaller.Reset();
+		Expected.Add(Print(Source));
 	}
-	TArray<TSharedPtr<void>> Before;
 	for (int32 Index = 0; Index < Codes.Num(); ++Index)
 	{
-		EXPECT_TEXT(Print(Codes[Index], Before), Expected[Index]) << Index;
+		EXPECT_TEXT(Print(Codes[Index]), Expected[Index]) << Index;
 	}
 }
 
-TEST_F(CodeBlockMarshaller, ATabIsFourSpacesWide)
+TEST_F(CodeBlockMarshaller, ATabIsFourSpacesWideAndWhiteSpaceHasTheRoomOfItsShadow)
 {
 	Show(FString("\tx\n    x\n \t \t x\n           x"));
 	const auto LeftOf = [this](int32 Line, int32 Offset)
@@ -182,15 +183,11 @@ TEST_F(CodeBlockMarshaller, ATabIsFourSpacesWide)
 	EXPECT_GT(LeftOf(0, 1), 0.0f);
 	EXPECT_FLOAT_EQ(LeftOf(0, 1), LeftOf(1, 4));
 	EXPECT_FLOAT_EQ(LeftOf(2, 5), LeftOf(3, 11));
-}
 
-TEST_F(CodeBlockMarshaller, WhiteSpaceIsMeasuredWithItsShadow)
-{
 	FTextBlockStyle Style;
 	Style.SetFont(FSlateFontInfo(TEXT("Mono"), 10.0f)).SetShadowOffset(FVector2D(-3.0, 2.0));
 	const TSharedRef<const FString> Text = MakeShared<FString>(TEXT("ab\t \t"));
 	const TSharedRef<FCodeWhiteSpaceRun> Run = FCodeWhiteSpaceRun::Create(FRunInfo(TEXT("Name")), Text, Style, FTextRange(2, 5), 3);
-	EXPECT_EQ(Run->Measure(2, 5, 1.0f, {}), FVector2D(7 * 8.0 + 3.0, 16.0 + 2.0));
 	EXPECT_EQ(Run->Measure(2, 5, 2.0f, {}), FVector2D(7 * 16.0 + 6.0, 32.0 + 4.0));
 	EXPECT_EQ(Run->Measure(2, 4, 2.0f, {}), FVector2D(4 * 16.0, 32.0 + 4.0));
 	EXPECT_EQ(Run->Measure(5, 5, 2.0f, {}), FVector2D(12.0, Run->GetMaxHeight(2.0f)));

@@ -120,10 +120,10 @@ TEST_F(Controller, WaitsForTheMenuSystemAndThenAddsItsEntries)
 TEST_F(Controller, TheCommandBindsNoKey)
 {
 	const FVorelChatCommands& Commands = FVorelChatCommands::Get();
+	const FUICommandInfo& Command = *Commands.OpenVorelAITab;
 	EXPECT_TRUE(Commands.GetContextName() == "VorelChat");
 	EXPECT_EQ(ToUtf8(Commands.GetContextDesc().ToString()), "Vorel Chat Plugin");
 	EXPECT_TRUE(Commands.GetContextParent().IsNone());
-	const FUICommandInfo& Command = *Commands.OpenVorelAITab;
 	EXPECT_TRUE(Command.GetCommandName() == "OpenVorelAITab");
 	EXPECT_EQ(ToUtf8(Command.GetLabel().ToString()), "Vorel AI");
 	EXPECT_EQ(ToUtf8(Command.GetDescription().ToString()), "Open the Vorel AI chat interface");
@@ -133,11 +133,11 @@ TEST_F(Controller, TheCommandBindsNoKey)
 	EXPECT_FALSE(Command.GetAlternateDefaultChord().IsValidChord());
 }
 
-TEST_F(Controller, TheEntriesOpenOneTabAndBringItForward)
+TEST_F(Controller, TheEntriesOpenOneTabWhoseViewLivesUntilTheNextOneIsBuilt)
 {
 	BringUpMenus();
 	EXPECT_TRUE(FindEntry(MenuPaths[0])->Execute());
-	const TSharedPtr<SDockTab> First = Tab();
+	TSharedPtr<SDockTab> First = Tab();
 	ASSERT_TRUE(First.IsValid());
 	EXPECT_EQ(First->GetTabRole(), ETabRole::NomadTab);
 	EXPECT_EQ(ToUtf8(First->GetTabLabel().ToString()), "Vorel AI");
@@ -146,35 +146,22 @@ TEST_F(Controller, TheEntriesOpenOneTabAndBringItForward)
 	EXPECT_TRUE(FindEntry(MenuPaths[1])->Execute());
 	EXPECT_TRUE(Tab() == First);
 	EXPECT_EQ(TakeCalls(), "");
-}
 
-TEST_F(Controller, AClosedTabsViewLivesUntilTheNextOneIsBuilt)
-{
-	BringUpMenus();
-	FindEntry(MenuPaths[0])->Execute();
-	const TWeakPtr<SWidget> FirstView = Tab()->GetContent();
+	const TWeakPtr<SWidget> FirstView = First->GetContent();
+	Client.Auth->OnAuthenticationStateChanged.Broadcast();
+	TakeCalls();
 	CloseTab();
+	First.Reset();
 	ASSERT_TRUE(FirstView.IsValid());
 	Client.AddMessage(EChatRole::Assistant, TEXT("meanwhile"));
 	EXPECT_EQ(ReadList(FirstView.Pin().ToSharedRef()), "Vorel: meanwhile");
-
-	TakeCalls();
 	FindEntry(MenuPaths[0])->Execute();
 	EXPECT_EQ(TakeCalls(), "CheckForUpdates() GetUserData()");
 	EXPECT_FALSE(FirstView.IsValid());
-	EXPECT_EQ(ReadList(Tab()->GetContent()), "Vorel: meanwhile");
-	// The old view's bindings fall away.
+
+	// The old view's bindings fall away, and so does the timer of its greeting.
 	Client.AddMessage(EChatRole::Assistant, TEXT("later"));
 	EXPECT_EQ(ReadList(Tab()->GetContent()), "Vorel: meanwhile | Vorel: later");
-}
-
-TEST_F(Controller, ReopeningDuringTheGreetingIsSafe)
-{
-	BringUpMenus();
-	FindEntry(MenuPaths[0])->Execute();
-	Client.Auth->OnAuthenticationStateChanged.Broadcast();
-	CloseTab();
-	FindEntry(MenuPaths[0])->Execute();
 	GEditor->GetTimerManager()->Tick(11.0f);
 	EXPECT_EQ(FindOne(Tab()->GetContent(), TEXT("SNotification"))->GetVisibility(), EVisibility::Collapsed);
 }
@@ -198,7 +185,6 @@ TEST_F(Controller, WithoutMenusTheTabExistsAllTheSame)
 {
 	BringUpMenus(false);
 	EXPECT_EQ(TakeLog(Log), "Warning: Can't register UI because ToolMenus are not available\n");
-	EXPECT_TRUE(HasSpawner());
 	EXPECT_TRUE(FGlobalTabmanager::Get()->TryInvokeTab(FTabId("VorelChat")).IsValid());
 }
 
@@ -210,36 +196,29 @@ TEST_F(Controller, IsForgottenWhenItGoesBeforeTheMenusCome)
 	EXPECT_EQ(FindEntry(MenuPaths[0]), nullptr);
 }
 
-TEST_F(Module, StartsAndStopsAnyNumberOfTimes)
+TEST_F(Module, StartsAndStopsAnyNumberOfTimesAlsoWithoutAuthService)
 {
 	BringUpMenus();
 	FVorelChatUI().ShutdownModule();
-	const char* const StyleSets[] = {"FVorelAIStyle", "FVorelMarkdownStyle", "FCodeBlockStyle"};
+	const auto CountStyles = []
+	{
+		int Count = 0;
+		for (const char* Name : {"FVorelAIStyle", "FVorelMarkdownStyle", "FCodeBlockStyle"})
+		{
+			Count += FSlateStyleRegistry::FindSlateStyle(Name) != nullptr ? 1 : 0;
+		}
+		return Count;
+	};
 	for (int Round = 0; Round < 2; ++Round)
 	{
 		FVorelChatUI::Get();
-		for (const char* Name : StyleSets)
-		{
-			EXPECT_NE(FSlateStyleRegistry::FindSlateStyle(Name), nullptr) << Name;
-		}
+		EXPECT_EQ(CountStyles(), 3);
 		EXPECT_TRUE(FindEntry(MenuPaths[0])->Execute());
+		EXPECT_EQ(FindOne(Tab()->GetContent(), TEXT("SChatPanel"))->GetVisibility().IsVisible(), Client.Auth != nullptr);
 		CloseTab();
 		EXPECT_TRUE(FModuleManager::Get().UnloadModule("VorelChatUI"));
 		EXPECT_FALSE(HasSpawner());
-		for (const char* Name : StyleSets)
-		{
-			EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle(Name), nullptr) << Name;
-		}
+		EXPECT_EQ(CountStyles(), 0);
+		Client.Auth = nullptr;
 	}
-}
-
-TEST_F(Module, StartsWithoutAuthServiceAndShowsNoChat)
-{
-	BringUpMenus();
-	Client.Auth = nullptr;
-	FVorelChatUI::Get();
-	FindEntry(MenuPaths[0])->Execute();
-	EXPECT_EQ(FindOne(Tab()->GetContent(), TEXT("SChatPanel"))->GetVisibility(), EVisibility::Collapsed);
-	CloseTab();
-	FModuleManager::Get().UnloadModule("VorelChatUI");
 }

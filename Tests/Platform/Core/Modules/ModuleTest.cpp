@@ -1,7 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "Modules/ModuleManager.h"
-#include "Support/LogCapture.h"
 #include "Support/Printers.h"
 
 #include <gtest/gtest.h>
@@ -25,31 +24,20 @@ public:
 };
 
 using FTestModule1 = TTestModule<1>;
-using FTestModule2 = TTestModule<2>;
 } // namespace
 
 IMPLEMENT_MODULE(FTestModule1, TestModule1)
-static FModuleInitializerEntry TestModule2Entry(TEXT("TestModule2"), []() -> IModuleInterface* { return new FTestModule2(); });
+static FModuleInitializerEntry TestModule2Entry(TEXT("TestModule2"), []() -> IModuleInterface* { return new TTestModule<2>(); });
 
-class ModuleTest : public testing::Test
+TEST(ModuleTest, ShutsDownInReverseOrderAndStartsAgainAfterUnloading)
 {
-protected:
-	ModuleTest() { Events.Reset(); }
-	~ModuleTest() override { FModuleManager::Get().UnloadModulesAtShutdown(); }
-};
-
-TEST_F(ModuleTest, ShutsDownInReverseOrderAndStartsAgainAfterUnloading)
-{
-	FModuleManager::Get().LoadModule("TestModule2");
-	FModuleManager::Get().LoadModule("TestModule1");
-	FModuleManager::Get().UnloadModulesAtShutdown();
-	EXPECT_FALSE(FModuleManager::Get().UnloadModule("TestModule1"));
-	FModuleManager::Get().LoadModule("TestModule1");
-	EXPECT_TRUE(FModuleManager::Get().UnloadModule("TestModule1"));
+	FModuleManager& Manager = FModuleManager::Get();
+	Manager.LoadModule("TestModule2");
+	Manager.LoadModule("TestModule1");
+	Manager.UnloadModulesAtShutdown();
+	EXPECT_FALSE(Manager.UnloadModule("TestModule1"));
+	Manager.LoadModule("TestModule1");
+	EXPECT_TRUE(Manager.UnloadModule("TestModule1"));
 	EXPECT_TEXT(Events, TEXT("+2 +1 -1 ~1 -2 ~2 +1 -1 ~1 "));
-}
-
-TEST(ModuleDeathTest, StopsWhereAModuleCannotBeLoaded)
-{
-	EXPECT_DEATH(FModuleManager::Get().LoadModuleChecked("NoSuchModule"), "Fatal: Module 'NoSuchModule' could not be loaded");
+	EXPECT_DEATH(Manager.LoadModuleChecked("NoSuchModule"), "Fatal: Module 'NoSuchModule' could not be loaded");
 }
