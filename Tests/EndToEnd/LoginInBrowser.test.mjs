@@ -38,6 +38,12 @@ test('a person logs in with Chromium, out, and in again', { timeout: 110_000 }, 
 	await desktop.startVorel();
 	await desktop.find('Licenced to: Ada Lovelace');
 
+	// A tab that is closed and opened anew, by the keys of the other menu.
+	await desktop.hand('key', 'ctrl+w');
+	await desktop.hand('key', 'alt+b', 'Down', 'Return');
+	await desktop.vorel.waitFor(/(Updating view state[^]*){2}/);
+	await desktop.find('Licenced to: Ada Lovelace');
+
 	await desktop.click('Logout');
 	await desktop.find('Log in');
 	await desktop.picture('login-6-logged-out');

@@ -62,6 +62,7 @@ TEST_F(FChatRequestTest, SendsTheWholeConversationAsStandardChatCompletion)
 	const json Body = ParseBody(Second);
 	EXPECT_EQ(Body["model"], "test-model");
 	EXPECT_EQ(Body["stream"], true);
+	EXPECT_FALSE(Body.contains("metadata"));
 	ASSERT_EQ(Body["messages"].size(), 4u);
 	EXPECT_EQ(Body["messages"][0]["role"], "system");
 	EXPECT_EQ(Body["messages"][1], json({{"role", "user"}, {"content", "Première \"question\"\n😀"}}));
@@ -130,50 +131,30 @@ TEST_F(FChatRequestTest, EndsAtTheEndMarkThoughTheConnectionStaysOpen)
 	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* chunk(Done)* answer(Done) completed"));
 }
 
-TEST_F(FChatRequestTest, MarksAnAnswerThatTheServerCut)
-{
-	Server.Then(
-		[](const FExchange& Exchange)
-		{
-			Exchange.SendStreamHead();
-			Exchange.Send(MakeDelta("Half") + "data: {\"choices\":[{\"delta\":{},\"finish_reason\":\"length\"}]}\n\n" + EndMark);
-		});
-	Server.Then(Answer("Whole"));
-	const FString Shown = TEXT("Half\n\n*The answer ends here because it reached the assistant's length limit.*");
-	EXPECT_EQ(Ask(TEXT("Hi")), FString::Printf(TEXT("history(0)* user(Hi)* chunk(%s)* answer(%s) completed"), *Shown, *Shown));
-	Ask(TEXT("Go on"));
-	EXPECT_EQ(ParseBody(Server.GetExchanges()[1])["messages"][2]["content"], "Half");
-}
-
-TEST_F(FChatRequestTest, AsksForTheFirstModelOnce)
+TEST_F(FChatRequestTest, AsksForTheFirstModelOnceAndAgainAfterAFailure)
 {
 	Endpoint.Model.Reset();
 	Endpoint.ApiKey = TEXT("secret");
-	Server.Then([](const FExchange& Exchange)
-		{ Exchange.SendReply("200 OK", "application/json", "{\"object\":\"list\",\"data\":[{\"id\":\"alpha\"},{\"id\":\"beta\"}]}"); });
-	Server.Then(Answer("1"));
-	Server.Then(Answer("2"));
-	Ask(TEXT("Hi"));
-	Ask(TEXT("Hi"));
-	ASSERT_EQ(Server.GetExchanges().size(), 3);
-	EXPECT_EQ(Server.GetExchanges()[0].Method + Server.GetExchanges()[0].Path, "GET/v1/models");
-	EXPECT_EQ(Server.GetExchanges()[0].Headers["authorization"], "Bearer secret");
-	EXPECT_EQ(ParseBody(Server.GetExchanges()[1])["model"], "alpha");
-	EXPECT_EQ(ParseBody(Server.GetExchanges()[2])["model"], "alpha");
-}
-
-TEST_F(FChatRequestTest, AsksForTheModelAgainAfterAFailure)
-{
-	Endpoint.Model.Reset();
-	for (const QByteArray Name : {"alpha", "beta"})
+	const auto Name = [this](const QByteArray& Json)
 	{
-		Server.Then([Name](const FExchange& Exchange)
-			{ Exchange.SendReply("200 OK", "application/json", "{\"models\":[{\"name\":\"" + Name + "\"}]}"); });
-		Server.Then([](const FExchange& Exchange) { Exchange.SendReply("404 Not Found", "application/json", "{}"); });
+		Server.Then([Json](const FExchange& Exchange) { Exchange.SendReply("200 OK", "application/json", Json); });
+	};
+	Name("{\"object\":\"list\",\"data\":[{\"id\":\"alpha\"},{\"id\":\"other\"}]}");
+	Server.Then(Answer("1"));
+	Server.Then([](const FExchange& Exchange) { Exchange.SendReply("404 Not Found", "application/json", "{}"); });
+	Name("{\"models\":[{\"name\":\"beta\"}]}");
+	Server.Then(Answer("2"));
+	for (int32 Round = 0; Round < 3; ++Round)
+	{
+		Ask(TEXT("Hi"));
 	}
-	Ask(TEXT("Hi"));
-	Ask(TEXT("Hi"));
-	EXPECT_EQ(ParseBody(Server.GetExchanges()[3])["model"], "beta");
+	const QList<FExchange>& Exchanges = Server.GetExchanges();
+	ASSERT_EQ(Exchanges.size(), 5);
+	EXPECT_EQ(Exchanges[0].Method + Exchanges[0].Path, "GET/v1/models");
+	EXPECT_EQ(Exchanges[0].Headers["authorization"], "Bearer secret");
+	EXPECT_EQ(ParseBody(Exchanges[1])["model"], "alpha");
+	EXPECT_EQ(ParseBody(Exchanges[2])["model"], "alpha");
+	EXPECT_EQ(ParseBody(Exchanges[4])["model"], "beta");
 }
 
 TEST_F(FChatRequestTest, IgnoresAMessageWhileAnAnswerIsUnderWay)

@@ -205,13 +205,6 @@ TEST(FAnswerNoteTest, ClosesTheBlockOfCodeInWhichTheAnswerEnds)
 	EXPECT_EQ(MakeAnswerNote(TEXT("```"), EAnswerEnd::Complete), TEXT(""));
 }
 
-TEST(FConversationTitleTest, IsOneLineOfTheFirstMessage)
-{
-	EXPECT_EQ(MakeConversationTitle(TEXT("  a \t\r\n b\x00A0\x2003\x2028 c\x0001 \n")), TEXT("a b c"));
-	EXPECT_EQ(MakeConversationTitle(TEXT(" \n ")), TEXT(""));
-	EXPECT_EQ(MakeConversationTitle(FString::ChrN(100000, TEXT('x'))).Len(), 100000);
-}
-
 TEST(FConversationTitleTest, IsCutBetweenCharactersWithItsEllipsisInTheLimit)
 {
 	EXPECT_EQ(ShortenTitle(TEXT("12345678901234567890"), 20), TEXT("12345678901234567890"));

@@ -47,19 +47,6 @@ TEST_F(FStoreTest, BringsConversationsBack)
 	EXPECT_EQ(GetTitles(Service()), TEXT("What colour?"));
 }
 
-TEST_F(FStoreTest, StoresAnAnswerAsItGrows)
-{
-	Server.Then(Begin("Half"));
-	Service().SendMessage(TEXT("Hi"));
-	EXPECT_EQ(ReadFile(FirstId()), TEXT("user(Hi)"));
-	ASSERT_TRUE(PumpUntil([this] { return ReadFile(FirstId()) == TEXT("user(Hi) growing(Half)"); }));
-	Server.GetExchanges()[0].Send(MakeDelta(" way"));
-	ASSERT_TRUE(PumpUntil([this] { return ReadFile(FirstId()) == TEXT("user(Hi) growing(Half way)"); }));
-	Server.GetExchanges()[0].Send(MakeDelta(" there") + EndMark);
-	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
-	EXPECT_EQ(ReadFile(FirstId()), TEXT("user(Hi) complete(Half way there)"));
-}
-
 TEST_F(FStoreTest, MarksAsInterruptedWhatQuittingOrLeavingCutShort)
 {
 	Server.Then(Begin("One"));
