@@ -42,6 +42,10 @@ std::string MakeVersionFeed(const FServiceParts& Parts)
 
 std::vector<FRoute> MakeRoutes(FServiceParts& Parts)
 {
+	const auto AdmitUser = [&Parts](const httplib::Request& Request, httplib::Response& Response)
+	{
+		return Admit(Parts, Request, Response);
+	};
 	return {
 		{"GET", "/", Serve(MakeStartPage(Parts.Address, Parts.Options.bPasswords), SendPage)},
 		{"GET", "/tos", Serve(MakeTermsPage(), SendPage)},
@@ -60,6 +64,6 @@ std::vector<FRoute> MakeRoutes(FServiceParts& Parts)
 		{"GET", "/v1/user", WithAccount(Parts, ServeUser)},
 		{"GET", "/v1/credits", WithAccount(Parts, ServeCredits)},
 		{"GET", "/v1/models", WithAccount(Parts, ServeModels)},
-		{"POST", "/v1/chat/completions", WithAccount(Parts, ServeCompletion), Parts.Options.MaxRequestBytes},
+		{"POST", "/v1/chat/completions", WithAccount(Parts, ServeCompletion), Parts.Options.MaxRequestBytes, AdmitUser},
 	};
 }

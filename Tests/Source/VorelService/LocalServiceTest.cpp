@@ -69,12 +69,35 @@ TEST_F(FLocalServiceTest, CountsUsageWhenAsked)
 TEST_F(FLocalServiceTest, ListsItsModelAndServesItsPages)
 {
 	EXPECT_EQ(json::parse(Http->Get("/v1/models")->body)["data"][0]["id"], "vorel-guide");
-	for (const char* Path : {"/", "/billing"})
+	for (const char* Path : {"/", "/billing", "/tos", "/privacy", "/plugin"})
 	{
 		const httplib::Result Page = Http->Get(Path);
 		EXPECT_EQ(Page->status, 200) << Path;
 		EXPECT_NE(Page->body.find("<h1>"), std::string::npos) << Path;
+		EXPECT_EQ(Page->get_header_value("Cache-Control"), "no-store") << Path;
+		EXPECT_EQ(Page->get_header_value("X-Frame-Options"), "DENY") << Path;
+		EXPECT_EQ(Page->get_header_value("Referrer-Policy"), "same-origin") << Path;
+		EXPECT_NE(Page->get_header_value("Content-Security-Policy").find("frame-ancestors 'none'"), std::string::npos) << Path;
 	}
+	EXPECT_EQ(Http->Get("/login")->get_header_value("Location"), "/billing");
+}
+
+TEST_F(FLocalServiceTest, AsksForATokenWhereItAnswers)
+{
+	for (const char* const Value : {"", "Bearer ", "Bearer wrong", "Basic key-of-the-owner", "Bearer key-of-the-owne"})
+	{
+		const httplib::Headers Headers = {{"Authorization", Value}};
+		const std::unique_ptr<httplib::Client> Stranger = Connect(*Service);
+		for (const httplib::Result& Reply :
+			{Stranger->Get("/v1/models", Headers), Stranger->Get("/v1/user", Headers), Stranger->Get("/v1/credits", Headers),
+				Stranger->Post("/v1/chat/completions", Headers, MakeQuestion("timer", false).dump(), "application/json")})
+		{
+			EXPECT_EQ(Reply->status, 401) << Value;
+			EXPECT_EQ(Reply->get_header_value("WWW-Authenticate").find("Bearer"), 0u) << Value;
+			EXPECT_EQ(json::parse(Reply->body)["error"]["code"], "invalid_api_key") << Value;
+		}
+	}
+	EXPECT_EQ(Http->Get("/v1/user")->status, 200);
 }
 
 TEST_F(FLocalServiceTest, RefusesBadRequestsInWords)
@@ -111,22 +134,86 @@ TEST_F(FLocalServiceTest, RefusesUnknownAddressesAndMethods)
 	EXPECT_EQ(Http->Delete("/billing")->status, 405);
 }
 
-TEST_F(FLocalServiceTest, RefusesRequestsOfWebPages)
+TEST_F(FLocalServiceTest, AnswersToItsOwnNamesAlone)
 {
-	const std::string Body = MakeQuestion("How do I set a timer?", false).dump();
-	EXPECT_EQ(Http->Post("/v1/chat/completions", {{"Host", "evil.example"}}, Body, "application/json")->status, 403);
-	EXPECT_EQ(Http->Post("/v1/chat/completions", {{"Origin", "http://evil.example"}}, Body, "text/plain")->status, 403);
-	EXPECT_EQ(Http->Post("/v1/chat/completions", {{"Origin", Service->GetAddress()}}, Body, "application/json")->status, 200);
+	const std::string Port = ':' + std::to_string(GetPort());
+	Start({.PieceInterval = {}, .bPasswords = true, .Port = GetPort(), .PublicUrl = "HTTPS://Vorel.example:443"});
+	EXPECT_EQ(Service->GetAddress(), "https://vorel.example");
+	const struct
+	{
+		std::string Host;
+		std::string Origin;
+		bool bAllowed;
+	} Rows[] = {
+		{"127.0.0.1" + Port, "", true},
+		{"LocalHost" + Port, "", true},
+		{"[::1]" + Port, "", true},
+		{"vorel.example", "", true},
+		{"vorel.example:443", "https://vorel.example", true},
+		{"127.0.0.1" + Port, "https://vorel.example", true},
+		{"127.0.0.1" + Port, "http://127.0.0.1" + Port, true},
+		{"evil.example", "", false},
+		{"127.0.0.1", "", false},
+		{"127.0.0.1:1", "", false},
+		{"127.0.0.1" + Port + "@evil.example", "", false},
+		{"vorel.example.evil.example", "", false},
+		{"vorel.example:80", "", false},
+		{"127.0.0.1" + Port, "null", false},
+		{"127.0.0.1" + Port, "http://evil.example", false},
+		{"127.0.0.1" + Port, "http://vorel.example", false},
+		{"127.0.0.1" + Port, "https://vorel.example:444", false},
+		{"vorel.example", "http://localhost" + Port, false},
+	};
+	for (const auto& [Host, Origin, bAllowed] : Rows)
+	{
+		httplib::Headers Headers = {{"Host", Host}};
+		if (!Origin.empty())
+		{
+			Headers.emplace("Origin", Origin);
+		}
+		EXPECT_EQ(Http->Get("/v1/version", Headers)->status, bAllowed ? 200 : 403) << Host << " " << Origin;
+	}
 }
 
-TEST_F(FLocalServiceTest, RefusesTooLargeBodies)
+TEST_F(FLocalServiceTest, RefusesBodiesThatAreTooLargeOrOfUnknownLength)
 {
+	const std::string Question = MakeQuestion(std::string(2 * 1024 * 1024, 'x'), false).dump();
+	Start({.PieceInterval = {}, .MaxRequestBytes = 3 * 1024 * 1024});
+	EXPECT_EQ(Post(Question)->status, 200);
+	// Whoever is still sending may not see the answer any more.
+	const httplib::Result Stranger = Connect(*Service)->Post("/v1/chat/completions", Question, "application/json");
+	EXPECT_TRUE(!Stranger || Stranger->status == 401);
 	Start({.PieceInterval = {}, .MaxRequestBytes = 1000});
 	const httplib::Result Reply = Post(MakeQuestion(std::string(2000, 'x'), false).dump());
 	ASSERT_TRUE(Reply);
 	EXPECT_EQ(Reply->status, 413);
 	EXPECT_EQ(GetErrorMessage(Reply), "The request is too large.");
+	EXPECT_EQ(Http->Post("/oauth/token", std::string(70'000, 'x'), "text/plain")->status, 413);
+	EXPECT_EQ(Http->Post("/oauth/token", {{"Content-Encoding", "gzip"}}, "x", "text/plain")->status, 411);
+	const httplib::Headers Chunked = {{"Transfer-Encoding", "chunked"}};
+	EXPECT_EQ(Http->Post("/oauth/token", Chunked, "1\r\nx\r\n0\r\n\r\n", "text/plain")->status, 411);
 	EXPECT_NE(Ask("timer").find("**Timers**"), std::string::npos);
+}
+
+TEST_F(FLocalServiceTest, DoesNotStartWhereItMayNotOrCannot)
+{
+	const int Taken = GetPort();
+	const std::string Text = std::string(VOREL_GUIDE_FOLDER) + "/Timers.md";
+	const std::string Alone = "Without passwords the service is for this machine alone, and listens on no other address.";
+	const std::pair<FLocalServiceOptions, std::string> Rows[] = {
+		{{.Port = Taken}, "The service can't listen at 127.0.0.1, port " + std::to_string(Taken) + ". Another program may use it."},
+		{{.ListenHost = "0.0.0.0"}, Alone},
+		{{.PublicUrl = "https://vorel.example"}, Alone},
+		{{.bPasswords = true, .PublicUrl = "https://vorel.example/path"},
+			"The public address has to be a scheme, a host and a port alone, like https://vorel.example.org."},
+		{{.DataFile = Text}, Text + " is damaged."},
+	};
+	for (const auto& [Options, Problem] : Rows)
+	{
+		std::string Error;
+		EXPECT_FALSE(Launch(Options, Error));
+		EXPECT_EQ(Error, Problem);
+	}
 }
 
 TEST_F(FLocalServiceTest, ServesTheNextClientAfterOneThatWentAway)

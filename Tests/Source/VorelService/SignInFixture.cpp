@@ -49,7 +49,7 @@ void FSignInTest::StartOnFile(FLocalServiceOptions Options)
 	Options.PieceInterval = {};
 	Options.DataFile = GetDataFile();
 	Start(Options);
-	Http = Connect(*Service);
+	Http->set_bearer_token_auth("");
 }
 
 void FSignInTest::StartWithPasswords()

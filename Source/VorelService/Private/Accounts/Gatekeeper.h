@@ -12,5 +12,8 @@ struct FServiceParts;
 using FAccountHandler = void (*)(
 	FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response, const FAccount& Account);
 
+// False: the response says that there is no good bearer token.
+bool Admit(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response);
+
 // Answers 401 to requests without a good bearer token.
 httplib::Server::Handler WithAccount(FServiceParts& Parts, FAccountHandler Handler);

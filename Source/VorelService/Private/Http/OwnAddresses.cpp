@@ -85,8 +85,10 @@ bool FOwnAddresses::IsOwnHost(const std::string& HostHeader) const
 		});
 }
 
-bool FOwnAddresses::IsOwnOrigin(const std::string& OriginHeader) const
+bool FOwnAddresses::IsOwnOrigin(const std::string& OriginHeader, const std::string& HostHeader) const
 {
 	std::string Origin;
-	return ReadOrigin(OriginHeader, Origin) && std::find(Origins.begin(), Origins.end(), Origin) != Origins.end();
+	std::string Host;
+	return ReadOrigin(OriginHeader, Origin) &&
+		   (Origin == GetMain() || (IsOwnHost(HostHeader) && ReadOrigin("http://" + HostHeader, Host) && Origin == Host));
 }

@@ -19,7 +19,9 @@ public:
 	const std::string& GetMain() const { return Origins.front(); }
 
 	bool IsOwnHost(const std::string& HostHeader) const;
-	bool IsOwnOrigin(const std::string& OriginHeader) const;
+
+	// Whether a request to that host comes from a page of this service. By the name "localhost" two machines may mean two services.
+	bool IsOwnOrigin(const std::string& OriginHeader, const std::string& HostHeader) const;
 
 private:
 	std::vector<std::string> Origins;

@@ -39,8 +39,9 @@ bool FRequestRules::AllowSender(const httplib::Request& Request, httplib::Respon
 	// A page in the browser may lead here by a link, but not act here in its reader's place.
 	const std::string Site = Request.get_header_value("Sec-Fetch-Site");
 	const bool bForeignPost = Request.method == "POST" && !Site.empty() && Site != "same-origin" && Site != "none";
-	const bool bOwnOrigin = !Request.has_header("Origin") || Addresses.IsOwnOrigin(Request.get_header_value("Origin"));
-	if (!Addresses.IsOwnHost(Request.get_header_value("Host")) || !bOwnOrigin || bForeignPost)
+	const std::string Host = Request.get_header_value("Host");
+	const bool bOwnOrigin = !Request.has_header("Origin") || Addresses.IsOwnOrigin(Request.get_header_value("Origin"), Host);
+	if (!Addresses.IsOwnHost(Host) || !bOwnOrigin || bForeignPost)
 	{
 		Refuse(Request, Response, 403, "This service is not called by this name, or from there.");
 		return false;
@@ -92,5 +93,5 @@ bool FRequestRules::AllowBody(const httplib::Request& Request, const FRoute& Rou
 		Refuse(Request, Response, 413, "The request is too large.");
 		return false;
 	}
-	return true;
+	return Length.value_or(0) <= FRoute::MaxStrangerBytes || !Route.Admit || Route.Admit(Request, Response);
 }
