@@ -1,116 +1,49 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "Play/PageForm.h"
-#include "PlayScene.h"
-#include "QtConversion.h"
-#include "Widgets/Layout/SScrollBox.h"
+#include "Programs/vorel/VorelProgramTest.h"
 
-namespace
+using PlaySteps = FVorelProgramTest;
+
+TEST_F(PlaySteps, SayWhatAUserCouldNotDo)
 {
-// The sentence alone, without what was on screen.
-FString GetFirstLine(const FString& Problem)
-{
-	FString First = Problem;
-	Problem.Split(TEXT("\n"), &First, nullptr);
-	return First;
+	const std::pair<const char*, const TCHAR*> Rows[] = {
+		{"click \"Nowhere\"", TEXT("\"Nowhere\": no widget shows it")},
+		{"click \"LOG IN\"", TEXT("\"LOG IN\": no widget shows it")},
+		{"click \"Log in\" 2", TEXT("\"Log in\": only 1 of them are shown")},
+		{"resize 1000x300\nclick \"Privacy Policy\"", TEXT("\"Privacy Policy\": it is out of view")},
+		{"focus \"Welcome to\"", TEXT("\"Welcome to\": no widget shows it")},
+		{"type \"a\"", TEXT("no widget has the keyboard focus")},
+		// Collapsed.
+		{"expect text \"Type your message here...\"", TEXT("no widget shows \"Type your message here...\"")},
+		{"expect no text \"come to\"", TEXT("a widget shows \"come to\"")},
+		{"wait text \"Soon\" 0.01", TEXT("no widget shows \"Soon\" after 0.01 seconds")},
+		{"click \"Log in\"\nwait idle 0.01", TEXT("something still moves after 0.01 seconds")},
+		{"browse \"Top up\"", TEXT("nothing was sent to the browser")},
+		{"click \"Privacy Policy\"\nbrowse \"Top up\"", TEXT("the page \"Privacy\" has no form with the button \"Top up\"")},
+		{"screenshot \"/proc/none/a.png\"",
+			TEXT("can't write /proc/none/a.png: Cannot open device for writing: No such file or directory")},
+		{"tree \"/proc/none/a.txt\"", TEXT("can't write /proc/none/a.txt")},
+	};
+	for (const auto& [Steps, Problem] : Rows)
+	{
+		const FProgramOutcome Outcome = Play((std::string("open \"Vorel AI\"\n") + Steps + "\n").c_str());
+		EXPECT_EQ(Outcome.ExitStatus, 1) << Steps;
+		EXPECT_TRUE(Outcome.Errors.Contains(FString(TEXT(": ")) + Problem + TEXT("\n"))) << Steps << "\n" << Outcome.Errors;
+	}
 }
 
-#define EXPECT_PLAYS(Scene, Text) EXPECT_TEXT((Scene).Play(TEXT(Text)), TEXT(""))
-#define EXPECT_FAILS(Scene, Text, Problem) EXPECT_TEXT(GetFirstLine((Scene).Play(TEXT(Text))), TEXT(Problem))
-} // namespace
-
-TEST(PlaySteps, ClicksAtTheEqualTextBeforeOneThatContainsIt)
+TEST_F(PlaySteps, AFailureTellsWhatWasOnScreen)
 {
-	FPlayScene Scene;
-	EXPECT_PLAYS(Scene, "click \"Press me\"");
-	EXPECT_EQ(Scene.NumPressed, 1);
-	EXPECT_PLAYS(Scene, "click \"Press m\"\nclick \"Press m\" 2");
-	EXPECT_EQ(Scene.NumPressed, 2);
-	EXPECT_EQ(Scene.NumPressedToo, 1);
-	EXPECT_PLAYS(Scene, "click \"Tagged\"");
-	EXPECT_EQ(Scene.NumTagged, 1);
-}
-
-TEST(PlaySteps, AClickNeedsItsMatchOnScreen)
-{
-	FPlayScene Scene;
-	EXPECT_FAILS(Scene, "sleep 0\nclick \"Nowhere\"", "a.play:2: \"Nowhere\": no widget shows it");
-	EXPECT_FAILS(Scene, "click \"title\"", "a.play:1: \"title\": no widget shows it");
-	EXPECT_FAILS(Scene, "click \"Note\"", "a.play:1: \"Note\": no widget shows it");
-	EXPECT_FAILS(Scene, "click \"Press me\" 3", "a.play:1: \"Press me\": only 2 of them are shown");
-	EXPECT_FAILS(Scene, "click \"Row 99\"", "a.play:1: \"Row 99\": it is out of view");
-	EXPECT_FAILS(Scene, "click \"Row\" 100", "a.play:1: \"Row\": it is out of view");
-}
-
-TEST(PlaySteps, AFailureTellsWhatWasOnScreen)
-{
-	FPlayScene Scene;
-	const FString Problem = Scene.Play(TEXT("expect text \"Nowhere\""));
-	EXPECT_TRUE(Problem.StartsWith(TEXT("a.play:1: no widget shows \"Nowhere\"\n  on screen was:\n    \"Title\"\n    \"Press me too\"\n")))
-		<< Problem;
-	EXPECT_FALSE(Problem.Contains(TEXT("Note"))) << Problem;
-	Scene.bTabOpen = false;
-	EXPECT_TEXT(Scene.Play(TEXT("click \"Title\"")), TEXT("a.play:1: there is nothing to act on\n  no tab is open"));
-}
-
-TEST(PlaySteps, ExpectationsLookBehindScrollingAndNotIntoCollapsedWidgets)
-{
-	FPlayScene Scene;
-	EXPECT_PLAYS(Scene, "expect text \"Row 99\"\nexpect no text \"Note\"\nexpect text \"ess me t\"\nexpect no text \"Row 100\"");
-	EXPECT_FAILS(Scene, "expect no text \"Title\"", "a.play:1: a widget shows \"Title\"");
-	EXPECT_FAILS(Scene, "wait no text \"Title\" 0", "a.play:1: a widget shows \"Title\" after 0 seconds");
-	EXPECT_FAILS(Scene, "wait text \"Soon\" 0.01", "a.play:1: no widget shows \"Soon\" after 0.01 seconds");
-}
-
-TEST(PlaySteps, TheWheelScrollsWhatItIsOver)
-{
-	FPlayScene Scene;
-	EXPECT_PLAYS(Scene, "wheel \"Row 0\" -3");
-	const float Down = Scene.Rows->GetScrollOffset();
-	EXPECT_GT(Down, 0.0f);
-	EXPECT_FAILS(Scene, "click \"Row 0\"", "a.play:1: \"Row 0\": it is out of view");
-	EXPECT_PLAYS(Scene, "wheel \"Row\" 1");
-	EXPECT_NEAR(Scene.Rows->GetScrollOffset(), Down * 2.0f / 3.0f, 0.5f);
-}
-
-TEST(PlaySteps, TypesIntoTheBoxThatAHintNames)
-{
-	FPlayScene Scene;
-	EXPECT_FAILS(Scene, "type \"a\"", "a.play:1: no widget has the keyboard focus");
-	EXPECT_PLAYS(Scene, "expect text \"Write here\"\nfocus \"Write here\"\ntype \"a \\\"b\\\"\\nc\\t\U0001F600\"\n"
-						"expect text \"a \\\"b\\\"\\nc\\t\U0001F600\"\nexpect no text \"Write here\"");
-	EXPECT_PLAYS(Scene, "press Ctrl+A\npress Backspace\nexpect text \"Write here\"");
-	EXPECT_PLAYS(Scene, "type \"a\"\npress Enter\ntype \"b\"\npress Up\npress Home\ntype \"0\"\nexpect text \"0a\\nb\"");
-	EXPECT_FAILS(Scene, "focus \"Title\"", "a.play:1: \"Title\": no widget shows it");
-}
-
-TEST(PlaySteps, IdleIsNoRequestAndNothingToPaint)
-{
-	FPlayScene Scene;
-	EXPECT_PLAYS(Scene, "wait idle");
-	Scene.bRequestUnderWay = true;
-	EXPECT_FAILS(Scene, "wait idle 0.01", "a.play:1: a request is still under way after 0.01 seconds");
-}
-
-TEST(PlaySteps, AFileThatCantBeWrittenIsAFailure)
-{
-	FPlayScene Scene;
-	EXPECT_FAILS(Scene, "screenshot \"/proc/none/a.png\"",
-		"a.play:1: can't write /proc/none/a.png: Cannot open device for writing: No such file or directory");
-	EXPECT_FAILS(Scene, "tree \"/proc/none/a.txt\"", "a.play:1: can't write /proc/none/a.txt");
-}
-
-TEST(PlaySteps, TheBrowserSaysWhatWentWrongInIt)
-{
-	FPlayScene Scene;
-	EXPECT_PLAYS(Scene, "login \"Ada\"");
-	EXPECT_FAILS(Scene, "browse \"Top up\"", "a.play:1: nothing was sent to the browser");
-	Scene.bSignedIn = false;
-	EXPECT_FAILS(Scene, "login \"Ada\"", "a.play:1: \"Log in\": no widget shows it");
+	EXPECT_TRUE(Play("click \"a\"").Errors.EndsWith(TEXT("a.play:1: there is nothing to act on\n  no tab is open\n")));
 	// The port of a service that no machine offers any more.
-	Scene.OpenedAddresses = {TEXT("http://127.0.0.1:9/login")};
-	EXPECT_FAILS(Scene, "login \"Ada\"", "a.play:1: the browser gets status 0: Connection refused");
-	EXPECT_FAILS(Scene, "browse \"Top up\"", "a.play:1: the browser gets status 0: Connection refused");
+	Write("a.play", "open \"Vorel AI\"\nlogin \"Ada\"\n");
+	const FProgramOutcome Outcome = PlayFile(QStringLiteral("a.play"), {QStringLiteral("--service=http://127.0.0.1:9")});
+	EXPECT_EQ(Outcome.ExitStatus, 1);
+	EXPECT_TRUE(
+		Outcome.Errors.Contains(TEXT("a.play:2: the login came to nothing; why stands in the log\n  on screen was:\n    \"Welcome")))
+		<< Outcome.Errors;
+	EXPECT_FALSE(Outcome.Errors.Contains(TEXT("Licenced to"))) << Outcome.Errors;
 }
 
 TEST(PageForm, IsSentAsABrowserDoes)
