@@ -53,7 +53,13 @@ TEST_F(FLoginTest, GoesThroughTheBrowserAndIsThereAgainAtTheNextStart)
 	EXPECT_TRUE(PumpUntil([this] { return !Folder.Read(TEXT("login.json")).empty(); }));
 	EXPECT_EQ(GetMode(TokenFile), 0600);
 	EXPECT_EQ(GetMode(Folder.GetPath(TEXT("tokens"))), 0700);
+	// One that others may read is none; the login is not lost by that.
 	EndService();
+	::chmod(TCHAR_TO_UTF8(*TokenFile), 0644);
+	EXPECT_TRUE(Service().IsAuthenticated());
+	EXPECT_TRUE(WaitForEnd().StartsWith(TEXT("Your sign-in can't be read")));
+	EndService();
+	::chmod(TCHAR_TO_UTF8(*TokenFile), 0600);
 	EXPECT_TRUE(Service().IsAuthenticated());
 	EXPECT_TEXT(GetToken(), TEXT("access-1"));
 	EXPECT_EQ(Server.GetExchanges().size(), 2);

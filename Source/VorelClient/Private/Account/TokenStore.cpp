@@ -32,9 +32,9 @@ FTokenStore::FTokenStore(const FLoginOptions& InOptions)
 	, TokenFile(MakeFileName(Options))
 {
 	bShared = HasTokens();
-	if (!Options.bAllowTokenFile && !Options.DataFolder.IsEmpty())
+	if (!Options.bAllowTokenFile)
 	{
-		PrivateFile::Remove(TokenFile);
+		RemoveFile();
 	}
 }
 
@@ -98,6 +98,10 @@ bool FTokenStore::SaveFile(const FTokenSet& Tokens) const
 
 void FTokenStore::HandleSaved(ETokenPlace Place, const TFunction<void()>& OnSaved)
 {
+	if (Place != ETokenPlace::File)
+	{
+		RemoveFile();
+	}
 	bShared = Place != ETokenPlace::None;
 	if (bShared)
 	{
@@ -116,10 +120,7 @@ void FTokenStore::Clear(TFunction<void()> OnCleared)
 {
 	ForgetMarker();
 	bShared = false;
-	if (!Options.DataFolder.IsEmpty())
-	{
-		PrivateFile::Remove(TokenFile);
-	}
+	RemoveFile();
 	const auto HandleCleared = [this, OnCleared](ESecretStoreEnd End, const std::string&)
 	{
 		Call.Reset();
@@ -135,6 +136,14 @@ void FTokenStore::Clear(TFunction<void()> OnCleared)
 		return;
 	}
 	Call = FSecretStoreCall::Delete(Options.KeyringAccount, Options.Limits.SecretStore, HandleCleared);
+}
+
+void FTokenStore::RemoveFile() const
+{
+	if (!Options.DataFolder.IsEmpty())
+	{
+		PrivateFile::Remove(TokenFile);
+	}
 }
 
 void FTokenStore::ForgetMarker()

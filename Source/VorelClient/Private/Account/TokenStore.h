@@ -47,6 +47,7 @@ private:
 	ETokenPlace GetPlace() const;
 	void LoadFile(const FOnLoaded& OnLoaded);
 	bool SaveFile(const FTokenSet& Tokens) const;
+	void RemoveFile() const;
 	void HandleSaved(ETokenPlace Place, const TFunction<void()>& OnSaved);
 	void Later(TFunction<void()> Action);
 
