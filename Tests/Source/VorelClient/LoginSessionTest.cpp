@@ -108,6 +108,30 @@ TEST_F(FLoginTest, ALogoutWinsOverARenewal)
 	EXPECT_TEXT(GetToken(), TEXT("none"));
 }
 
+TEST_F(FLoginTest, ALogoutAtAnyMomentOfARenewal)
+{
+	const FScriptedServer::FHandler ServeAll = [this, &ServeAll](const FExchange& Exchange)
+	{
+		Server.Then(ServeAll);
+		(Exchange.Path.startsWith("/.well-known") ? ReplyMetadata(Server) : ReplyJson("200 OK", MakeTokens("1")))(Exchange);
+	};
+	Server.Then(ServeAll);
+	for (int32 Moment = 0; Moment < 8; ++Moment)
+	{
+		OpenPage();
+		Browse(MakeRedirect());
+		EXPECT_TEXT(WaitForEnd(), TEXT("You are signed in."));
+		EXPECT_TRUE(PumpUntil([this] { return Folder.Read(TEXT("login.json")).find("file") != std::string::npos; }));
+		const TSharedPtr<void> Request = Service().GetTokens().RequestToken(TEXT("access-1"), [](const FString&) {});
+		PumpUntil([Moment, Turns = 0]() mutable { return ++Turns > Moment; });
+		Service().Logout();
+		EXPECT_TEXT(WaitForEnd(), TEXT("You are signed out."));
+		EXPECT_TRUE(PumpUntil([this] { return Folder.Read(TEXT("login.json")).find("signed out") == std::string::npos; }));
+		EndService();
+		EXPECT_FALSE(Service().IsAuthenticated()) << Moment;
+	}
+}
+
 // Two programs on one folder.
 TEST_F(FLoginTest, ProgramsDoNotLogEachOtherOut)
 {
@@ -115,7 +139,7 @@ TEST_F(FLoginTest, ProgramsDoNotLogEachOtherOut)
 	FAuthorizationMetadata Metadata(Options.Issuer, Options.Limits.Http);
 	FLoginSession Other(Options, Metadata);
 	int32 OtherEnded = 0;
-	Other.OnEnded = [&OtherEnded]
+	Other.OnChanged = [&OtherEnded]
 	{
 		++OtherEnded;
 	};

@@ -81,6 +81,16 @@ TEST_F(FLoginTest, DISABLED_WithASecretStore)
 	EXPECT_TEXT(GetToken(), TEXT("access-2"));
 	EXPECT_EQ(Folder.Read(TEXT("login.json")).find("access"), std::string::npos);
 
+	// A store that was unlocked after the limit.
+	EndService();
+	Options.Limits.SecretStore = 0.0;
+	EXPECT_TRUE(Service().IsAuthenticated());
+	EXPECT_TRUE(WaitForEnd().StartsWith(TEXT("Your sign-in can't be read")));
+	EXPECT_TRUE(PumpUntil([this] { return Service().IsAuthenticated(); }));
+	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed in."));
+	EXPECT_TEXT(GetToken(), TEXT("access-2"));
+	Options.Limits.SecretStore = 5.0;
+
 	// Signed out before the store has answered: what is read then is revoked and cleared all the same.
 	EndService();
 	Server.Then(ReplyMetadata(Server));

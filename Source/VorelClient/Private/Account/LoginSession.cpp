@@ -35,15 +35,16 @@ void FLoginSession::HandleLoaded(ETokenLoad Load, const TOptional<FTokenSet>& Lo
 		return;
 	}
 	Tokens = Loaded;
-	if (!bSignedIn)
+	if (bForgetLoaded)
 	{
 		Forget();
 	}
 	else if (Load == ETokenLoad::Found)
 	{
+		SignInLate();
 		Serve();
 	}
-	else
+	else if (bSignedIn)
 	{
 		// What can't be read now may be read by the next run.
 		if (Load == ETokenLoad::Missing)
@@ -54,10 +55,21 @@ void FLoginSession::HandleLoaded(ETokenLoad Load, const TOptional<FTokenSet>& Lo
 	}
 }
 
+void FLoginSession::SignInLate()
+{
+	if (!bSignedIn)
+	{
+		bSignedIn = true;
+		UE_LOG(LogVorelAccount, Display, TEXT("%s"), *AccountText::SignedIn().ToString());
+		OnChanged();
+	}
+}
+
 void FLoginSession::SignIn(const FTokenSet& InTokens)
 {
 	Renewal.Reset();
 	bSignedIn = true;
+	bForgetLoaded = false;
 	Tokens = InTokens;
 	TakeStoreTurn([this](const TFunction<void()>& OnDone) { Store.Save(*Tokens, OnDone); });
 	NextTurn->Ask();
@@ -73,7 +85,7 @@ void FLoginSession::SignOut()
 	Renewal.Reset();
 	Store.ForgetMarker();
 	NextTurn->Ask();
-	// Those that are still loaded are told of, and cleared, once they came.
+	bForgetLoaded = !Tokens;
 	if (Tokens)
 	{
 		Forget();
@@ -112,7 +124,7 @@ void FLoginSession::End(const FText& Failure)
 	bSignedIn = false;
 	Tokens.Reset();
 	UE_LOG(LogVorelAccount, Warning, TEXT("%s"), *Failure.ToString());
-	OnEnded();
+	OnChanged();
 	ServeAll();
 }
 

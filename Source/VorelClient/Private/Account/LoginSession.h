@@ -21,8 +21,9 @@ public:
 	FLoginSession(const FLoginOptions& InOptions, FAuthorizationMetadata& InMetadata);
 	~FLoginSession() override;
 
-	// Nobody is signed in any more though nobody signed out; why was logged for the user. Must not destroy the session.
-	TFunction<void()> OnEnded;
+	// Nobody is signed in any more though nobody signed out; or somebody is whose tokens could be read at last. Why was logged for the
+	// user. Must not destroy the session.
+	TFunction<void()> OnChanged;
 
 	bool IsSignedIn() const { return bSignedIn; }
 	void SignIn(const FTokenSet& InTokens);
@@ -39,6 +40,7 @@ private:
 	};
 
 	void HandleLoaded(ETokenLoad Load, const TOptional<FTokenSet>& Loaded);
+	void SignInLate();
 	void Serve();
 	void Renew(const std::string& RefusedToken);
 	void HandleRenewed(ERenewal End, const TOptional<FTokenSet>& Newest, const FText& Failure);
@@ -54,6 +56,8 @@ private:
 	FAuthorizationMetadata& Metadata;
 	FTokenStore Store;
 	bool bSignedIn = false;
+	// Signed out before the tokens were loaded.
+	bool bForgetLoaded = false;
 	// Unset also while they are loaded.
 	TOptional<FTokenSet> Tokens;
 	TWaitingList<FWaiter> Waiting;

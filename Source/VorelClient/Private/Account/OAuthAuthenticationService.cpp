@@ -21,8 +21,9 @@ void UOAuthAuthenticationService::Initialize(const FLoginOptions& InOptions)
 	Options = InOptions;
 	Metadata = MakeUnique<FAuthorizationMetadata>(Options.Issuer, Options.Limits.Http);
 	Session = MakeUnique<FLoginSession>(Options, *Metadata);
-	Session->OnEnded = [this]
+	Session->OnChanged = [this]
 	{
+		Login.Reset();
 		TellLater();
 	};
 }

@@ -20,7 +20,7 @@ enum class ESecretStoreEnd : uint8
 class FSecretStoreCall final
 {
 public:
-	// Secret: of a read one.
+	// Secret: of a read one. A failure for want of an answer may be followed by the answer, such as when the user has unlocked the store.
 	using FOnEnded = TFunction<void(ESecretStoreEnd End, const std::string& Secret)>;
 
 	static TUniquePtr<FSecretStoreCall> Read(const FString& Account, double Seconds, FOnEnded OnEnded);

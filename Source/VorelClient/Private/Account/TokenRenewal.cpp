@@ -19,7 +19,10 @@ FTokenRenewal::FTokenRenewal(FTokenStore& InStore, FAuthorizationMetadata& InMet
 {
 }
 
-FTokenRenewal::~FTokenRenewal() = default;
+FTokenRenewal::~FTokenRenewal()
+{
+	Store.Cancel();
+}
 
 void FTokenRenewal::HandleLock(bool bTaken)
 {
@@ -40,6 +43,7 @@ void FTokenRenewal::LookAndAsk()
 
 void FTokenRenewal::HandleStored(ETokenLoad Load, const TOptional<FTokenSet>& Stored)
 {
+	Store.Cancel();
 	if (Load == ETokenLoad::Missing)
 	{
 		Store.Clear([this] { End(ERenewal::Ended, AccountText::EndedElsewhere()); });

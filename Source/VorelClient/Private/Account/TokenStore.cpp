@@ -57,10 +57,7 @@ void FTokenStore::Load(FOnLoaded OnLoaded)
 	}
 	Call = FSecretStoreCall::Read(Options.KeyringAccount, Options.Limits.SecretStore,
 		[this, OnLoaded](ESecretStoreEnd End, const std::string& Secret)
-		{
-			Call.Reset();
-			End == ESecretStoreEnd::Failed ? OnLoaded(ETokenLoad::Unreadable, {}) : Report(OnLoaded, Secret, Options.Clock);
-		});
+		{ End == ESecretStoreEnd::Failed ? OnLoaded(ETokenLoad::Unreadable, {}) : Report(OnLoaded, Secret, Options.Clock); });
 }
 
 void FTokenStore::LoadFile(const FOnLoaded& OnLoaded)
@@ -154,6 +151,12 @@ void FTokenStore::ForgetMarker()
 	{
 		Marker.Write(ETokenPlace::Left);
 	}
+}
+
+void FTokenStore::Cancel()
+{
+	Call.Reset();
+	NextTurn.Reset();
 }
 
 void FTokenStore::Later(TFunction<void()> Action)

@@ -35,9 +35,13 @@ public:
 	// Other programs find the tokens, and may have renewed them or let them go.
 	bool IsShared() const { return bShared; }
 
+	// Unreadable may be followed by what is read later.
 	void Load(FOnLoaded OnLoaded);
 	void Save(const FTokenSet& Tokens, TFunction<void()> OnSaved);
 	void Clear(TFunction<void()> OnCleared);
+
+	// No handler is called any more. What was begun may still happen.
+	void Cancel();
 
 	// Nobody is signed in at the next start, wherever the tokens lie until they are cleared.
 	void ForgetMarker();
