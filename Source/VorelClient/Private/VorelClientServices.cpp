@@ -172,15 +172,16 @@ IAccessTokenSource& FVorelClientServices::GetServiceTokens()
 FLoginOptions FVorelClientServices::MakeLoginOptions() const
 {
 	const FVorelClientOptions& Options = FVorelClientOptions::Get();
-	const FString Folder = FDataFolder::Get();
+	const bool bOwnLogin = LocalService && Options.Issuer.IsEmpty();
+	// A login at an account that ends with this run is no other's successor.
+	const FString Folder = bOwnLogin && bAccountInMemory ? FString() : FDataFolder::Get();
 	const char* const Store = std::getenv("VOREL_SECRET_STORE");
 	FLoginOptions Login;
 	Login.Issuer = Options.Issuer.IsEmpty() ? ServiceUrl : Options.Issuer;
 	Login.ClientId = Options.Issuer.IsEmpty() ? FString(TEXT("vorel-editor")) : Options.ClientId;
 	Login.DataFolder = Folder;
 	// The embedded service has another port each time, and its accounts lie in the data folder.
-	Login.KeyringAccount =
-		LocalService && Options.Issuer.IsEmpty() ? TEXT("local ") + MakeCanonical(Folder) : Login.Issuer + TEXT(" ") + Login.ClientId;
+	Login.KeyringAccount = bOwnLogin ? TEXT("local ") + MakeCanonical(Folder) : Login.Issuer + TEXT(" ") + Login.ClientId;
 	Login.bUseKeyring = !Folder.IsEmpty() && !(Store && FString(Store) == TEXT("none"));
 	Login.bAllowTokenFile = UVorelUserSettings::Get()->GetValues().bAllowTokenFile;
 	return Login;
@@ -201,8 +202,10 @@ FString FVorelClientServices::StartLocalService()
 
 	std::string Error;
 	LocalService = FLocalService::Start(Options, Error);
-	if (!LocalService && !Options.DataFile.empty())
+	bAccountInMemory = Options.DataFile.empty();
+	if (!LocalService && !bAccountInMemory)
 	{
+		bAccountInMemory = true;
 		UE_LOG(LogVorel, Warning, TEXT("The local service keeps its account in memory, for this run: %s"), *FromUtf8(Error));
 		Options.DataFile.clear();
 		LocalService = FLocalService::Start(Options, Error);

@@ -37,6 +37,7 @@ private:
 	// Declared first, so that it is gone last.
 	std::unique_ptr<FLocalService> LocalService;
 	FOwnerKey OwnerKey;
+	bool bAccountInMemory = false;
 	// Empty where there is none.
 	FString ServiceUrl;
 

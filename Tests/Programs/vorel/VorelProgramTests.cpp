@@ -107,3 +107,18 @@ TEST_F(VorelProgram, AnAssistantThatDoesNotAnswerGivesTheQuestionBack)
 	ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
 	EXPECT_EQ(Read("a.txt").count("\"Anybody there?\""), 2);
 }
+
+TEST_F(VorelProgram, StaysSignedInPastARunThatCanNotUseItsAccounts)
+{
+	QDir(GetPath("")).mkpath(QStringLiteral("data"));
+	Write("data/settings.json", "{\"allowTokenFile\": true}");
+	const char* const Ada = "open \"Vorel AI\"\nlogin \"Ada\"\nwait text \"Licenced to: Ada\"\n";
+	EXPECT_EQ(Play(Ada).ExitStatus, 0);
+	const QString File = GetPath("data/service.sqlite");
+	EXPECT_TRUE(QFile::rename(File, GetPath("kept")) && QDir().mkdir(File));
+	const FProgramOutcome Without = Play("open \"Vorel AI\"\nexpect text \"Log in\"\nlogin \"Bob\"\nwait text \"Licenced to: Bob\"\n");
+	EXPECT_EQ(Without.ExitStatus, 0) << Without.Errors;
+	EXPECT_TRUE(Without.Errors.Contains(TEXT("The local service keeps its account in memory, for this run: "))) << Without.Errors;
+	EXPECT_TRUE(QDir().rmdir(File) && QFile::rename(GetPath("kept"), File));
+	EXPECT_EQ(Play("open \"Vorel AI\"\nexpect no text \"Log in\"\nwait text \"Licenced to: Ada\"\n").ExitStatus, 0);
+}
