@@ -18,8 +18,9 @@ async function startIssuer(house)
 	const { default: Provider } = await importPackage('oidc-provider');
 	const provider = new Provider(address, {
 		clients: [{
-			client_id: clientId, application_type: 'native', token_endpoint_auth_method: 'none', redirect_uris: ['http://127.0.0.1/callback'],
-			grant_types: ['authorization_code', 'refresh_token'], response_types: ['code'],
+			client_id: clientId, application_type: 'native', token_endpoint_auth_method: 'none',
+			redirect_uris: ['http://127.0.0.1/callback'], response_types: ['code'],
+			grant_types: ['authorization_code', 'refresh_token'],
 		}],
 		claims: { openid: ['sub'], profile: ['name'], email: ['email'] },
 		features: { revocation: { enabled: true } },
@@ -45,8 +46,8 @@ async function logIn(address, name)
 test('a program without PKCE gets no code from this issuer', { timeout: 60_000 }, async t =>
 {
 	const { address } = await startIssuer(new House(t));
-	const query = new URLSearchParams({ response_type: 'code', client_id: clientId, redirect_uri: 'http://127.0.0.1:9/callback', scope: 'openid' });
-	const back = await new Person().open(`${address}/auth?${query}`, { stopAt: next => next.port === '9' });
+	const request = { response_type: 'code', client_id: clientId, redirect_uri: 'http://127.0.0.1:9/callback', scope: 'openid' };
+	const back = await new Person().open(`${address}/auth?${new URLSearchParams(request)}`, { stopAt: next => next.port === '9' });
 	assert.equal(back.searchParams.get('error'), 'invalid_request');
 	assert.match(back.searchParams.get('error_description'), /PKCE/);
 });

@@ -8,7 +8,7 @@ test('a person logs in with Chromium, out, and in again', { timeout: 110_000 }, 
 {
 	const house = new House(t);
 	const desktop = await Desktop.open(house);
-	await desktop.openKeyring();
+	desktop.openKeyring();
 	await desktop.startVorel();
 	const page = await openBrowser(house);
 

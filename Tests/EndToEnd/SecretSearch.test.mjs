@@ -16,7 +16,7 @@ test('no secret of a whole run is found where it does not belong', { timeout: 11
 {
 	const house = new House(t);
 	const desktop = await Desktop.open(house);
-	await desktop.openKeyring();
+	desktop.openKeyring();
 	const proxy = await RecordingProxy.start(house);
 	const service = await startService(house, { [account.name]: account.password }, '--public-url', proxy.address);
 	proxy.target = service.address;
@@ -46,7 +46,8 @@ test('no secret of a whole run is found where it does not belong', { timeout: 11
 	await desktop.ask('Hello again!', /^Credits: 98$/);
 	assert.equal(proxy.requests.filter(request => request === 'POST /oauth/token').length, 2, `${proxy.requests}`);
 	fs.writeFileSync(house.path('dump.play'), play);
-	const second = await house.run('vorel', ['--offscreen', '--data-dir', house.path('data'), '--service', proxy.address, '--play', 'dump.play']);
+	const second = await house.run('vorel',
+		['--offscreen', '--data-dir', house.path('data'), '--service', proxy.address, '--play', 'dump.play']);
 	await desktop.click('Logout');
 	await logIn();
 	await topUp(proxy.address);

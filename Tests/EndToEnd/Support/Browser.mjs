@@ -7,8 +7,10 @@ export async function openBrowser(house)
 	const { default: { chromium } } = await importPackage('playwright-core');
 	const flags = `--no-sandbox --disable-gpu --disable-quic --no-first-run --disable-background-networking --disable-component-update
 		--disable-sync`.split(/\s+/);
-	const context = await chromium.launchPersistentContext(house.path('profile'),
-		{ executablePath: '/usr/bin/chromium', headless: true, args: flags, env: house.env, viewport: { width: 900, height: 700 }, timeout: 30_000 });
+	const context = await chromium.launchPersistentContext(house.path('profile'), {
+		executablePath: '/usr/bin/chromium', headless: true, args: flags, env: house.env, viewport: { width: 900, height: 700 },
+		timeout: 30_000,
+	});
 	house.undo(() => context.close());
 	const page = context.pages()[0];
 	page.setDefaultTimeout(20_000);

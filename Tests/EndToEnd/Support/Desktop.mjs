@@ -2,8 +2,8 @@ import fs from 'node:fs';
 import path from 'node:path';
 import { pictures, support, until } from './House.mjs';
 
-// A desktop session: an X server, a message bus with a screen reader's view of the windows, a default browser that hands addresses to the
-// test, and a hand on mouse and keyboard.
+// A desktop session: an X server, a message bus with a screen reader's view of the windows, a default browser that hands addresses to
+// the test, and a hand on mouse and keyboard.
 export class Desktop
 {
 	#seen = 0;
@@ -23,20 +23,22 @@ export class Desktop
 	}
 
 	// The desktop's store of secrets, opened with a password as a login does.
-	async openKeyring()
+	openKeyring()
 	{
 		delete this.house.env.VOREL_SECRET_STORE;
-		await this.house.start('gnome-keyring-daemon', ['--foreground', '--unlock', '--components=secrets'], 'the password of this desktop');
+		this.house.start('gnome-keyring-daemon', ['--foreground', '--unlock', '--components=secrets'], 'the password of this desktop');
 	}
 
 	#setDefaultBrowser()
 	{
 		const { house } = this;
+		const schemes = ['x-scheme-handler/http', 'x-scheme-handler/https'];
 		fs.writeFileSync(house.path('browser'), `#!/bin/sh\nprintf '%s\\n' "$1" >>'${house.path('addresses')}'\n`, { mode: 0o755 });
 		fs.mkdirSync(house.path('.local/share/applications'));
 		fs.writeFileSync(house.path('.local/share/applications/browser.desktop'),
-			`[Desktop Entry]\nType=Application\nName=Browser\nExec=${house.path('browser')} %u\nMimeType=x-scheme-handler/http;x-scheme-handler/https;\n`);
-		fs.writeFileSync(house.path('.config/mimeapps.list'), '[Default Applications]\nx-scheme-handler/http=browser.desktop\nx-scheme-handler/https=browser.desktop\n');
+			`[Desktop Entry]\nType=Application\nName=Browser\nExec=${house.path('browser')} %u\nMimeType=${schemes.join(';')};\n`);
+		fs.writeFileSync(house.path('.config/mimeapps.list'),
+			`[Default Applications]\n${schemes.map(scheme => `${scheme}=browser.desktop\n`).join('')}`);
 	}
 
 	// The next address that was opened in the browser.

@@ -52,7 +52,25 @@ class Program
 		// The exit status, or why there is none.
 		this.exited = new Promise(resolve => this.child.once('error', resolve).once('exit', (status, signal) => resolve(status ?? signal)));
 		this.closed = new Promise(resolve => this.child.once('close', resolve));
-		this.exited.then(status => this.status = status);
+		this.exited.then(status =>
+		{
+			this.status = status;
+			// What it leaves behind ends with it.
+			this.#signal('SIGKILL');
+		});
+	}
+
+	// To its whole group, while nobody else can have got its number.
+	#signal(name)
+	{
+		try
+		{
+			process.kill(-this.child.pid, name);
+		}
+		catch
+		{
+			// All of them have ended.
+		}
 	}
 
 	// Looks at what it has written since the match before.
@@ -75,24 +93,12 @@ class Program
 
 	async stop()
 	{
-		const signal = name =>
+		if (this.status === undefined)
 		{
-			try
-			{
-				process.kill(-this.child.pid, name);
-			}
-			catch
-			{
-				// All of them have ended.
-			}
-		};
-		if (this.child.pid)
-		{
-			signal('SIGTERM');
-			const killing = setTimeout(signal, 10_000, 'SIGKILL');
+			this.#signal('SIGTERM');
+			const killing = setTimeout(() => this.#signal('SIGKILL'), 10_000);
 			await this.exited;
 			clearTimeout(killing);
-			signal('SIGKILL');
 		}
 		this.child.stdout.destroy();
 		this.child.stderr.destroy();

@@ -3,6 +3,7 @@ import json
 import sys
 
 import pyatspi
+from gi.repository import GLib
 
 
 def read(node, found):
@@ -15,8 +16,19 @@ def read(node, found):
             read(child, found)
 
 
-found = []
-for application in pyatspi.Registry.getDesktop(0):
-    for window in application if application.name == "vorel" else []:
-        read(window, found)
-json.dump(found, sys.stdout)
+def read_windows():
+    found = []
+    for application in pyatspi.Registry.getDesktop(0):
+        for window in application if application.name == "vorel" else []:
+            read(window, found)
+    return found
+
+
+# A tree that changes while it is read is read anew.
+for last in [False] * 4 + [True]:
+    try:
+        json.dump(read_windows(), sys.stdout)
+        break
+    except (GLib.GError, LookupError, RuntimeError, NotImplementedError):
+        if last:
+            raise

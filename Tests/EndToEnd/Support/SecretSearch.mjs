@@ -36,7 +36,8 @@ export class SecretSearch
 			try
 			{
 				const [, , ownGroup] = fs.readFileSync(`/proc/${id}/stat`, 'utf8').replace(/^.*\) /s, '').split(' ');
-				ownGroup === `${group}` && ['cmdline', 'environ'].forEach(name => this.addText(`/proc/${id}/${name}`, fs.readFileSync(`/proc/${id}/${name}`)));
+				const files = ownGroup === `${group}` ? [`/proc/${id}/cmdline`, `/proc/${id}/environ`] : [];
+				files.forEach(file => this.addText(file, fs.readFileSync(file)));
 			}
 			catch
 			{
