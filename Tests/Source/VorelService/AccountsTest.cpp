@@ -164,7 +164,7 @@ TEST_F(FAccountsTest, KeepsABrowserSignedIn)
 	EXPECT_EQ(PostWithCookie("/logout", Billing)->get_header_value("Set-Cookie").find("vorel_session=; Path=/; Max-Age=0;"), 0u);
 	EXPECT_EQ(GetBilling()->body.find("<bdi>Ada</bdi>"), std::string::npos);
 
-	StartOnFile({.bPasswords = true, .Port = GetPort(), .PublicUrl = "https://vorel.example"});
+	StartOnFile({.bPasswords = true, .PublicUrl = "https://vorel.example"});
 	const std::string Secure = SignIn("Ada", "password of ada", {})->get_header_value("Set-Cookie");
 	EXPECT_EQ(Secure.find("__Host-vorel_session="), 0u);
 	EXPECT_TRUE(Secure.ends_with("; Secure"));
@@ -198,9 +198,12 @@ TEST_F(FSignInTest, TakesACreditForAnAnswerInAgentMode)
 
 	Time = Time / 86'400 * 86'400 + 86'399;
 	const std::string Later = GetTokens(UseCode(GetCode("Ada"))).first;
-	EXPECT_EQ(json::parse(Get("/v1/credits", Later)->body)["credits"], 1);
+	EXPECT_EQ(AskIn("agent", Later)->status, 200);
+	EXPECT_EQ(AskIn("agent", Later)->status, 402);
 	Time += 1;
 	EXPECT_EQ(json::parse(Get("/v1/credits", Later)->body)["credits"], 2);
+	EXPECT_EQ(AskIn("agent", Later)->status, 200);
+	EXPECT_EQ(json::parse(Get("/v1/credits", Later)->body)["credits"], 1);
 }
 
 TEST_F(FSignInTest, NeverGivesACreditTwice)

@@ -136,8 +136,8 @@ TEST_F(FLocalServiceTest, RefusesUnknownAddressesAndMethods)
 
 TEST_F(FLocalServiceTest, AnswersToItsOwnNamesAlone)
 {
-	const std::string Port = ':' + std::to_string(GetPort());
-	Start({.PieceInterval = {}, .bPasswords = true, .Port = GetPort(), .PublicUrl = "HTTPS://Vorel.example:443"});
+	Start({.PieceInterval = {}, .bPasswords = true, .PublicUrl = "HTTPS://Vorel.example:443"});
+	const std::string Port = ':' + std::to_string(Service->GetPort());
 	EXPECT_EQ(Service->GetAddress(), "https://vorel.example");
 	const struct
 	{
@@ -197,7 +197,7 @@ TEST_F(FLocalServiceTest, RefusesBodiesThatAreTooLargeOrOfUnknownLength)
 
 TEST_F(FLocalServiceTest, DoesNotStartWhereItMayNotOrCannot)
 {
-	const int Taken = GetPort();
+	const int Taken = Service->GetPort();
 	const std::string Text = std::string(VOREL_GUIDE_FOLDER) + "/Timers.md";
 	const std::string Alone = "Without passwords the service is for this machine alone, and listens on no other address.";
 	const std::pair<FLocalServiceOptions, std::string> Rows[] = {

@@ -19,14 +19,13 @@ protected:
 
 	void SetUp() override { Start({.PieceInterval = {}, .DailyCredits = 1000}); }
 
-	// With a public URL the port must be given, and the client still comes from this machine.
 	void Start(const FLocalServiceOptions& Options)
 	{
 		Service.reset();
 		std::string Error;
 		Service = Launch(Options, Error);
 		ASSERT_TRUE(Service) << Error;
-		Http = Options.PublicUrl.empty() ? Connect(*Service) : std::make_unique<httplib::Client>("127.0.0.1", Options.Port);
+		Http = Connect(*Service);
 		Http->set_bearer_token_auth(OwnerKey);
 	}
 
@@ -42,9 +41,10 @@ protected:
 		return FLocalService::Start(Options, OutError);
 	}
 
-	static std::unique_ptr<httplib::Client> Connect(const FLocalService& To) { return std::make_unique<httplib::Client>(To.GetAddress()); }
-
-	int GetPort() const { return std::stoi(Service->GetAddress().substr(Service->GetAddress().rfind(':') + 1)); }
+	static std::unique_ptr<httplib::Client> Connect(const FLocalService& To)
+	{
+		return std::make_unique<httplib::Client>("127.0.0.1", To.GetPort());
+	}
 
 	static json MakeQuestion(const std::string& Text, bool bStream)
 	{
