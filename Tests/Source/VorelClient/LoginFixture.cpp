@@ -94,8 +94,7 @@ void FLoginTest::LogIn(const QByteArray& Tokens)
 	Browse(MakeRedirect());
 	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed in."));
 	EXPECT_TRUE(Service().IsAuthenticated());
-	const bool bStored = Options.bAllowTokenFile || Options.bUseKeyring;
-	EXPECT_TRUE(PumpUntil([this, bStored] { return !bStored || !Folder.Read(TEXT("login.json")).empty(); }));
+	EXPECT_TRUE(PumpUntil([this] { return !Options.bAllowTokenFile || !Folder.Read(TEXT("login.json")).empty(); }));
 }
 
 FString FLoginTest::GetToken(const FString& RefusedToken)
