@@ -13,7 +13,7 @@ export class Desktop
 		const desktop = new Desktop();
 		desktop.house = house;
 		const display = house.start('Xvfb', '-displayfd 1 -nolisten tcp -screen 0 1280x1024x24'.split(' '));
-		house.env.DISPLAY = `:${(await display.waitFor(/^\d+\n/))[0].trim()}`;
+		house.env.DISPLAY = `:${(await display.waitFor(/^(\d+)\n/m))[1]}`;
 		const bus = house.start('dbus-daemon', ['--session', '--nofork', '--print-address', `--address=unix:path=${house.path('run/bus')}`]);
 		house.env.DBUS_SESSION_BUS_ADDRESS = (await bus.waitFor(/unix:path=\S+/))[0];
 		house.start('/usr/libexec/at-spi-bus-launcher', ['--launch-immediately', '--a11y=1']);
