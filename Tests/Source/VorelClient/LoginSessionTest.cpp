@@ -165,7 +165,10 @@ TEST_F(FLoginTest, ALogoutHoldsThoughTheProgramEndsAtOnce)
 	Service().Logout();
 	EndService();
 	EXPECT_NE(Folder.Read(TEXT("login.json")).find("signed out"), std::string::npos);
+	Server.Then(ReplyMetadata(Server));
 	EXPECT_FALSE(Service().IsAuthenticated());
+	EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().last().Path == "/revoke"; }));
+	EXPECT_TRUE(Server.GetExchanges().last().Body.contains("token=refresh-1&"));
 	EXPECT_TRUE(PumpUntil([this] { return Folder.Read(TEXT("login.json")).find("signed out") == std::string::npos; }));
 	EXPECT_TRUE(std::filesystem::is_empty(TCHAR_TO_UTF8(*Folder.GetPath(TEXT("tokens")))));
 }

@@ -13,15 +13,12 @@ FLoginSession::FLoginSession(const FLoginOptions& InOptions, FAuthorizationMetad
 	, Metadata(InMetadata)
 	, Store(Options)
 	, bSignedIn(Store.HasTokens())
+	, bForgetLoaded(Store.IsToBeCleared())
 	, NextTurn(MakeUnique<FNextTurn>([this] { Serve(); }))
 {
-	if (bSignedIn)
+	if (bSignedIn || bForgetLoaded)
 	{
 		Store.Load([this](ETokenLoad Load, const TOptional<FTokenSet>& Loaded) { HandleLoaded(Load, Loaded); });
-	}
-	else if (Store.IsToBeCleared())
-	{
-		Forget();
 	}
 }
 

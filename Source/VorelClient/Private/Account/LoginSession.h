@@ -56,7 +56,7 @@ private:
 	FAuthorizationMetadata& Metadata;
 	FTokenStore Store;
 	bool bSignedIn = false;
-	// Signed out before the tokens were loaded.
+	// Signed out before the tokens were loaded, or in the run before.
 	bool bForgetLoaded = false;
 	// Unset also while they are loaded.
 	TOptional<FTokenSet> Tokens;

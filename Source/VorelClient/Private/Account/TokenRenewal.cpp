@@ -31,13 +31,17 @@ void FTokenRenewal::HandleLock(bool bTaken)
 
 void FTokenRenewal::LookAndAsk()
 {
-	if (Store.IsShared())
+	if (!Store.IsShared())
 	{
-		Store.Load([this](ETokenLoad Load, const TOptional<FTokenSet>& Stored) { HandleStored(Load, Stored); });
+		Ask();
+	}
+	else if (!Store.HasTokens())
+	{
+		HandleStored(ETokenLoad::Missing, {});
 	}
 	else
 	{
-		Ask();
+		Store.Load([this](ETokenLoad Load, const TOptional<FTokenSet>& Stored) { HandleStored(Load, Stored); });
 	}
 }
 

@@ -42,7 +42,9 @@ FTokenStore::~FTokenStore() = default;
 
 ETokenPlace FTokenStore::GetPlace() const
 {
-	const ETokenPlace Place = Marker.Read();
+	const ETokenPlace Noted = Marker.Read();
+	const ETokenPlace Usual = Options.bUseKeyring ? ETokenPlace::SecretStore : ETokenPlace::File;
+	const ETokenPlace Place = Noted == ETokenPlace::Left ? Usual : Noted;
 	const bool bReadable =
 		(Place == ETokenPlace::SecretStore && Options.bUseKeyring) || (Place == ETokenPlace::File && Options.bAllowTokenFile);
 	return bReadable ? Place : ETokenPlace::None;

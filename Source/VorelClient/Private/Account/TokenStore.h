@@ -27,9 +27,9 @@ public:
 	~FTokenStore();
 
 	// Somebody is signed in whose tokens should be here. Asks neither the secret store nor the network.
-	bool HasTokens() const { return GetPlace() != ETokenPlace::None; }
+	bool HasTokens() const { return !IsToBeCleared() && GetPlace() != ETokenPlace::None; }
 
-	// The last run ended before what it signed out of was cleared.
+	// The last run ended before what it signed out of was cleared. It may still be there.
 	bool IsToBeCleared() const { return Marker.Read() == ETokenPlace::Left; }
 
 	// Other programs find the tokens, and may have renewed them or let them go.
