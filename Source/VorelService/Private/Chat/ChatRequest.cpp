@@ -10,6 +10,22 @@ using nlohmann::json;
 
 namespace
 {
+// Copying and reading a value takes stack for each level.
+constexpr int MaxDepth = 64;
+
+struct FTooDeep
+{
+};
+
+json Parse(const std::string& Body)
+{
+	const auto RefuseDepth = [](int Depth, json::parse_event_t, json&)
+	{
+		return Depth <= MaxDepth ? true : throw FTooDeep();
+	};
+	return json::parse(Body, RefuseDepth, false);
+}
+
 // A content is a string, or a list of parts of which those of type "text" count.
 bool ReadContent(const json& Content, std::string& OutText)
 {
@@ -65,14 +81,15 @@ bool IsTrue(const json& Object, const char* Key)
 // "metadata" is there for what only one service understands.
 bool IsChatMode(const json& Root)
 {
-	const json Metadata = Root.value("metadata", json());
-	return Metadata.is_object() && Metadata.value("vorel_mode", json()) == "chat";
+	const auto Metadata = Root.find("metadata");
+	return Metadata != Root.end() && Metadata->is_object() && Metadata->contains("vorel_mode") && (*Metadata)["vorel_mode"] == "chat";
 }
 } // namespace
 
 bool ParseChatRequest(const std::string& Body, FChatRequest& OutRequest, std::string& OutError)
+try
 {
-	const json Root = json::parse(Body, nullptr, false);
+	const json Root = Parse(Body);
 	if (!Root.is_object())
 	{
 		OutError = "The request body is not a JSON object.";
@@ -87,4 +104,9 @@ bool ParseChatRequest(const std::string& Body, FChatRequest& OutRequest, std::st
 	OutRequest.bIncludeUsage = Root.contains("stream_options") && IsTrue(Root["stream_options"], "include_usage");
 	OutRequest.bCostsCredit = !IsChatMode(Root);
 	return ReadMessages(Root["messages"], OutRequest, OutError);
+}
+catch (const FTooDeep&)
+{
+	OutError = "The request body is nested too deeply.";
+	return false;
 }
