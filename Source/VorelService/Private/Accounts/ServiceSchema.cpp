@@ -9,7 +9,8 @@ namespace
 // Times are seconds since 1970. Of codes, tokens and cookies only hashes are stored, under "hash" and "code".
 //
 // The account without a password is the local one; its name is empty until it is asked. A login is what one sign-in gave, with all tokens
-// that came of it: access tokens (kind 0) and refresh tokens (kind 1), the latter with the time of their first use.
+// that came of it: access tokens (kind 0) and refresh tokens (kind 1). A token's generation is the number of refreshes that led to it. A
+// refresh token is used when it or another of its generation or a later one first is.
 const char* const FirstVersion = R"(
 CREATE TABLE accounts(
 	id INTEGER PRIMARY KEY AUTOINCREMENT,
@@ -40,6 +41,7 @@ CREATE TABLE tokens(
 	hash TEXT NOT NULL UNIQUE,
 	login INTEGER NOT NULL REFERENCES logins(id) ON DELETE CASCADE,
 	kind INTEGER NOT NULL,
+	generation INTEGER NOT NULL,
 	expires INTEGER NOT NULL,
 	used INTEGER
 ) STRICT;

@@ -5,6 +5,8 @@
 #include "Accounts/Secrets.h"
 #include "Accounts/ServiceDatabase.h"
 
+#include <cstdlib>
+
 namespace
 {
 constexpr std::int64_t CodeSeconds = 60;
@@ -35,18 +37,19 @@ void Forget(FSqliteDatabase& Rows, std::int64_t Now)
 	Run(Rows, "DELETE FROM tokens WHERE expires <= ?", Now);
 }
 
-std::string AddToken(FSqliteDatabase& Rows, std::int64_t Login, ETokenKind Kind, std::int64_t Expiry)
+std::string AddToken(FSqliteDatabase& Rows, std::int64_t Login, std::int64_t Generation, ETokenKind Kind, std::int64_t Expiry)
 {
 	const std::string Token = MakeSecret();
-	Run(Rows, "INSERT INTO tokens(hash, login, kind, expires) VALUES (?, ?, ?, ?)", HashSecret(Token), Login, std::int64_t(Kind), Expiry);
+	Run(Rows, "INSERT INTO tokens(hash, login, generation, kind, expires) VALUES (?, ?, ?, ?, ?)", HashSecret(Token), Login, Generation,
+		std::int64_t(Kind), Expiry);
 	return Token;
 }
 
-FTokens AddTokens(FSqliteDatabase& Rows, std::int64_t Login, std::int64_t Now)
+FTokens AddTokens(FSqliteDatabase& Rows, std::int64_t Login, std::int64_t Generation, std::int64_t Now)
 {
 	Forget(Rows, Now);
-	const FTokens Tokens = {AddToken(Rows, Login, ETokenKind::Access, Now + FTokenStore::AccessSeconds),
-		AddToken(Rows, Login, ETokenKind::Refresh, Now + RefreshSeconds)};
+	const FTokens Tokens = {AddToken(Rows, Login, Generation, ETokenKind::Access, Now + FTokenStore::AccessSeconds),
+		AddToken(Rows, Login, Generation, ETokenKind::Refresh, Now + RefreshSeconds)};
 	Run(Rows, "UPDATE logins SET expires = ? WHERE id = ?", Now + RefreshSeconds, Login);
 	Run(Rows, "DELETE FROM tokens WHERE id IN (SELECT id FROM tokens WHERE login = ? ORDER BY id DESC LIMIT -1 OFFSET ?)", Login,
 		MaxTokensOfLogin);
@@ -100,7 +103,7 @@ std::optional<FTokens> FTokenStore::UseCode(
 		{
 			Run(Rows, "DELETE FROM logins WHERE code = ?", Hash);
 			const std::optional<std::int64_t> Account = TakeCode(Rows, Hash, RedirectUri, HashSecret(Verifier), Now);
-			return Account ? std::optional<FTokens>(AddTokens(Rows, AddLogin(Rows, *Account, Hash, Now), Now)) : std::nullopt;
+			return Account ? std::optional<FTokens>(AddTokens(Rows, AddLogin(Rows, *Account, Hash, Now), 0, Now)) : std::nullopt;
 		});
 }
 
@@ -109,19 +112,24 @@ std::optional<FTokens> FTokenStore::Refresh(const std::string& RefreshToken, std
 	return Database.Write(
 		[&, Hash = HashSecret(RefreshToken)](FSqliteDatabase& Rows) -> std::optional<FTokens>
 		{
-			FSqliteStatement Select(Rows, "SELECT login, ifnull(used, ?3) FROM tokens WHERE hash = ?1 AND kind = ?2 AND expires > ?3");
+			FSqliteStatement Select(
+				Rows, "SELECT login, generation, ifnull(used, ?3) FROM tokens WHERE hash = ?1 AND kind = ?2 AND expires > ?3");
 			if (!Select.Bind(Hash, std::int64_t(ETokenKind::Refresh), Now).Next())
 			{
 				return std::nullopt;
 			}
 			const std::int64_t Login = Select.GetNumber(0);
-			if (Now - Select.GetNumber(1) > GraceSeconds)
+			const std::int64_t Generation = Select.GetNumber(1);
+			// A clock that was set back makes nothing good for longer.
+			if (std::abs(Now - Select.GetNumber(2)) > GraceSeconds)
 			{
 				Run(Rows, "DELETE FROM logins WHERE id = ?", Login);
 				return std::nullopt;
 			}
-			Run(Rows, "UPDATE tokens SET used = ifnull(used, ?) WHERE hash = ?", Now, Hash);
-			return AddTokens(Rows, Login, Now);
+			// With its siblings, of which one may be a thief's: else both could go on for ever, each with fresh tokens.
+			Run(Rows, "UPDATE tokens SET used = ? WHERE login = ? AND kind = ? AND generation <= ? AND used IS NULL", Now, Login,
+				std::int64_t(ETokenKind::Refresh), Generation);
+			return AddTokens(Rows, Login, Generation + 1, Now);
 		});
 }
 
