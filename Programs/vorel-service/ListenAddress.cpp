@@ -4,8 +4,6 @@
 
 #include "Arguments/ReadNumber.h"
 
-#include <arpa/inet.h>
-
 TOptional<FListenAddress> FListenAddress::Read(const FString& Text)
 {
 	constexpr int32 LastPort = 65535;
@@ -24,11 +22,4 @@ TOptional<FListenAddress> FListenAddress::Read(const FString& Text)
 FString FListenAddress::ToString() const
 {
 	return FString::Printf(Host.Contains(TEXT(":")) ? TEXT("[%s]:%d") : TEXT("%s:%d"), *Host, Port);
-}
-
-bool FListenAddress::IsLoopback() const
-{
-	in_addr Address;
-	const bool bIPv4 = ::inet_pton(AF_INET, TCHAR_TO_UTF8(Host), &Address) == 1;
-	return Host == TEXT("localhost") || Host.Equals(TEXT("::1")) || (bIPv4 && Host.StartsWith(TEXT("127.")));
 }

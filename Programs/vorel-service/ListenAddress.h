@@ -16,6 +16,4 @@ struct FListenAddress
 
 	// As it is read.
 	FString ToString() const;
-
-	bool IsLoopback() const;
 };

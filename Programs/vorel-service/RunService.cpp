@@ -3,6 +3,7 @@
 #include "RunService.h"
 
 #include "AccountDirectory.h"
+#include "ListenHost.h"
 #include "LocalService.h"
 #include "Misc/Paths.h"
 #include "ServiceCommandLine.h"
@@ -55,7 +56,7 @@ FLocalServiceOptions MakeOptions(const FServiceCommandLine& Line, const FString&
 void WarnOfOpenNetwork(const FServiceCommandLine& Line)
 {
 	const bool bEncrypted = Line.PublicUrl.StartsWith(TEXT("https://"));
-	if (!bEncrypted && !Line.Listen.IsLoopback())
+	if (!bEncrypted && !IsLoopbackHost(TCHAR_TO_UTF8(Line.Listen.Host)))
 	{
 		std::fputs(
 			"vorel-service: warning: passwords and tokens cross the network as plain text; put a proxy with TLS in front and name it "

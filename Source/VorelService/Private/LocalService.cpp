@@ -6,6 +6,7 @@
 #include "Accounts/ServiceDatabase.h"
 #include "Guide/Guide.h"
 #include "Http/HttpServer.h"
+#include "ListenHost.h"
 #include "Routes.h"
 #include "ServiceParts.h"
 
@@ -22,8 +23,15 @@ std::string FindFault(const FLocalServiceOptions& Options, std::string& OutPubli
 	{
 		return "The public address has to be a scheme, a host and a port alone, like https://vorel.example.org.";
 	}
-	const bool bLoopback = Options.ListenHost.starts_with("127.") || Options.ListenHost == "::1" || Options.ListenHost == "localhost";
-	return Options.bPasswords || (bLoopback && Options.PublicUrl.empty())
+	if (MakeOrigin(Options.ListenHost, Options.Port).empty())
+	{
+		return "The service can't listen at " + Options.ListenHost + ", since no browser could reach it there.";
+	}
+	if (Options.PublicUrl.empty() && IsWildcardHost(Options.ListenHost))
+	{
+		return "A service that listens at all addresses has to know the public address by which it is reached.";
+	}
+	return Options.bPasswords || (IsLoopbackHost(Options.ListenHost) && Options.PublicUrl.empty())
 			   ? ""
 			   : "Without passwords the service is for this machine alone, and listens on no other address.";
 }

@@ -3,7 +3,7 @@
 #include "Http/OwnAddresses.h"
 
 #include <algorithm>
-#include <charconv>
+#include <optional>
 
 namespace
 {
@@ -12,13 +12,6 @@ std::string ToLower(std::string Text)
 	std::transform(Text.begin(), Text.end(), Text.begin(),
 		[](char Letter) { return Letter >= 'A' && Letter <= 'Z' ? static_cast<char>(Letter - 'A' + 'a') : Letter; });
 	return Text;
-}
-
-bool IsPort(const std::string& Text)
-{
-	int Port = 0;
-	const auto [End, Error] = std::from_chars(Text.data(), Text.data() + Text.size(), Port);
-	return Error == std::errc() && End == Text.data() + Text.size() && Port > 0 && Port <= 65535;
 }
 
 bool IsHost(const std::string& Text)
@@ -36,11 +29,24 @@ std::size_t FindPort(const std::string& Authority)
 	return Colon == std::string::npos || Authority.find(']', Colon) != std::string::npos ? Authority.size() : Colon;
 }
 
-std::string MakeAuthority(const std::string& Host, int Port)
+std::optional<std::string> ReadAuthority(const std::string& Authority, const std::string& DefaultPort)
 {
-	return (Host.find(':') == std::string::npos ? Host : '[' + Host + ']') + ':' + std::to_string(Port);
+	const std::size_t PortStart = FindPort(Authority);
+	const std::string Host = Authority.substr(0, PortStart);
+	const std::string Port = Authority.substr(PortStart);
+	if (!IsHost(Host) || !(Port.empty() || IsPort(Port.substr(1))))
+	{
+		return std::nullopt;
+	}
+	return Host + (Port == DefaultPort ? "" : Port);
 }
 } // namespace
+
+bool IsPort(const std::string& Text)
+{
+	return !Text.empty() && Text.size() <= 5 && Text.find_first_not_of("0123456789") == std::string::npos && Text.front() != '0' &&
+		   std::stoi(Text) <= 65535;
+}
 
 bool ReadOrigin(const std::string& Url, std::string& OutOrigin)
 {
@@ -51,14 +57,19 @@ bool ReadOrigin(const std::string& Url, std::string& OutOrigin)
 		{
 			continue;
 		}
-		const std::string Authority = Lower.substr(std::string(Scheme).size());
-		const std::size_t PortStart = FindPort(Authority);
-		const std::string Host = Authority.substr(0, PortStart);
-		const std::string Port = Authority.substr(PortStart);
-		OutOrigin = Scheme + Host + (Port == DefaultPort ? "" : Port);
-		return IsHost(Host) && (Port.empty() || IsPort(Port.substr(1)));
+		const std::optional<std::string> Authority = ReadAuthority(Lower.substr(std::string(Scheme).size()), DefaultPort);
+		OutOrigin = Authority ? Scheme + *Authority : OutOrigin;
+		return Authority.has_value();
 	}
 	return false;
+}
+
+std::string MakeOrigin(const std::string& Host, int Port)
+{
+	std::string Origin;
+	const std::string Authority = Host.find(':') == std::string::npos ? Host : '[' + Host + ']';
+	ReadOrigin("http://" + Authority + (Port == 0 ? "" : ':' + std::to_string(Port)), Origin);
+	return Origin;
 }
 
 FOwnAddresses::FOwnAddresses(const std::string& ListenHost, int Port, const std::string& PublicOrigin)
@@ -69,9 +80,7 @@ FOwnAddresses::FOwnAddresses(const std::string& ListenHost, int Port, const std:
 	}
 	for (const std::string& Host : {ListenHost, std::string("127.0.0.1"), std::string("localhost"), std::string("::1")})
 	{
-		std::string Origin;
-		ReadOrigin("http://" + MakeAuthority(Host, Port), Origin);
-		Origins.push_back(Origin);
+		Origins.push_back(MakeOrigin(Host, Port));
 	}
 }
 

@@ -5,14 +5,20 @@
 #include <string>
 #include <vector>
 
+// In the one way to write it, from 1 on.
+bool IsPort(const std::string& Text);
+
 // False for what is more or less than scheme, host and port. OutOrigin: in small letters, without a port that goes without saying.
 bool ReadOrigin(const std::string& Url, std::string& OutOrigin);
+
+// Of a host, IPv6 without brackets, as it is reached without TLS; empty where browsers could not name it. Port 0 is left out.
+std::string MakeOrigin(const std::string& Host, int Port);
 
 // The names by which the service lets itself be called. A web page must not reach it by another name that it points to this machine.
 class FOwnAddresses
 {
 public:
-	// PublicOrigin: as read, or empty.
+	// ListenHost: one that has an origin. PublicOrigin: as read, or empty.
 	FOwnAddresses(const std::string& ListenHost, int Port, const std::string& PublicOrigin);
 
 	// The public origin, else where the service listens.

@@ -3,6 +3,7 @@
 #include "OAuth/AuthorizationRequest.h"
 
 #include "Http/FormFields.h"
+#include "Http/OwnAddresses.h"
 
 #include <algorithm>
 
@@ -13,14 +14,7 @@ constexpr std::size_t MaxStateLength = 1024;
 // Length of a SHA-256 in base64url.
 constexpr std::size_t ChallengeLength = 43;
 
-constexpr const char* Digits = "0123456789";
 constexpr const char* Base64UrlLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_";
-
-bool IsPort(const std::string& Text)
-{
-	return !Text.empty() && Text.size() <= 5 && Text.find_first_not_of(Digits) == std::string::npos && Text.front() != '0' &&
-		   std::stoi(Text) <= 65535;
-}
 
 // A program can't know beforehand which port it will get; all else is fixed, to the letter.
 bool IsProgramRedirect(const std::string& Uri)
