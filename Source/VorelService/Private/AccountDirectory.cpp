@@ -20,7 +20,7 @@ bool Try(std::string& OutError, WorkType Work)
 	}
 	catch (const FStoreError& Error)
 	{
-		OutError = TCHAR_TO_UTF8(Error.Describe(TEXT("The data file")).ToString());
+		OutError = DescribeDataFile(Error);
 	}
 	return OutError.empty();
 }

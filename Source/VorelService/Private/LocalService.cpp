@@ -27,13 +27,13 @@ std::string FindFault(const FLocalServiceOptions& Options, std::string& OutPubli
 	{
 		return "The service can't listen at " + Options.ListenHost + ", since no browser could reach it there.";
 	}
-	if (Options.PublicUrl.empty() && IsWildcardHost(Options.ListenHost))
+	if (!Options.bPasswords && !(IsLoopbackHost(Options.ListenHost) && Options.PublicUrl.empty()))
 	{
-		return "A service that listens at all addresses has to know the public address by which it is reached.";
+		return "Without passwords the service is for this machine alone, and listens on no other address.";
 	}
-	return Options.bPasswords || (IsLoopbackHost(Options.ListenHost) && Options.PublicUrl.empty())
-			   ? ""
-			   : "Without passwords the service is for this machine alone, and listens on no other address.";
+	return Options.PublicUrl.empty() && IsWildcardHost(Options.ListenHost)
+			   ? "A service that listens at all addresses has to know the public address by which it is reached."
+			   : "";
 }
 
 std::string DescribeTakenPort(const FLocalServiceOptions& Options)

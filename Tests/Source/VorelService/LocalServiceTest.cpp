@@ -78,6 +78,9 @@ TEST_F(FLocalServiceTest, ListsItsModelAndServesItsPages)
 		EXPECT_EQ(Page->get_header_value("X-Frame-Options"), "DENY") << Path;
 		EXPECT_EQ(Page->get_header_value("Referrer-Policy"), "same-origin") << Path;
 		EXPECT_NE(Page->get_header_value("Content-Security-Policy").find("frame-ancestors 'none'"), std::string::npos) << Path;
+		const httplib::Result Parts = Http->Get(Path, {{"Range", "bytes=0-3,0-3"}});
+		EXPECT_EQ(Parts->status, 200) << Path;
+		EXPECT_EQ(Parts->body.size(), Page->body.size()) << Path;
 	}
 	EXPECT_EQ(Http->Get("/login")->get_header_value("Location"), "/billing");
 }
@@ -102,7 +105,10 @@ TEST_F(FLocalServiceTest, AsksForATokenWhereItAnswers)
 
 TEST_F(FLocalServiceTest, RefusesBadRequestsInWords)
 {
-	const std::pair<const char*, const char*> Rows[] = {
+	const std::string Deep(100'000, '[');
+	const std::pair<std::string, const char*> Rows[] = {
+		{"{\"metadata\": " + Deep + std::string(Deep.size(), ']') + "}", "The request body is nested too deeply."},
+		{Deep, "The request body is nested too deeply."},
 		{"", "The request body is not a JSON object."},
 		{"{\"messages\": [", "The request body is not a JSON object."},
 		{"[]", "The request body is not a JSON object."},
@@ -116,9 +122,9 @@ TEST_F(FLocalServiceTest, RefusesBadRequestsInWords)
 	for (const auto& [Body, Message] : Rows)
 	{
 		const httplib::Result Reply = Post(Body);
-		ASSERT_TRUE(Reply) << Body;
-		EXPECT_EQ(Reply->status, 400) << Body;
-		EXPECT_EQ(GetErrorMessage(Reply), Message) << Body;
+		ASSERT_TRUE(Reply) << Message;
+		EXPECT_EQ(Reply->status, 400) << Message;
+		EXPECT_EQ(GetErrorMessage(Reply), Message) << Body.substr(0, 100);
 	}
 	EXPECT_EQ(Ask("How do I set a timer?").find("This is Vorel's"), 0u);
 }
@@ -200,7 +206,15 @@ TEST_F(FLocalServiceTest, DoesNotStartWhereItMayNotOrCannot)
 	const int Taken = Service->GetPort();
 	const std::string Text = std::string(VOREL_GUIDE_FOLDER) + "/Timers.md";
 	const std::string Alone = "Without passwords the service is for this machine alone, and listens on no other address.";
+	const std::string Nowhere = ", since no browser could reach it there.";
+	const std::string Everywhere = "A service that listens at all addresses has to know the public address by which it is reached.";
 	const std::pair<FLocalServiceOptions, std::string> Rows[] = {
+		{{.bPasswords = true, .ListenHost = "0.0.0.0"}, Everywhere},
+		{{.bPasswords = true, .ListenHost = "0"}, Everywhere},
+		{{.bPasswords = true, .ListenHost = "::"}, Everywhere},
+		{{.bPasswords = true, .ListenHost = "foo_bar"}, "The service can't listen at foo_bar" + Nowhere},
+		{{.bPasswords = true, .ListenHost = "fe80::1%lo"}, "The service can't listen at fe80::1%lo" + Nowhere},
+		{{.ListenHost = "127.example.org"}, Alone},
 		{{.Port = Taken}, "The service can't listen at 127.0.0.1, port " + std::to_string(Taken) + ". Another program may use it."},
 		{{.ListenHost = "0.0.0.0"}, Alone},
 		{{.PublicUrl = "https://vorel.example"}, Alone},
@@ -214,6 +228,10 @@ TEST_F(FLocalServiceTest, DoesNotStartWhereItMayNotOrCannot)
 		EXPECT_FALSE(Launch(Options, Error));
 		EXPECT_EQ(Error, Problem);
 	}
+	Start({.ListenHost = "127.1"});
+	EXPECT_EQ(Http->Get("/tos")->status, 200);
+	Start({.bPasswords = true, .ListenHost = "0.0.0.0", .PublicUrl = "https://vorel.example"});
+	EXPECT_EQ(Http->Get("/tos")->status, 200);
 }
 
 TEST_F(FLocalServiceTest, ServesTheNextClientAfterOneThatWentAway)

@@ -2,6 +2,9 @@
 
 #include "SignInFixture.h"
 
+#include "Store/SqliteDatabase.h"
+#include "Support/LogCapture.h"
+
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -205,6 +208,55 @@ TEST_F(FSignInTest, ReplacesRefreshTokensAndNoticesAThief)
 	const std::string Old = GetTokens(UseCode(GetCode("Ada"))).second;
 	Time += 90 * 86'400;
 	EXPECT_EQ(GetError(Refresh(Old)), "invalid_grant");
+}
+
+TEST_F(FSignInTest, NoticesAThiefWhoWasThereInTime)
+{
+	const std::string First = GetTokens(UseCode(GetCode("Ada"))).second;
+	std::string Owners = GetTokens(Refresh(First)).second;
+	std::string Thiefs = GetTokens(Refresh(First)).second;
+	for (int Hour = 0; Hour < 2; ++Hour)
+	{
+		Time += 3600;
+		Owners = GetTokens(Refresh(Owners)).second;
+		Time += 60;
+		Thiefs = GetTokens(Refresh(Thiefs)).second;
+	}
+	Time += 3600;
+	const std::string Access = GetTokens(Refresh(Owners)).first;
+	Time += 61;
+	EXPECT_EQ(GetError(Refresh(Thiefs)), "invalid_grant");
+	EXPECT_EQ(GetUserStatus(Access), 401);
+
+	const std::string Used = GetTokens(UseCode(GetCode("Ada"))).second;
+	GetTokens(Refresh(Used));
+	Time -= 61;
+	EXPECT_EQ(GetError(Refresh(Used)), "invalid_grant") << "by a clock that was set back";
+}
+
+TEST_F(FSignInTest, SaysWhatIsWrongWithItsFile)
+{
+	const auto [Access, RefreshToken] = GetTokens(UseCode(GetCode("Ada")));
+	const char* const Sentence = "Another program has locked the service's data file.";
+	{
+		FLogCapture Log;
+		FSqliteDatabase Other(FString(GetDataFile().c_str()), false);
+		const FSqliteTransaction Lock(Other);
+		const httplib::Result Renewal = Refresh(RefreshToken);
+		EXPECT_EQ(Renewal->status, 503);
+		EXPECT_EQ(Renewal->get_header_value("Retry-After"), "1");
+		EXPECT_EQ(json::parse(Renewal->body), json({{"error", "temporarily_unavailable"}, {"error_description", Sentence}}));
+		EXPECT_TRUE(
+			Log.Has(TEXT("LogVorelService"), ELogVerbosity::Error, TEXT("The service's data file can't be used: database is locked")))
+			<< TCHAR_TO_UTF8(Log.Dump());
+		EXPECT_EQ(AskIn("chat", Access)->status, 200);
+	}
+	EXPECT_EQ(Refresh(RefreshToken)->status, 200);
+
+	FSqliteDatabase(FString(GetDataFile().c_str()), false).Execute("DROP TABLE tokens");
+	const httplib::Result Damaged = Get("/v1/user", Access);
+	EXPECT_EQ(Damaged->status, 503);
+	EXPECT_EQ(json::parse(Damaged->body)["error"]["message"], "The service failed to answer.");
 }
 
 TEST_F(FSignInTest, RevokesAllTokensOfALoginByAnyOfThem)

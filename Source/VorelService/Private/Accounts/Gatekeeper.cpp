@@ -3,7 +3,6 @@
 #include "Accounts/Gatekeeper.h"
 
 #include "Accounts/Secrets.h"
-#include "Chat/ChatReply.h"
 #include "Http/Replies.h"
 #include "ServiceParts.h"
 
@@ -36,8 +35,7 @@ std::optional<FAccount> FindAccount(FServiceParts& Parts, const httplib::Request
 	if (!Account)
 	{
 		Response.set_header("WWW-Authenticate", Token.empty() ? "Bearer" : "Bearer error=\"invalid_token\"");
-		SendJson(Response, 401,
-			MakeErrorBody("The access token is missing, wrong or no longer good.", "invalid_request_error", "invalid_api_key"));
+		SendApiError(Response, 401, "The access token is missing, wrong or no longer good.", "invalid_request_error", "invalid_api_key");
 	}
 	return Account;
 }

@@ -5,6 +5,7 @@
 #include "Accounts/ServiceSchema.h"
 #include "Store/StoreSchema.h"
 
+#include <cctype>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -32,6 +33,13 @@ FServiceDatabase::FServiceDatabase(const std::string& File)
 	: Database(ToFile(MakePrivate(File)), true)
 {
 	PrepareStore(Database, ToFile(File), GetServiceSchema());
+}
+
+std::string DescribeDataFile(const FStoreError& Error)
+{
+	std::string Sentence = TCHAR_TO_UTF8(Error.Describe(TEXT("the service's data file")).ToString());
+	Sentence.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(Sentence.front())));
+	return Sentence;
 }
 
 std::unique_ptr<FServiceDatabase> OpenServiceDatabase(const std::string& File, std::string& OutError)

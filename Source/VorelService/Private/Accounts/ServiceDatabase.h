@@ -37,5 +37,8 @@ private:
 	FSqliteDatabase Database;
 };
 
+// A sentence for people, which does not say where the file is.
+std::string DescribeDataFile(const FStoreError& Error);
+
 // Null with a sentence for people in OutError.
 std::unique_ptr<FServiceDatabase> OpenServiceDatabase(const std::string& File, std::string& OutError);

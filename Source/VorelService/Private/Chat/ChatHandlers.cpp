@@ -51,7 +51,7 @@ void ServeCompletion(FServiceParts& Parts, const httplib::Request& Request, http
 	if (Chat.bCostsCredit && !Parts.Credits.Take(Account.Id, Parts.Now()))
 	{
 		const std::string Problem = "No credits are left for today. Top up at " + Parts.Address + "/billing.";
-		SendJson(Response, 402, MakeErrorBody(Problem, "insufficient_quota", "insufficient_credits"));
+		SendApiError(Response, 402, Problem, "insufficient_quota", "insufficient_credits");
 		return;
 	}
 	Chat.bStream ? Stream(Parts, Response, Reply.MakeEvents()) : SendJson(Response, 200, Reply.MakeWhole());

@@ -90,12 +90,6 @@ std::string FChatReply::MakeUsageEvent() const
 	return ToEvent(Chunk);
 }
 
-std::string MakeErrorBody(const std::string& Message, const std::string& Type, const std::string& Code)
-{
-	return json({{"error", {{"message", Message}, {"type", Type}, {"param", nullptr}, {"code", Code.empty() ? json() : json(Code)}}}})
-		.dump();
-}
-
 std::string MakeModelList()
 {
 	const json Model = {{"id", GuideModelName}, {"object", "model"}, {"created", 0}, {"owned_by", "vorel"}};

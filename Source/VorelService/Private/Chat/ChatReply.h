@@ -32,6 +32,4 @@ private:
 	bool bIncludeUsage;
 };
 
-// Code: for programs; empty where the type says enough.
-std::string MakeErrorBody(const std::string& Message, const std::string& Type, const std::string& Code = "");
 std::string MakeModelList();

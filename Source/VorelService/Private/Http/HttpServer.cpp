@@ -2,9 +2,12 @@
 
 #include "Http/HttpServer.h"
 
+#include "Accounts/ServiceDatabase.h"
 #include "Http/Replies.h"
 
 #include <sys/socket.h>
+
+DEFINE_LOG_CATEGORY_STATIC(LogVorelService, Log, All);
 
 namespace
 {
@@ -22,10 +25,31 @@ void DescribeRefusal(const httplib::Request& Request, httplib::Response& Respons
 						: "The request can't be read.");
 }
 
-// What goes wrong inside may name what nobody else is to know.
-void HideFailure(const httplib::Request& Request, httplib::Response& Response, std::exception_ptr)
+const char* const NoAnswer = "The service failed to answer.";
+
+void DescribeStoreFailure(const httplib::Request& Request, httplib::Response& Response, const FStoreError& Error)
 {
-	Refuse(Request, Response, 500, "The service failed to answer.");
+	UE_LOG(LogVorelService, Error, TEXT("The service's data file can't be used: %s"), *Error.Detail);
+	if (Error.Problem == EStoreProblem::Locked)
+	{
+		Response.set_header("Retry-After", "1");
+	}
+	// The words of the database may name what nobody else is to know.
+	Refuse(Request, Response, 503, Error.Problem == EStoreProblem::Other ? NoAnswer : DescribeDataFile(Error));
+}
+
+void DescribeFailure(const httplib::Request& Request, httplib::Response& Response, std::exception_ptr Failure)
+try
+{
+	std::rethrow_exception(Failure);
+}
+catch (const FStoreError& Error)
+{
+	DescribeStoreFailure(Request, Response, Error);
+}
+catch (...)
+{
+	Refuse(Request, Response, 500, NoAnswer);
 }
 
 // The library's own choice lets two programs share a port, which would take turns in answering.
@@ -59,7 +83,7 @@ FHttpServer::FHttpServer(std::size_t MaxConnections, std::size_t MaxBodyBytes)
 	Http.set_socket_options(ReuseClosedPorts);
 	Http.set_default_headers(MakeDefaultHeaders());
 	Http.set_error_handler(DescribeRefusal);
-	Http.set_exception_handler(HideFailure);
+	Http.set_exception_handler(DescribeFailure);
 }
 
 FHttpServer::~FHttpServer()
@@ -79,6 +103,8 @@ void FHttpServer::Run(std::vector<FRoute> Routes, FOwnAddresses Addresses)
 		[this](const httplib::Request& Request, httplib::Response& Response)
 		{
 			using EResult = httplib::Server::HandlerResponse;
+			// Nothing here is worth fetching in parts, and the library would repeat a part as often as it is asked for.
+			const_cast<httplib::Request&>(Request).ranges.clear();
 			return Rules->Allow(Request, Response) ? EResult::Unhandled : EResult::Handled;
 		});
 	for (const FRoute& Route : Rules->GetRoutes())

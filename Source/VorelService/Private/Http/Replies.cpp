@@ -2,10 +2,12 @@
 
 #include "Http/Replies.h"
 
-#include "Chat/ChatReply.h"
 #include "Pages/Pages.h"
 
 #include <httplib.h>
+#include <nlohmann/json.hpp>
+
+using nlohmann::json;
 
 void SendJson(httplib::Response& Response, int Status, const std::string& Body)
 {
@@ -26,12 +28,33 @@ void SendElsewhere(httplib::Response& Response, const std::string& Location)
 	Response.set_header("Location", Location);
 }
 
+void SendApiError(httplib::Response& Response, int Status, const std::string& Message, const std::string& Type, const std::string& Code)
+{
+	const json Error = {{"message", Message}, {"type", Type}, {"param", nullptr}, {"code", Code.empty() ? json() : json(Code)}};
+	SendJson(Response, Status, json({{"error", Error}}).dump());
+}
+
+void SendOAuthError(httplib::Response& Response, int Status, const std::string& Error, const std::string& Description)
+{
+	SendJson(Response, Status, json({{"error", Error}, {"error_description", Description}}).dump());
+}
+
 void Refuse(const httplib::Request& Request, httplib::Response& Response, int Status, const std::string& Sentence)
 {
 	if (Request.get_header_value("Accept").find("text/html") != std::string::npos)
 	{
 		SendPage(Response, Status, MakeErrorPage("That did not work", Sentence));
-		return;
 	}
-	SendJson(Response, Status, MakeErrorBody(Sentence, Status < 500 ? "invalid_request_error" : "server_error"));
+	else if (Request.path.starts_with("/oauth/"))
+	{
+		SendOAuthError(Response, Status,
+			Status < 500    ? "invalid_request"
+			: Status == 503 ? "temporarily_unavailable"
+							: "server_error",
+			Sentence);
+	}
+	else
+	{
+		SendApiError(Response, Status, Sentence, Status < 500 ? "invalid_request_error" : "server_error", "");
+	}
 }

@@ -16,5 +16,11 @@ void SendPage(httplib::Response& Response, int Status, const std::string& Html);
 // With status 303, so that the browser fetches the target and does not send the form again.
 void SendElsewhere(httplib::Response& Response, const std::string& Location);
 
-// A page for a browser that asked for one, else an error of the chat protocol.
+// An error of the chat protocol. Code: for programs; empty where the type says enough.
+void SendApiError(httplib::Response& Response, int Status, const std::string& Message, const std::string& Type, const std::string& Code);
+
+// By RFC 6749.
+void SendOAuthError(httplib::Response& Response, int Status, const std::string& Error, const std::string& Description);
+
+// A page for a browser that asked for one, else an error of the protocol that is spoken at the address.
 void Refuse(const httplib::Request& Request, httplib::Response& Response, int Status, const std::string& Sentence);

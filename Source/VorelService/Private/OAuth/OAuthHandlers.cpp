@@ -13,11 +13,6 @@ using nlohmann::json;
 
 namespace
 {
-void SendError(httplib::Response& Response, const char* Error, const char* Description)
-{
-	SendJson(Response, 400, json({{"error", Error}, {"error_description", Description}}).dump());
-}
-
 // What is wrong with the form before any of its secrets is looked at.
 bool CheckForm(const httplib::Request& Request, httplib::Response& Response, std::initializer_list<const char*> Required)
 {
@@ -28,12 +23,12 @@ bool CheckForm(const httplib::Request& Request, httplib::Response& Response, std
 	}
 	if (!bComplete)
 	{
-		SendError(Response, "invalid_request", "A field of the form is missing, or is there twice.");
+		SendOAuthError(Response, 400, "invalid_request", "A field of the form is missing, or is there twice.");
 		return false;
 	}
 	if (GetField(Request.params, "client_id") != ProgramClientId)
 	{
-		SendError(Response, "invalid_client", "This service does not know the client.");
+		SendOAuthError(Response, 400, "invalid_client", "This service does not know the client.");
 		return false;
 	}
 	return true;
@@ -43,7 +38,7 @@ void SendTokens(httplib::Response& Response, const std::optional<FTokens>& Token
 {
 	if (!Tokens)
 	{
-		SendError(Response, "invalid_grant", "What was sent is wrong, used, revoked or no longer good.");
+		SendOAuthError(Response, 400, "invalid_grant", "What was sent is wrong, used, revoked or no longer good.");
 		return;
 	}
 	SendJson(Response, 200,
@@ -86,7 +81,7 @@ void ServeToken(FServiceParts& Parts, const httplib::Request& Request, httplib::
 	}
 	else if (CheckForm(Request, Response, {"grant_type", "client_id"}))
 	{
-		SendError(Response, "unsupported_grant_type", "This service gives tokens for codes and refresh tokens.");
+		SendOAuthError(Response, 400, "unsupported_grant_type", "This service gives tokens for codes and refresh tokens.");
 	}
 }
 

@@ -64,7 +64,7 @@ const char* const OpenApiSchemas = R"json({
 		"type": "object",
 		"required": ["error"],
 		"properties": {
-			"error": {"enum": ["invalid_request", "invalid_client", "invalid_grant", "unauthorized_client", "unsupported_grant_type", "invalid_scope"]},
+			"error": {"enum": ["invalid_request", "invalid_client", "invalid_grant", "unauthorized_client", "unsupported_grant_type", "invalid_scope", "temporarily_unavailable", "server_error"]},
 			"error_description": {"type": "string"}
 		}
 	},
@@ -208,11 +208,11 @@ const char* const OpenApiResponses = R"json({
 		"headers": {"WWW-Authenticate": {"schema": {"type": "string"}, "example": "Bearer error=\"invalid_token\""}},
 		"content": {"application/json": {"schema": {"$ref": "#/components/schemas/Error"}}}
 	},
-	"Forbidden": {"description": "The host or the origin is not the service's own. For a browser, a page.", "content": {"application/json": {"schema": {"$ref": "#/components/schemas/Error"}}, "text/html": {"schema": {"type": "string"}}}},
+	"Forbidden": {"description": "The host or the origin is not the service's own. For a browser, a page.", "content": {"application/json": {"schema": {"oneOf": [{"$ref": "#/components/schemas/Error"}, {"$ref": "#/components/schemas/OAuthError"}]}}, "text/html": {"schema": {"type": "string"}}}},
 	"TooManyTries": {
 		"description": "The page again: too many tries.",
 		"headers": {"Retry-After": {"description": "Seconds.", "schema": {"type": "integer"}}},
 		"content": {"text/html": {"schema": {"type": "string"}}}
 	},
-	"Failed": {"description": "Anything else that is wrong. For a browser, a page.", "content": {"application/json": {"schema": {"$ref": "#/components/schemas/Error"}}, "text/html": {"schema": {"type": "string"}}}}
+	"Failed": {"description": "Anything else that is wrong. For a browser, a page.", "content": {"application/json": {"schema": {"oneOf": [{"$ref": "#/components/schemas/Error"}, {"$ref": "#/components/schemas/OAuthError"}]}}, "text/html": {"schema": {"type": "string"}}}}
 })json";
