@@ -2,6 +2,8 @@ import fs from 'node:fs';
 import path from 'node:path';
 import { pictures, support, until } from './House.mjs';
 
+const window = ['search', '--sync', '--onlyvisible', '--name', '^Vorel.AI$'];
+
 // A desktop session: an X server, a message bus with a screen reader's view of the windows, a default browser that hands addresses to
 // the test, and a hand on mouse and keyboard.
 export class Desktop
@@ -54,9 +56,21 @@ export class Desktop
 	async startVorel(...options)
 	{
 		this.vorel = this.house.start('vorel', ['--data-dir', this.house.path('data'), ...options]);
-		await this.hand('search', '--sync', '--onlyvisible', '--name', '^Vorel.AI$', 'windowmove', '0', '0', 'windowfocus', '--sync');
+		await this.hand(...window, 'windowmove', '0', '0', 'windowfocus', '--sync');
 		await this.hand('key', 'alt+t', 'Down', 'Return');
 		return this.vorel;
+	}
+
+	// To the desktop beside it.
+	async leaveWindow()
+	{
+		const place = await this.hand('mousemove', '1270', '1010', 'getmouselocation', '--shell');
+		await this.hand('windowfocus', '--sync', place.match(/WINDOW=(\d+)/)[1]);
+	}
+
+	returnToWindow()
+	{
+		return this.hand(...window, 'windowfocus', '--sync');
 	}
 
 	// Commands of xdotool.
