@@ -2,7 +2,6 @@
 
 #include "Misc/Paths.h"
 #include "Styling/AppStyle.h"
-#include "Styling/CoreStyle.h"
 #include "Styling/SlateTypes.h"
 #include "Styling/WidgetStyle.h"
 #include "Support/Printers.h"
@@ -80,18 +79,13 @@ TEST(ThemeContrast, TextIsReadableWhereItStands)
 
 TEST(Theme, EveryPictureIsThere)
 {
-	TArray<FString> Files = {
-		FPaths::EngineContentDir() / TEXT("Old/HyperlinkUnderline.png"), FPaths::EngineContentDir() / TEXT("TextBlockHighlightShape.png")};
-	for (const TCHAR* Name :
-		{TEXT("Icons.ArrowRight"), TEXT("Icons.FilledCircle"), TEXT("Icons.Plus"), TEXT("Icons.Delete"), TEXT("Icons.X"),
-			TEXT("Icons.ChevronDown"), TEXT("GenericCommands.Copy"), TEXT("Symbols.Check"), TEXT("ClassIcon.AIController")})
+	TArray<FString> Files = {FPaths::EngineContentDir() / TEXT("Old/HyperlinkUnderline.png"),
+		FPaths::EngineContentDir() / TEXT("TextBlockHighlightShape.png"), FPaths::ProjectDir() / TEXT("Resources/White.png"),
+		FPaths::ProjectDir() / TEXT("Resources/Icon128.png")};
+	for (const char* Name : {"Icons.ArrowRight", "Icons.FilledCircle", "Icons.Plus", "Icons.Delete", "Icons.X", "Icons.ChevronDown",
+			 "GenericCommands.Copy", "Symbols.Check", "ClassIcon.AIController"})
 	{
 		Files.Add(FAppStyle::Get().GetBrush(Name)->GetResourceName().ToString());
-	}
-	for (const TCHAR* Name :
-		{TEXT("Logo500x105.png"), TEXT("Success.png"), TEXT("Error.png"), TEXT("Info.png"), TEXT("White.png"), TEXT("Icon128.png")})
-	{
-		Files.Add(FPaths::ProjectDir() / TEXT("Resources") / Name);
 	}
 	for (const FString& File : Files)
 	{

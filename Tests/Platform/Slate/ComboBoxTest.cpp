@@ -1,6 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Containers/Ticker.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Support/UserDriver.h"
 #include "Widgets/Input/SButton.h"
@@ -284,13 +283,4 @@ TEST_F(ComboBox, ItsOptionsMayChangeWhileItIsOpen)
 	User.Click(TEXT("(none)"));
 	EXPECT_EQ(TakeChanges(), TEXT("null by click;"));
 	EXPECT_FALSE(Box->IsOpen());
-}
-
-TEST_F(ComboBox, OpensAboveWhereThereIsMoreRoom)
-{
-	Column->AddSlot(0).FillHeight(1.0f);
-	User.Frame();
-	User.Click(TEXT("Pick"));
-	const double BoxTop = Box->GetCachedGeometry().GetAbsolutePosition().Y;
-	EXPECT_LT(User.Find(TEXT("c 2"))->GetCachedGeometry().GetAbsolutePosition().Y, BoxTop);
 }

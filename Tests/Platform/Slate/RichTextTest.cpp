@@ -255,30 +255,6 @@ TEST_F(FRichText, TheMouseReachesTheWidgetsAmongTheText)
 	EXPECT_TEXT(GetClipboard(), TEXT("ab\u200Bcd\u200B\n\u200B"));
 }
 
-TEST_F(FRichText, WhatIsCutOffAtTheEdgeOfTheViewIsNotHit)
-{
-	int32 Clicks = 0;
-	const auto MakeButton = [&Clicks](const FString&)
-	{
-		return SNew(SButton).OnClicked_Lambda(
-			[&Clicks]
-			{
-				++Clicks;
-				return FReply::Handled();
-			})[MakeBox(620.0f, 20.0f)];
-	};
-	const TSharedRef<FRichTextLayoutMarshaller> Marshaller =
-		FRichTextLayoutMarshaller::Create({MakeShared<FTestDecorator>(MakeButton)}, &StyleSet);
-	SAssignNew(Text, SMultiLineEditableText).Text(INVTEXT("<made></>")).Marshaller(Marshaller).AutoWrapText(true);
-	Show(SNew(SBox).HAlign(HAlign_Left)[SNew(SBox).WidthOverride(300.0f)[Text.ToSharedRef()]]);
-	for (const float X : {290.0f, 310.0f})
-	{
-		ClickAt(FVector2D(X, 10.0));
-	}
-	EXPECT_EQ(Clicks, 1);
-	EXPECT_GE(Text->GetChildren()->GetChildAt(0)->GetCachedGeometry().GetLocalSize().X, 620.0);
-}
-
 TEST_F(FRichText, WidgetsMadeAnewOutOfViewWaitUntilTheyAreSeen)
 {
 	constexpr int32 Count = 100;

@@ -1,11 +1,7 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Brushes/SlateColorBrush.h"
-#include "Brushes/SlateNoResource.h"
-#include "Support/DrawnElements.h"
 #include "Support/Probe.h"
 #include "Support/UserDriver.h"
-#include "Widgets/Images/SImage.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SOverlay.h"
 #include "Widgets/SWindow.h"
@@ -29,14 +25,6 @@ protected:
 	{
 		User.Frame();
 		return User.GetWindow()->TakeDamage();
-	}
-
-	TArray<FSlateRect> Drawn() const
-	{
-		TArray<FSlateRect> Rects;
-		ForEachDrawn(*User.GetWindow()->GetDisplayList(),
-			[&Rects](const FSlateDrawElement& Element, const FSlateRect& Clip) { Rects.Add(Element.GetBounds().IntersectionWith(Clip)); });
-		return Rects;
 	}
 
 	TSharedRef<SProbe> First = SNew(SProbe);
@@ -82,30 +70,4 @@ TEST_F(DisplayList, WhatComesAndGoesIsDamagedAlone)
 	User.Frame();
 	Corner->SetVisibility(EVisibility::Hidden);
 	EXPECT_EQ(TakeDamage(), TArray<FSlateRect>({FSlateRect(0.0f, 40.0f, 40.0f, 60.0f), CornerRect})) << "of two frames";
-}
-
-TEST_F(DisplayList, AClippingWidgetCutsWhatIsDrawnAndWhatIsDamaged)
-{
-	Column->SetClipping(EWidgetClipping::ClipToBounds);
-	Column->SetRenderTransform(FSlateRenderTransform(FVector2D(-10.0, 0.0)));
-	User.Frame();
-	User.GetWindow()->TakeDamage();
-	First->SetSize(FVector2D(400.0, 10.0));
-	EXPECT_EQ(TakeDamage()[1], FSlateRect(-20.0f, 0.0f, 180.0f, 20.0f));
-	User.Resize(FVector2D(50.0, 50.0));
-	EXPECT_EQ(Drawn()[0], FSlateRect(0.0f, 0.0f, 80.0f, 20.0f));
-}
-
-TEST_F(DisplayList, AnImageTakesTheRoomOfItsBrushAndDrawsNothingForNothing)
-{
-	const FSlateColorBrush White(FLinearColor::White);
-	const FSlateNoResource Nothing(FVector2D(12.0, 12.0));
-	const TSharedRef<SImage> Image = SNew(SImage).Image(&White);
-	Column->AddSlot().AutoHeight()[Image];
-	User.Frame();
-	EXPECT_EQ(Drawn().Num(), 4);
-	Image->SetImage(&Nothing);
-	User.Frame();
-	EXPECT_EQ(Image->GetDesiredSize(), FVector2D(12.0, 12.0));
-	EXPECT_EQ(Drawn().Num(), 3);
 }

@@ -4,7 +4,6 @@
 #include "Support/Probe.h"
 #include "Support/UserDriver.h"
 #include "Widgets/SBoxPanel.h"
-#include "Widgets/SCompoundWidget.h"
 #include "Widgets/SOverlay.h"
 #include "Widgets/SWindow.h"
 
@@ -115,46 +114,6 @@ TEST_F(InputRouting, AFocusedWidgetThatDisappearsOrIsDisabledLosesTheFocusWhichT
 	EXPECT_EQ(FocusedBy(TEXT("Shift+Tab")), Upper);
 	Lower->SetEnabled(false);
 	EXPECT_EQ(FocusedBy(TEXT("Tab")), Upper) << "there is no other";
-}
-
-namespace
-{
-/** Takes keys and the wheel from what it contains. */
-class SCatcher : public SCompoundWidget
-{
-public:
-	SLATE_BEGIN_ARGS(SCatcher) {}
-	SLATE_DEFAULT_SLOT(FArguments, Content)
-	SLATE_END_ARGS()
-
-	void Construct(const FArguments& InArgs) { ChildSlot[InArgs._Content.Widget]; }
-	FReply OnKeyDown(const FGeometry&, const FKeyEvent&) override { return Count(); }
-	FReply OnMouseWheel(const FGeometry&, const FPointerEvent&) override { return Count(); }
-
-	int32 NumCaught = 0;
-
-private:
-	FReply Count()
-	{
-		++NumCaught;
-		return FReply::Handled();
-	}
-};
-} // namespace
-
-TEST(Bubbling, WhatAWidgetLeavesGoesToWhatItStandsIn)
-{
-	const TSharedRef<SProbe> Inner = SNew(SProbe).Focusable(true);
-	const TSharedRef<SCatcher> Outer = SNew(SCatcher)[Inner];
-	FUserDriver User(Outer, FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
-	User.ClickAt(FVector2D(5.0, 5.0));
-	User.Press(TEXT("Enter"));
-	User.WheelAt(FVector2D(5.0, 5.0), 1.0f);
-	EXPECT_EQ(Outer->NumCaught, 2);
-	Inner->bGreedy = true;
-	User.Press(TEXT("Enter"));
-	User.WheelAt(FVector2D(5.0, 5.0), 1.0f);
-	EXPECT_EQ(Outer->NumCaught, 2);
 }
 
 TEST(Clipping, WhatIsClippedAwayCannotBeHit)

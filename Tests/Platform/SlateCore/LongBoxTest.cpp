@@ -3,7 +3,6 @@
 #include "WrappingProbe.h"
 
 #include "Framework/Application/SlateApplication.h"
-#include "Support/Probe.h"
 #include "Support/UserDriver.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SCompoundWidget.h"

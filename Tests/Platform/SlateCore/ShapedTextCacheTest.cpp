@@ -1,6 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Fonts/FontMeasure.h"
 #include "Fonts/ShapedTextCache.h"
 #include "Support/EvenTextShaper.h"
 #include "Support/Printers.h"
@@ -47,14 +46,4 @@ TEST_F(ShapedTextCache, DropsWhatWasNotAskedForForLong)
 	EXPECT_EQ(Cache.GetNumShaped(), 4);
 	Cache.Shape(TEXT("bbbb"), Font, 1.0f);
 	EXPECT_EQ(Cache.GetNumShaped(), 5) << "gone";
-}
-
-TEST_F(ShapedTextCache, MeasuresLines)
-{
-	FShapedTextCache Cache(Shaper);
-	const FSlateFontMeasure Measure(Cache);
-	EXPECT_EQ(Measure.Measure(FStringView(TEXT("")), Font), FVector2D(0.0, 16.0));
-	EXPECT_EQ(Measure.Measure(FStringView(TEXT("abc")), Font), FVector2D(24.0, 16.0));
-	EXPECT_EQ(Measure.Measure(FText::FromString(TEXT("abc\nabcde\n")), Font, 2.0f), FVector2D(80.0, 96.0));
-	EXPECT_EQ(Measure.GetMaxCharacterHeight(Font), 16);
 }

@@ -4,7 +4,6 @@
 #include "Support/UserDriver.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SNullWidget.h"
-#include "Widgets/WidgetTreeDump.h"
 
 #include <gtest/gtest.h>
 

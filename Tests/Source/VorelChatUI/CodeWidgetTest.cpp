@@ -5,11 +5,8 @@
 #include "Framework/Text/SlateTextLayout.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Styling/SlateTypes.h"
-#include "Styling/StyleSheets/VorelAIStyle.h"
 #include "Support/UserDriver.h"
 #include "Widgets.h"
-#include "Widgets/Layout/SBorder.h"
-#include "Widgets/SNullWidget.h"
 #include "Widgets/Text/SMultiLineEditableText.h"
 #include <QImage>
 #include <gtest/gtest.h>

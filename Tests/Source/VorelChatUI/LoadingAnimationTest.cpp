@@ -2,7 +2,6 @@
 
 #include "Chat/SLoadingAnimation.h"
 #include "Chat/SLoadingMessageItem.h"
-#include "Internationalization/Text.h"
 #include "Support/UserDriver.h"
 #include "Widgets.h"
 #include "Widgets/SBoxPanel.h"
@@ -47,11 +46,10 @@ TEST(LoadingAnimation, TheMessageItemHasTheRoleOverTheDots)
 	FUserDriver User(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Item], FVector2D(200.0, 200.0));
 	User.AdvanceTime(0.0f);
 	EXPECT_EQ(ReadTexts(Item), "Vorel");
-	const std::vector<TSharedRef<SWidget>> Dots = FindAll(Item, TEXT("SImage"));
-	ASSERT_EQ(Dots.size(), 3u);
-	for (size_t Index = 0; Index < Dots.size(); ++Index)
+	for (size_t Index = 0; Index < 3; ++Index)
 	{
-		EXPECT_EQ(Dots[Index]->GetCachedGeometry().GetLocalSize(), FVector2D(6.0, 6.0));
-		EXPECT_EQ(Dots[Index]->GetCachedGeometry().GetAbsolutePosition().X, 11.0 + 9.0 * static_cast<double>(Index));
+		const FGeometry& Dot = FindOne(Item, TEXT("SImage"), Index)->GetCachedGeometry();
+		EXPECT_EQ(Dot.GetLocalSize(), FVector2D(6.0, 6.0));
+		EXPECT_EQ(Dot.GetAbsolutePosition().X, 11.0 + 9.0 * static_cast<double>(Index));
 	}
 }

@@ -2,7 +2,6 @@
 
 #include "Chat/SNotification.h"
 #include "Editor.h"
-#include "Styling/SlateTypes.h"
 #include "Styling/StyleSheets/VorelAIStyle.h"
 #include "Support/UserDriver.h"
 #include "Widgets.h"

@@ -87,12 +87,3 @@ TEST_F(VorelAIView, ASignedOutUserLogsInAndTheChatSurvivesALogout)
 	EXPECT_EQ(ReadList(View), "Vorel: Hi");
 	EXPECT_NE(ReadTexts(View).find("draft"), std::string::npos);
 }
-
-TEST_F(VorelAIView, WithoutAuthServiceItStaysSignedOut)
-{
-	Client.Auth = nullptr;
-	FLogCapture Log;
-	const TSharedRef<SVorelAIView> View = MakeView();
-	EXPECT_EQ(Shown(View), Login);
-	EXPECT_TRUE(TakeLog(Log).ends_with("Warning: Can't bind to authentication state changes because AuthService is not valid\n"));
-}

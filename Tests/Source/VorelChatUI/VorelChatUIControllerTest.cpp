@@ -215,6 +215,9 @@ TEST_F(Module, StartsAndStopsAnyNumberOfTimesAlsoWithoutAuthService)
 		EXPECT_EQ(CountStyles(), 3);
 		EXPECT_TRUE(FindEntry(MenuPaths[0])->Execute());
 		EXPECT_EQ(FindOne(Tab()->GetContent(), TEXT("SChatPanel"))->GetVisibility().IsVisible(), Client.Auth != nullptr);
+		const bool bWarned =
+			TakeLog(Log).find("Can't bind to authentication state changes because AuthService is not valid") != std::string::npos;
+		EXPECT_EQ(bWarned, Client.Auth == nullptr);
 		CloseTab();
 		EXPECT_TRUE(FModuleManager::Get().UnloadModule("VorelChatUI"));
 		EXPECT_FALSE(HasSpawner());

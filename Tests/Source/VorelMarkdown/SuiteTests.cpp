@@ -3,7 +3,6 @@
 #include "MarkdownSuite.h"
 #include "MarkupTestSupport.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
@@ -55,17 +54,4 @@ TEST(Suite, TheTablesTasksStrikesAndLinksOfGfmToo)
 		}
 	}
 	EXPECT_EQ(Count, 23u);
-}
-
-TEST(Suite, TheProgramWritesWhatTheParserMakes)
-{
-	const auto Program = std::filesystem::read_symlink("/proc/self/exe").replace_filename("vorel-markup");
-	for (const char* Name : {"commonmark", "gfm"})
-	{
-		FILE* Output = ::popen(("'" + Program.string() + "' < '" + GetSuitePath(Name) + "'").c_str(), "r");
-		std::string Markup(8'000'000, 0);
-		Markup.resize(std::fread(Markup.data(), 1, Markup.size(), Output));
-		EXPECT_EQ(::pclose(Output), 0);
-		EXPECT_TRUE(Markup == RenderMarkup(LoadText(GetSuitePath(Name))) + "\n") << Name;
-	}
 }

@@ -1,7 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "Interfaces/IPluginManager.h"
-#include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "Support/LogCapture.h"
 #include "Support/Printers.h"
