@@ -17,6 +17,8 @@
 
 namespace
 {
+using FHandler = void (*)(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response);
+
 httplib::Server::Handler With(FServiceParts& Parts, FHandler Handler)
 {
 	return [&Parts, Handler](const httplib::Request& Request, httplib::Response& Response)
@@ -25,12 +27,19 @@ httplib::Server::Handler With(FServiceParts& Parts, FHandler Handler)
 	};
 }
 
-// Send: how what never changes is sent.
-httplib::Server::Handler Serve(std::string Content, void (*Send)(httplib::Response& Response, int Status, const std::string& Content))
+httplib::Server::Handler ServePage(std::string Html)
 {
-	return [Content = std::move(Content), Send](const httplib::Request&, httplib::Response& Response)
+	return [Html = std::move(Html)](const httplib::Request&, httplib::Response& Response)
 	{
-		Send(Response, 200, Content);
+		SendPage(Response, 200, Html);
+	};
+}
+
+httplib::Server::Handler ServeJson(std::string Json)
+{
+	return [Json = std::move(Json)](const httplib::Request&, httplib::Response& Response)
+	{
+		SendJson(Response, 200, Json);
 	};
 }
 
@@ -47,10 +56,10 @@ std::vector<FRoute> MakeRoutes(FServiceParts& Parts)
 		return Admit(Parts, Request, Response);
 	};
 	return {
-		{"GET", "/", Serve(MakeStartPage(Parts.Address, Parts.Options.bPasswords), SendPage)},
-		{"GET", "/tos", Serve(MakeTermsPage(), SendPage)},
-		{"GET", "/privacy", Serve(MakePrivacyPage(), SendPage)},
-		{"GET", "/plugin", Serve(MakePluginPage(Parts.Options.Version), SendPage)},
+		{"GET", "/", ServePage(MakeStartPage(Parts.Address, Parts.Options.bPasswords))},
+		{"GET", "/tos", ServePage(MakeTermsPage())},
+		{"GET", "/privacy", ServePage(MakePrivacyPage())},
+		{"GET", "/plugin", ServePage(MakePluginPage(Parts.Options.Version))},
 		{"GET", "/login", With(Parts, ShowLogin)},
 		{"POST", "/login", With(Parts, TakeLogin)},
 		{"GET", "/billing", With(Parts, ShowBilling)},
@@ -59,8 +68,8 @@ std::vector<FRoute> MakeRoutes(FServiceParts& Parts)
 		{"GET", "/.well-known/oauth-authorization-server", With(Parts, ServeMetadata)},
 		{"POST", "/oauth/token", With(Parts, ServeToken)},
 		{"POST", "/oauth/revoke", With(Parts, ServeRevocation)},
-		{"GET", "/openapi.json", Serve(MakeOpenApi(Parts.Address), SendJson)},
-		{"GET", "/v1/version", Serve(MakeVersionFeed(Parts), SendJson)},
+		{"GET", "/openapi.json", ServeJson(MakeOpenApi(Parts.Address))},
+		{"GET", "/v1/version", ServeJson(MakeVersionFeed(Parts))},
 		{"GET", "/v1/user", WithAccount(Parts, ServeUser)},
 		{"GET", "/v1/credits", WithAccount(Parts, ServeCredits)},
 		{"GET", "/v1/models", WithAccount(Parts, ServeModels)},

@@ -6,5 +6,7 @@
 
 #include <vector>
 
+struct FServiceParts;
+
 // All that the service answers to. The parts must outlive the routes.
 std::vector<FRoute> MakeRoutes(FServiceParts& Parts);

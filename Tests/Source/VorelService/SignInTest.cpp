@@ -24,6 +24,8 @@ TEST_F(FSignInTest, SignsAProgramInAndAsksForTheNameOnce)
 	EXPECT_EQ(Metadata["issuer"], Service->GetAddress());
 	EXPECT_EQ(Metadata["authorization_endpoint"], Service->GetAddress() + "/login");
 
+	const std::string Policy = OpenLogin(MakeRequest())->get_header_value("Content-Security-Policy");
+	EXPECT_NE(Policy.find("form-action 'self' http://127.0.0.1:7777;"), std::string::npos) << Policy;
 	const httplib::Result Answer = SignIn("  Zoë \"Z\" ");
 	EXPECT_EQ(Answer->status, 303);
 	const std::string Location = Answer->get_header_value("Location");

@@ -15,10 +15,10 @@ void SendJson(httplib::Response& Response, int Status, const std::string& Body)
 	Response.set_content(Body, "application/json");
 }
 
-void SendPage(httplib::Response& Response, int Status, const std::string& Html)
+void SendPage(httplib::Response& Response, int Status, const std::string& Html, const std::string& FormTarget)
 {
 	Response.status = Status;
-	Response.set_header("Content-Security-Policy", GetPageSecurityPolicy());
+	Response.set_header("Content-Security-Policy", MakePageSecurityPolicy(FormTarget));
 	Response.set_content(Html, "text/html; charset=utf-8");
 }
 

@@ -11,7 +11,9 @@ struct Response;
 } // namespace httplib
 
 void SendJson(httplib::Response& Response, int Status, const std::string& Body);
-void SendPage(httplib::Response& Response, int Status, const std::string& Html);
+
+// FormTarget: where the answer to the page's form may lead, other than to this service.
+void SendPage(httplib::Response& Response, int Status, const std::string& Html, const std::string& FormTarget = "");
 
 // With status 303, so that the browser fetches the target and does not send the form again.
 void SendElsewhere(httplib::Response& Response, const std::string& Location);

@@ -5,11 +5,6 @@
 #include <cstddef>
 #include <httplib.h>
 
-struct FServiceParts;
-
-// Answers one request.
-using FHandler = void (*)(FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response);
-
 struct FRoute
 {
 	// "GET" answers "HEAD" too.

@@ -52,7 +52,7 @@ void SendForm(FServiceParts& Parts, httplib::Response& Response, const FProgram&
 		Response.set_header("Retry-After", std::to_string(Failure.RetryAfter));
 	}
 	const int Refused = Failure.RetryAfter > 0 ? 429 : 400;
-	SendPage(Response, Failure.Problem.empty() ? 200 : Refused, MakeLoginPage(Page));
+	SendPage(Response, Failure.Problem.empty() ? 200 : Refused, MakeLoginPage(Page), Program ? Program->Terms.RedirectUri : "");
 }
 
 FSignInResult TrySignIn(FServiceParts& Parts, const httplib::Params& Fields)

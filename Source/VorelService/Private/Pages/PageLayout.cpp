@@ -85,11 +85,12 @@ std::string MakeHiddenInputs(const FHiddenFields& Fields)
 	return Inputs;
 }
 
-const std::string& GetPageSecurityPolicy()
+std::string MakePageSecurityPolicy(const std::string& Redirect)
 {
-	// Browsers hold a form's redirect to form-action too, and that of the login leads to a program that waits on 127.0.0.1 or on [::1]. The
-	// latter can't be named here, hence the whole scheme.
-	static const std::string Policy = "default-src 'none'; style-src 'sha256-" + MakeStyleHash() +
-									  "'; img-src data:; form-action 'self' http:; base-uri 'none'; frame-ancestors 'none'";
-	return Policy;
+	static const std::string StyleHash = MakeStyleHash();
+	// An address like [::1] can't be named here, hence the whole scheme.
+	const std::string Origin = Redirect.substr(0, Redirect.find('/', Redirect.find("//") + 2));
+	const std::string Target = Redirect.empty() ? "" : Origin.find('[') == std::string::npos ? ' ' + Origin : " http:";
+	return "default-src 'none'; style-src 'sha256-" + StyleHash + "'; img-src data:; form-action 'self'" + Target +
+		   "; base-uri 'none'; frame-ancestors 'none'";
 }

@@ -52,4 +52,6 @@ std::string MakeErrorPage(const std::string& Title, const std::string& Sentence)
 
 // Value of the header Content-Security-Policy of all pages. Their Referrer-Policy has to be "same-origin": under "no-referrer" a browser
 // sends a form with the origin "null".
-const std::string& GetPageSecurityPolicy();
+//
+// Redirect: where else than to this service the page's form may lead, which a browser checks too; empty for nowhere.
+std::string MakePageSecurityPolicy(const std::string& Redirect = "");
