@@ -32,6 +32,8 @@ public:
 		::tcgetattr(STDIN_FILENO, &OldModes);
 		termios Modes = OldModes;
 		Modes.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+		// Nor does an interruption throw away what was written last.
+		Modes.c_lflag |= NOFLSH;
 		::tcsetattr(STDIN_FILENO, TCSAFLUSH, &Modes);
 	}
 
