@@ -2,9 +2,8 @@
 
 #include "ServiceFixture.h"
 
+#include <future>
 #include <thread>
-
-using FLocalServiceTest = FServiceTest;
 
 namespace
 {
@@ -27,6 +26,21 @@ std::string GetErrorMessage(const httplib::Result& Reply)
 	return json::parse(Reply->body)["error"]["message"].get<std::string>();
 }
 } // namespace
+
+// What a client takes apart itself, of an answer that streams.
+class FLocalServiceTest : public FServiceTest
+{
+protected:
+	static httplib::Request MakeStreamRequest()
+	{
+		httplib::Request Request;
+		Request.method = "POST";
+		Request.path = "/v1/chat/completions";
+		Request.headers = {{"Authorization", std::string("Bearer ") + OwnerKey}};
+		Request.body = MakeQuestion("How do I set a timer?", true).dump();
+		return Request;
+	}
+};
 
 TEST_F(FLocalServiceTest, StreamsTheAnswerInPieces)
 {
@@ -239,15 +253,13 @@ TEST_F(FLocalServiceTest, ServesTheNextClientAfterOneThatWentAway)
 	Start({.PieceInterval = {}, .MaxConnections = 1});
 	for (int Round = 0; Round < 3; ++Round)
 	{
-		httplib::Request Request;
-		Request.method = "POST";
-		Request.path = "/v1/chat/completions";
-		Request.body = MakeQuestion("How do I set a timer?", true).dump();
-		Request.content_receiver = [](const char*, std::size_t, std::uint64_t, std::uint64_t)
+		httplib::Request Request = MakeStreamRequest();
+		Request.content_receiver = [](const char* Bytes, std::size_t, std::uint64_t, std::uint64_t)
 		{
+			EXPECT_EQ(*Bytes, 'd');
 			return false;
 		};
-		EXPECT_FALSE(httplib::Client(Service->GetAddress()).send(Request));
+		EXPECT_FALSE(Connect(*Service)->send(Request));
 	}
 	EXPECT_NE(Ask("timer").find("**Timers**"), std::string::npos);
 }
@@ -278,14 +290,20 @@ TEST_F(FLocalServiceTest, ServesMoreClientsThanConnectionsOneAfterTheOther)
 TEST_F(FLocalServiceTest, BreaksOffTheAnswersUnderWayWhenItStops)
 {
 	Start({.PieceInterval = std::chrono::hours(1)});
+	std::promise<int> Head;
+	std::future<int> Begun = Head.get_future();
 	std::thread Client(
-		[Address = Service->GetAddress()]
+		[Head = std::move(Head), To = Connect(*Service)]() mutable
 		{
-			httplib::Client Own(Address);
-			Own.set_bearer_token_auth(OwnerKey);
-			EXPECT_FALSE(Own.Post("/v1/chat/completions", MakeQuestion("timer", true).dump(), "application/json"));
+			httplib::Request Request = MakeStreamRequest();
+			Request.response_handler = [&Head](const httplib::Response& Reply)
+			{
+				Head.set_value(Reply.status);
+				return true;
+			};
+			EXPECT_FALSE(To->send(Request));
 		});
-	httplib::Client(Service->GetAddress()).Get("/");
+	EXPECT_EQ(Begun.get(), 200);
 	Service.reset();
 	Client.join();
 }
