@@ -10,7 +10,6 @@
 #include "Framework/Text/SlateWidgetRun.h"
 #include "Styling/SlateStyle.h"
 #include "Support/DrawnElements.h"
-#include "Widgets/Input/SButton.h"
 #include "Widgets/Layout/SBox.h"
 
 namespace
@@ -223,36 +222,6 @@ TEST_F(FRichText, AWidgetThatGrowsMovesTheWordsBehindIt)
 	Width = 80.0f;
 	AdvanceTime(0.0f);
 	EXPECT_EQ(ReadScreen().GetRowLeft(0), 80.0f);
-}
-
-TEST_F(FRichText, TheMouseReachesTheWidgetsAmongTheText)
-{
-	FString Clicked;
-	TArray<TSharedRef<SWidget>> Buttons;
-	const auto MakeButton = [&](const FString& Name)
-	{
-		return Buttons.Add_GetRef(SNew(SButton).OnClicked_Lambda(
-			[&Clicked, Name]
-			{
-				Clicked += Name;
-				return FReply::Handled();
-			})[MakeBox(50.0f, 20.0f)]);
-	};
-	ShowMarkup(TEXT("ab<made>1</>cd<made>2</>\n<made>3</>"), {MakeShared<FTestDecorator>(MakeButton)}, 90.0f);
-	for (const TSharedRef<SWidget>& Button : Buttons)
-	{
-		const FVector2D Place = Button->GetCachedGeometry().GetAbsolutePosition() + FVector2D(40.0, 10.0);
-		MoveTo(Place);
-		EXPECT_TRUE(Button->IsHovered());
-		ClickAt(Place);
-	}
-	EXPECT_EQ(Clicked, FString(TEXT("123")));
-	ClickLetter(0);
-	EXPECT_EQ(Clicked, FString(TEXT("123")));
-	EXPECT_TRUE(Text->HasKeyboardFocus());
-
-	Play(TEXT("Ctrl+A Ctrl+C"));
-	EXPECT_TEXT(GetClipboard(), TEXT("ab\u200Bcd\u200B\n\u200B"));
 }
 
 TEST_F(FRichText, WidgetsMadeAnewOutOfViewWaitUntilTheyAreSeen)

@@ -7,7 +7,6 @@
 #include "Support/UserDriver.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SNullWidget.h"
-#include "Widgets/SOverlay.h"
 #include "Widgets/SWindow.h"
 
 #include <gtest/gtest.h>
@@ -156,23 +155,4 @@ TEST(WrappingLayout, LayoutThatNeverSettlesIsCutOffAndDrawn)
 	FUserDriver User(SNew(SRestlessProbe), FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
 	EXPECT_EQ(Stats().NumLayoutPasses, SWidget::MaxLayoutPasses);
 	EXPECT_TRUE(User.GetWindow()->GetDisplayList().IsValid());
-}
-
-TEST(OverlayLayout, ChildrenShareTheRoomByTheirAlignment)
-{
-	const TSharedRef<SProbe> TooLarge = SNew(SProbe).Size(FVector2D(500.0, 500.0));
-	// clang-format off
-	FUserDriver User(
-		SNew(SOverlay)
-		+ SOverlay::Slot()[SNew(SProbe)]
-		+ SOverlay::Slot().HAlign(HAlign_Center).VAlign(VAlign_Center)[SNew(SProbe)]
-		+ SOverlay::Slot().HAlign(HAlign_Right).VAlign(VAlign_Bottom).Padding(0.0f, 0.0f, 15.0f, 5.0f)[SNew(SProbe)]
-		+ SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Top).Padding(10.0f)[TooLarge],
-		FVector2D(100.0, 80.0), 1.0f, EDriverFonts::Even);
-	// clang-format on
-	EXPECT_EQ(User.Tree(), TEXT("SOverlay 0,0 100x80\n"
-								"  SProbe 0,0 100x80\n"
-								"  SProbe 40,35 20x10\n"
-								"  SProbe 65,65 20x10\n"
-								"  SProbe 10,10 80x60\n"));
 }

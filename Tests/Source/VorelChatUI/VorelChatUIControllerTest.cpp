@@ -75,11 +75,16 @@ class Controller : public Shell
 protected:
 	Controller()
 	{
-		UI = MakeShared<FVorelChatUIController>(Client.Chat, Client.Auth, Client.UserData, Client.Update);
+		UI = MakeController();
 		UI->InitializeUI();
 	}
 
 	~Controller() override { CloseTab(); }
+
+	TSharedRef<FVorelChatUIController> MakeController() const
+	{
+		return MakeShared<FVorelChatUIController>(Client.Chat, Client.Auth, Client.UserData, Client.Update);
+	}
 
 	TSharedPtr<FVorelChatUIController> UI;
 };
@@ -188,9 +193,10 @@ TEST_F(Controller, WithoutMenusTheTabExistsAllTheSame)
 	EXPECT_TRUE(FGlobalTabmanager::Get()->TryInvokeTab(FTabId("VorelChat")).IsValid());
 }
 
-TEST_F(Controller, IsForgottenWhenItGoesBeforeTheMenusCome)
+TEST_F(Controller, IsForgottenWhenItIsShutDownOrGoesBeforeTheMenusCome)
 {
-	UI.Reset();
+	UI->ShutdownUI();
+	MakeController()->InitializeUI();
 	BringUpMenus();
 	EXPECT_FALSE(HasSpawner());
 	EXPECT_EQ(FindEntry(MenuPaths[0]), nullptr);

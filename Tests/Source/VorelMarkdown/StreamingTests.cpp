@@ -1,6 +1,5 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "MarkdownParser.h"
 #include "MarkdownSuite.h"
 #include "MarkupTestSupport.h"
 
@@ -129,15 +128,4 @@ TEST(Streaming, ATextOfOneLineAndALineOfCodeAreShownWhateverTheyMayBecome)
 		EXPECT_EQ(RenderShort("<!--\n|a|b|\n" + std::string(Line)),
 			"<Paragraph>&lt;!--</>\n<Paragraph>|a|b|</>\n<Paragraph>" + std::string(Line) + "</>");
 	}
-}
-
-TEST(Streaming, AParserTakesOneTextAfterTheOther)
-{
-	UMarkdownParser* Parser = NewObject<UMarkdownParser>();
-	for (const TCHAR* Text : {TEXT("*a*"), TEXT(""), TEXT("b")})
-	{
-		Parser->SetContent(Text);
-		Parser->Parse();
-	}
-	EXPECT_EQ(Parser->RenderToHTML(), TEXT("<VorelMarkdown.Paragraph>b</>"));
 }
