@@ -206,31 +206,38 @@ TEST_F(FSignInTest, TakesACreditForAnAnswerInAgentMode)
 	EXPECT_EQ(json::parse(Get("/v1/credits", Later)->body)["credits"], 1);
 }
 
-TEST_F(FSignInTest, NeverGivesACreditTwice)
+TEST_F(FSignInTest, GivesNothingTwiceToProgramsThatAskAtOnce)
 {
-	constexpr int Daily = 10;
-	StartOnFile({.DailyCredits = Daily});
+	StartOnFile({.DailyCredits = 10});
 	std::string Error;
-	const std::unique_ptr<FLocalService> Other = Launch({.PieceInterval = {}, .DataFile = GetDataFile(), .DailyCredits = Daily}, Error);
+	const std::unique_ptr<FLocalService> Other = Launch({.PieceInterval = {}, .DataFile = GetDataFile(), .DailyCredits = 10}, Error);
 	ASSERT_TRUE(Other) << Error;
-	std::atomic<int> Paid = 0;
-	std::vector<std::thread> Clients;
-	for (int Client = 0; Client < 6; ++Client)
+	const auto CountGood = [&](int Rounds, const std::function<httplib::Result(httplib::Client & Client)>& Send)
 	{
-		Clients.emplace_back(
-			[&Paid, Address = (Client % 2 ? *Service : *Other).GetAddress()]
-			{
-				for (int Question = 0; Question < 4; ++Question)
+		std::atomic<int> Good = 0;
+		std::vector<std::thread> Programs;
+		for (int Program = 0; Program < 6; ++Program)
+		{
+			Programs.emplace_back(
+				[&, To = Connect(Program % 2 ? *Service : *Other)]
 				{
-					httplib::Client Own(Address);
-					Own.set_bearer_token_auth(OwnerKey);
-					Paid += Own.Post("/v1/chat/completions", MakeQuestion("timer", false).dump(), "application/json")->status == 200;
-				}
-			});
-	}
-	for (std::thread& Client : Clients)
-	{
-		Client.join();
-	}
-	EXPECT_EQ(Paid, Daily);
+					for (int Round = 0; Round < Rounds; ++Round)
+					{
+						Good += Send(*To)->status == 200;
+					}
+				});
+		}
+		for (std::thread& Program : Programs)
+		{
+			Program.join();
+		}
+		return Good.load();
+	};
+	const httplib::Headers Owner = {{"Authorization", std::string("Bearer ") + OwnerKey}};
+	const std::string Question = MakeQuestion("timer", false).dump();
+	EXPECT_EQ(CountGood(4, [&](auto& To) { return To.Post("/v1/chat/completions", Owner, Question, "application/json"); }), 10);
+	const FFields CodeForm = MakeCodeForm(GetCode("Ada"));
+	EXPECT_EQ(CountGood(1, [&](auto& To) { return To.Post("/oauth/token", CodeForm); }), 1);
+	const FFields RefreshForm = MakeRefreshForm(GetTokens(UseCode(GetCode("Ada"))).second);
+	EXPECT_EQ(CountGood(2, [&](auto& To) { return To.Post("/oauth/token", RefreshForm); }), 12) << "a reply may be lost";
 }

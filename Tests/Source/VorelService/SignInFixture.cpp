@@ -101,16 +101,16 @@ std::string FSignInTest::GetCode(const std::string& Name, const std::string& Pas
 	return GetQueryField(SignIn(Name, Password)->get_header_value("Location"), "code");
 }
 
-httplib::Result FSignInTest::UseCode(const std::string& Code, const FFields& Changes)
+FFields FSignInTest::MakeCodeForm(const std::string& Code, const FFields& Changes)
 {
-	return PostForm("/oauth/token", Change({{"grant_type", "authorization_code"}, {"client_id", "vorel-editor"}, {"code", Code},
-											   {"redirect_uri", Redirect}, {"code_verifier", Verifier}},
-										Changes));
+	return Change({{"grant_type", "authorization_code"}, {"client_id", "vorel-editor"}, {"code", Code}, {"redirect_uri", Redirect},
+					  {"code_verifier", Verifier}},
+		Changes);
 }
 
-httplib::Result FSignInTest::Refresh(const std::string& Token)
+FFields FSignInTest::MakeRefreshForm(const std::string& Token)
 {
-	return PostForm("/oauth/token", {{"grant_type", "refresh_token"}, {"client_id", "vorel-editor"}, {"refresh_token", Token}});
+	return {{"grant_type", "refresh_token"}, {"client_id", "vorel-editor"}, {"refresh_token", Token}};
 }
 
 std::pair<std::string, std::string> FSignInTest::GetTokens(const httplib::Result& Reply)

@@ -37,8 +37,13 @@ protected:
 	httplib::Result SignIn(const std::string& Name, const std::string& Password = "", const FFields& Request = MakeRequest());
 	std::string GetCode(const std::string& Name, const std::string& Password = "");
 
-	httplib::Result UseCode(const std::string& Code, const FFields& Changes = {});
-	httplib::Result Refresh(const std::string& Token);
+	static FFields MakeCodeForm(const std::string& Code, const FFields& Changes = {});
+	static FFields MakeRefreshForm(const std::string& Token);
+	httplib::Result UseCode(const std::string& Code, const FFields& Changes = {})
+	{
+		return PostForm("/oauth/token", MakeCodeForm(Code, Changes));
+	}
+	httplib::Result Refresh(const std::string& Token) { return PostForm("/oauth/token", MakeRefreshForm(Token)); }
 
 	// Access and refresh token.
 	std::pair<std::string, std::string> GetTokens(const httplib::Result& Reply);
