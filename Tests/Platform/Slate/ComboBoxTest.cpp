@@ -135,8 +135,7 @@ TEST_F(ComboBox, ClosesWithoutAChoiceAndDisabledOrGone)
 	EXPECT_FALSE(Box->IsOpen()) << "a click on the box itself closes it too";
 	User.Press(TEXT("Enter"));
 	EXPECT_TRUE(Box->IsOpen());
-	User.Press(TEXT("Down"));
-	User.Press(TEXT("Escape"));
+	User.Play(TEXT("Down Escape"));
 	EXPECT_FALSE(Box->IsOpen());
 	User.Press(TEXT("SpaceBar"));
 	EXPECT_TRUE(Box->IsOpen());
@@ -198,8 +197,7 @@ TEST_F(ComboBox, TypingFindsAnOptionByItsBeginning)
 	TakeChanges();
 	// Far options are found in the frames that follow, also when the typing is long over.
 	SetOptions(20'000);
-	User.Press(TEXT("Down"));
-	User.Type(TEXT("a 19998"));
+	User.Play(TEXT("Down 'a 19998'"));
 	EXPECT_FALSE(User.Sees(TEXT("a 19998")));
 	User.AdvanceTime(1.1f);
 	for (int32 Count = 0; Count < 40; ++Count)
@@ -207,8 +205,7 @@ TEST_F(ComboBox, TypingFindsAnOptionByItsBeginning)
 		User.AdvanceTime(0.016f);
 	}
 	EXPECT_TRUE(User.Sees(TEXT("a 19998")));
-	User.Type(TEXT("b"));
-	User.Press(TEXT("Enter"));
+	User.Play(TEXT("'b' Enter"));
 	EXPECT_EQ(TakeChanges(), TEXT("b 19999 by key;")) << "after a while, a letter begins anew";
 }
 
@@ -239,9 +236,7 @@ TEST_F(ComboBox, AButtonInARowIsTheButtonsAlone)
 	EXPECT_TRUE(Box->IsOpen());
 	EXPECT_FALSE(User.Sees(TEXT("b 1")));
 	EXPECT_EQ(TakeChanges(), FString());
-	User.Press(TEXT("End"));
-	User.Press(TEXT("Tab"));
-	User.Press(TEXT("Enter"));
+	User.Play(TEXT("End Tab Enter"));
 	EXPECT_TRUE(Box->IsOpen()) << "the highlighted row's button";
 	EXPECT_FALSE(User.Sees(TEXT("c 2")));
 	User.Press(TEXT("Enter"));

@@ -5,7 +5,6 @@
 #include "Styling/WidgetStyle.h"
 #include "Support/DrawnElements.h"
 #include "Support/UserDriver.h"
-#include "Syntax/CodeWhiteSpaceRun.h"
 #include "Widgets.h"
 #include "Widgets/SNullWidget.h"
 #include <gtest/gtest.h>
@@ -173,7 +172,7 @@ TEST_F(CodeBlockMarshaller, ABlockThatGrowsLooksAsIfMadeAtOnce)
 	}
 }
 
-TEST_F(CodeBlockMarshaller, ATabIsFourSpacesWideAndWhiteSpaceHasTheRoomOfItsShadow)
+TEST_F(CodeBlockMarshaller, ATabIsFourSpacesWide)
 {
 	Show(FString("\tx\n    x\n \t \t x\n           x"));
 	const auto LeftOf = [this](int32 Line, int32 Offset)
@@ -183,13 +182,4 @@ TEST_F(CodeBlockMarshaller, ATabIsFourSpacesWideAndWhiteSpaceHasTheRoomOfItsShad
 	EXPECT_GT(LeftOf(0, 1), 0.0f);
 	EXPECT_FLOAT_EQ(LeftOf(0, 1), LeftOf(1, 4));
 	EXPECT_FLOAT_EQ(LeftOf(2, 5), LeftOf(3, 11));
-
-	FTextBlockStyle Style;
-	Style.SetFont(FSlateFontInfo(TEXT("Mono"), 10.0f)).SetShadowOffset(FVector2D(-3.0, 2.0));
-	const TSharedRef<const FString> Text = MakeShared<FString>(TEXT("ab\t \t"));
-	const TSharedRef<FCodeWhiteSpaceRun> Run = FCodeWhiteSpaceRun::Create(FRunInfo(TEXT("Name")), Text, Style, FTextRange(2, 5), 3);
-	EXPECT_EQ(Run->Measure(2, 5, 2.0f, {}), FVector2D(7 * 16.0 + 6.0, 32.0 + 4.0));
-	EXPECT_EQ(Run->Measure(2, 4, 2.0f, {}), FVector2D(4 * 16.0, 32.0 + 4.0));
-	EXPECT_EQ(Run->Measure(5, 5, 2.0f, {}), FVector2D(12.0, Run->GetMaxHeight(2.0f)));
-	EXPECT_EQ(Run->Measure(3, 3, 2.0f, {}), FVector2D(0.0, Run->GetMaxHeight(2.0f)));
 }

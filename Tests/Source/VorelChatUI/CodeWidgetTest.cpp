@@ -1,10 +1,7 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "Chat/ChatItemWidgets/SMarkdownTextbox.h"
-#include "Decorators/CodeBlockDecorator.h"
-#include "Framework/Text/SlateTextLayout.h"
 #include "Framework/Application/SlateApplication.h"
-#include "Styling/SlateTypes.h"
 #include "Support/UserDriver.h"
 #include "Widgets.h"
 #include "Widgets/Text/SMultiLineEditableText.h"
@@ -164,26 +161,4 @@ TEST_F(CodeWidget, IsSelectedLikeAnyTextAndIsOneInvisibleCharacterOfItsMessage)
 	User.SetClipboard(TEXT("before"));
 	User.Press(TEXT("Ctrl+C"));
 	EXPECT_EQ(ToUtf8(User.GetClipboard()), "a \xE2\x80\x8B b");
-}
-
-TEST_F(CodeWidget, IsMadeByTheDecoratorWithWhatTheMarkupSaid)
-{
-	const TSharedRef<SWidget> Owner = SNew(SMarkdownTextbox);
-	const TSharedRef<FSlateTextLayout> Layout = FSlateTextLayout::Create(*Owner, FTextBlockStyle::GetDefault());
-	const FString Markup(TEXT("cpp x__nl__y"));
-	FTextRunParseResults Result(TEXT("Code"), FTextRange(0, Markup.Len()), FTextRange(4, Markup.Len()));
-	Result.MetaData.Add(TEXT("lang"), FTextRange(0, 3));
-	const TSharedRef<FString> Model = MakeShared<FString>(TEXT("before "));
-
-	const TSharedRef<ITextDecorator> Decorator = FCodeBlockDecorator::Create();
-	EXPECT_TRUE(Decorator->Supports(Result, Markup));
-	EXPECT_FALSE(Decorator->Supports(FTextRunParseResults(TEXT("codes"), FTextRange(0, 1), FTextRange(0, 1)), Markup));
-	const TSharedRef<ISlateRun> Run = Decorator->Create(Layout, Result, Markup, Model, nullptr);
-	EXPECT_EQ(ToUtf8(*Model), "before \xE2\x80\x8B");
-	EXPECT_EQ(Run->GetTextRange(), FTextRange(7, 8));
-	EXPECT_EQ(ToUtf8(Run->GetRunInfo().Name), "Code");
-	ASSERT_NE(Run->GetRunInfo().MetaData.Find(TEXT("lang")), nullptr);
-	EXPECT_EQ(ToUtf8(*Run->GetRunInfo().MetaData.Find(TEXT("lang"))), "cpp");
-	EXPECT_EQ(Run->GetBaseLine(1.5f), 0);
-	EXPECT_EQ(ReadTexts(Run->GetWidget().ToSharedRef()), "x\ny");
 }

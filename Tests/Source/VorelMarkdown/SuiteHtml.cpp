@@ -50,12 +50,6 @@ private:
 	std::string LastName;
 };
 
-struct FList
-{
-	std::string Tag;
-	int NextNumber = 0;
-};
-
 class FHtmlReader
 {
 public:
@@ -113,7 +107,8 @@ private:
 			bClosing ? Words.pop_back() : Words.push_back(Word->second);
 			if (Name == "a")
 			{
-				bClosing ? EndLink() : BeginLink();
+				bClosing ? EndLink() : void(LinkText.clear());
+				LinkAddress = GetAttribute("href");
 			}
 		}
 		else if (Name == "ul" || Name == "ol" || Name == "blockquote")
@@ -152,12 +147,6 @@ private:
 		At = Html.find('\n', End);
 	}
 
-	void BeginLink()
-	{
-		LinkAddress = GetAttribute("href");
-		LinkText.clear();
-	}
-
 	void EndLink()
 	{
 		const std::string Address = DecodePercents(LinkAddress);
@@ -170,20 +159,16 @@ private:
 
 	void BeginItem()
 	{
-		FList& List = Containers.back();
-		const std::string Number = std::to_string(List.NextNumber++);
+		auto& [List, NextNumber] = Containers.back();
+		const std::string Number = std::to_string(NextNumber++);
 		const std::string_view Behind = std::string_view(Html).substr(At);
 		const bool bTask = Behind.starts_with("<input ");
-		if (List.Tag == "ol")
+		const bool bDone = Behind.substr(0, Behind.find('>')).find("checked") != std::string_view::npos;
+		if (List == "ol")
 		{
 			Marks += Number + (Example.Markdown.find(Number + ")") == std::string::npos ? "." : ")");
 		}
-		else if (!bTask)
-		{
-			Marks += "\u2022";
-		}
-		const bool bDone = Behind.substr(0, Behind.find('>')).find("checked") != std::string_view::npos;
-		Marks += !bTask ? "" : bDone ? "\u2611" : "\u2610";
+		Marks += bTask ? (bDone ? "\u2611" : "\u2610") : List == "ol" ? "" : "\u2022";
 	}
 
 	// The marks that wait for it come before any text, even an empty one, but not before the white space between tags.
@@ -200,8 +185,8 @@ private:
 
 	std::string GetName(std::vector<std::string> InlineWords) const
 	{
-		const size_t Quotes = static_cast<size_t>(std::ranges::count(Containers, "blockquote", &FList::Tag));
-		const std::string Outer = Containers.empty() ? "" : Containers.back().Tag;
+		const auto Quotes = static_cast<size_t>(std::ranges::count(Containers, "blockquote", &std::pair<std::string, int>::first));
+		const std::string Outer = Containers.empty() ? "" : Containers.back().first;
 		const std::string Around = Outer == "ul" ? "UnorderedList" : Outer == "ol" ? "OrderedList" : "Paragraph";
 		const bool bNoQuotedForm = Block == "Table" || Block == "HorizontalRule";
 		std::string Result = Repeat("Blockquote.", std::min<size_t>(4, Quotes));
@@ -233,7 +218,8 @@ private:
 	std::string Name;
 	bool bClosing = false;
 
-	std::vector<FList> Containers;
+	// Tags, with the number of the next item.
+	std::vector<std::pair<std::string, int>> Containers;
 	std::vector<std::string> Words;
 	std::string Block;
 	std::string Marks;
