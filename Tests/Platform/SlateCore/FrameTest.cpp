@@ -25,56 +25,42 @@ private:
 		Steps.Add(InDeltaTime);
 	}
 };
-
-struct FBound
-{
-	FVector2D Size = FVector2D(20.0, 10.0);
-	int32 NumRead = 0;
-
-	TAttribute<FVector2D> MakeAttribute()
-	{
-		return TAttribute<FVector2D>::CreateLambda(
-			[this]
-			{
-				++NumRead;
-				return Size;
-			});
-	}
-};
 } // namespace
 
-TEST(BoundAttributes, AreReadOnceAFrameBeforeLayout)
+TEST(BoundAttributes, AreReadOnceAFrameBeforeLayoutAndOnlyInView)
 {
-	FBound Bound;
-	const TSharedRef<SProbe> Probe = SNew(SProbe).BoundSize(Bound.MakeAttribute());
-	EXPECT_EQ(Bound.NumRead, 0) << "not while the widget is built";
-	FUserDriver User(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Probe], FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
-	Bound.NumRead = 0;
-	User.AdvanceTime(0.0f);
-	EXPECT_EQ(Bound.NumRead, 1);
-	EXPECT_EQ(FSlateApplication::Get().GetFrameStats().NumAttributesRead, 1);
-	EXPECT_EQ(FSlateApplication::Get().GetFrameStats().NumLayoutPasses, 0) << "the same value changes nothing";
-
-	Bound.Size = FVector2D(20.0, 40.0);
-	User.AdvanceTime(0.0f);
-	EXPECT_EQ(Probe->GetCachedGeometry().GetLocalSize().Y, 40.0) << "in the frame that read it";
-}
-
-TEST(BoundAttributes, AreNotReadOutOfViewAndAreUpToDateWhenTheyComeIntoIt)
-{
-	FBound Bound;
-	const TSharedRef<SProbe> Above = SNew(SProbe).Size(FVector2D(10.0, 1000.0));
-	const TSharedRef<SProbe> Probe = SNew(SProbe).BoundSize(Bound.MakeAttribute());
+	FVector2D Size(20.0, 10.0);
+	int32 NumRead = 0;
+	const auto ReadSize = [&]
+	{
+		++NumRead;
+		return Size;
+	};
+	const TSharedRef<SProbe> Above = SNew(SProbe);
+	const TSharedRef<SProbe> Probe = SNew(SProbe).BoundSize_Lambda(ReadSize);
+	EXPECT_EQ(NumRead, 0) << "not while the widget is built";
 	FUserDriver User(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Above] + SVerticalBox::Slot().AutoHeight()[Probe],
 		FVector2D(100.0, 100.0), 1.0f, EDriverFonts::Even);
-	Bound.NumRead = 0;
-	Bound.Size = FVector2D(10.0, 33.0);
+	const auto CountReads = [&]
+	{
+		NumRead = 0;
+		User.AdvanceTime(0.0f);
+		return NumRead;
+	};
+	EXPECT_EQ(CountReads(), 1);
+	EXPECT_EQ(FSlateApplication::Get().GetFrameStats().NumAttributesRead, 1);
+	EXPECT_EQ(FSlateApplication::Get().GetFrameStats().NumLayoutPasses, 0) << "the same value changes nothing";
+	Size.Y = 40.0;
 	User.AdvanceTime(0.0f);
-	EXPECT_EQ(Bound.NumRead, 0);
+	EXPECT_EQ(Probe->GetCachedGeometry().GetLocalSize().Y, 40.0) << "in the frame that read it";
+
+	Above->SetSize(FVector2D(10.0, 1000.0));
+	User.Frame();
+	Size.Y = 33.0;
+	EXPECT_EQ(CountReads(), 0);
 	Above->SetSize(FVector2D(10.0, 10.0));
-	User.AdvanceTime(0.0f);
-	EXPECT_EQ(Bound.NumRead, 1);
-	EXPECT_EQ(Probe->GetCachedGeometry().GetLocalSize().Y, 33.0);
+	EXPECT_EQ(CountReads(), 1);
+	EXPECT_EQ(Probe->GetCachedGeometry().GetLocalSize().Y, 33.0) << "up to date when it comes into view";
 }
 
 TEST(BoundAttributes, ABoundVisibilityBringsACollapsedWidgetBack)

@@ -23,20 +23,14 @@ protected:
 	}
 };
 
-TEST_F(TextTest, KeepsNamespaceKeyAndSource)
-{
-	const FText Text = LOCTEXT("Greeting", "Hello");
-	EXPECT_TEXT(Text.ToString(), TEXT("Hello"));
-	EXPECT_TEXT(FTextInspector::GetNamespace(Text).GetValue(), TEXT("TextTest"));
-	EXPECT_TEXT(FTextInspector::GetKey(Text).GetValue(), TEXT("Greeting"));
-	EXPECT_FALSE(FTextInspector::GetKey(INVTEXT("plain")).IsSet());
-}
-
-TEST_F(TextTest, FollowsTheCulture)
+TEST_F(TextTest, HasANamespaceAndAKeyByWhichItFollowsTheCulture)
 {
 	Translate(TEXT("de"), TEXT("Greeting"), TEXT("Hello"), TEXT("Hallo"));
 	Translate(TEXT("de-AT"), TEXT("Greeting"), TEXT("Hello"), TEXT("Servus"));
 	const FText Text = LOCTEXT("Greeting", "Hello");
+	EXPECT_TEXT(FTextInspector::GetNamespace(Text).GetValue(), TEXT("TextTest"));
+	EXPECT_TEXT(FTextInspector::GetKey(Text).GetValue(), TEXT("Greeting"));
+	EXPECT_FALSE(FTextInspector::GetKey(INVTEXT("plain")).IsSet());
 	EXPECT_TEXT(Text.ToString(), TEXT("Hello"));
 	FInternationalization::Get().SetCurrentCulture(TEXT("de-AT"));
 	EXPECT_TEXT(Text.ToString(), TEXT("Servus"));
