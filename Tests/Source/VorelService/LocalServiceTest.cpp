@@ -215,6 +215,25 @@ TEST_F(FLocalServiceTest, RefusesBodiesThatAreTooLargeOrOfUnknownLength)
 	EXPECT_NE(Ask("timer").find("**Timers**"), std::string::npos);
 }
 
+TEST_F(FLocalServiceTest, BoundsTheHeadOfARequest)
+{
+	const auto Send = [&](int Count)
+	{
+		httplib::Headers Headers;
+		for (int Header = 0; Header < Count; ++Header)
+		{
+			Headers.emplace("X-Header", std::string(1000, 'x'));
+		}
+		return Http->Get("/v1/version", Headers);
+	};
+	// Whoever is still sending may not see the answer any more.
+	const httplib::Result Long = Send(70);
+	EXPECT_EQ(Send(50)->status, 200);
+	EXPECT_TRUE(!Long || Long->status == 400);
+	EXPECT_EQ(Http->Get("/" + std::string(10'000, 'x'))->status, 414);
+	EXPECT_FALSE(Http->Get("/" + std::string(70'000, 'x')));
+}
+
 TEST_F(FLocalServiceTest, DoesNotStartWhereItMayNotOrCannot)
 {
 	const int Taken = Service->GetPort();

@@ -75,10 +75,6 @@ FHttpServer::FHttpServer(std::size_t MaxConnections, std::size_t MaxBodyBytes)
 		return new FBoundedTaskQueue(Gate, MaxConnections);
 	};
 	Http.set_payload_max_length(MaxBodyBytes);
-	// One request each: an idle connection would hold a worker, and the end of the program.
-	Http.set_keep_alive_max_count(1);
-	Http.set_keep_alive_timeout(2);
-	Http.set_read_timeout(2);
 	Http.set_tcp_nodelay(true);
 	Http.set_socket_options(ReuseClosedPorts);
 	Http.set_default_headers(MakeDefaultHeaders());
@@ -123,6 +119,7 @@ void FHttpServer::Run(std::vector<FRoute> Routes, FOwnAddresses Addresses)
 void FHttpServer::Stop()
 {
 	Gate.Open();
+	Http.Disconnect();
 	Http.stop();
 	if (Thread.joinable())
 	{

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Http/BoundedTaskQueue.h"
+#include "Http/ConnectionServer.h"
 #include "Http/RequestRules.h"
 
 #include <memory>
@@ -22,12 +23,12 @@ public:
 	// Once, after Bind.
 	void Run(std::vector<FRoute> Routes, FOwnAddresses Addresses);
 
-	// Serves what has begun to its end, and waits for that.
+	// Breaks off what is being served, and waits for the threads.
 	void Stop();
 
 private:
 	FConnectionGate Gate;
-	httplib::Server Http;
+	FConnectionServer Http;
 	std::unique_ptr<FRequestRules> Rules;
 	std::thread Thread;
 };
