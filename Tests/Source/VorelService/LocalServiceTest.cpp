@@ -326,3 +326,25 @@ TEST_F(FLocalServiceTest, BreaksOffTheAnswersUnderWayWhenItStops)
 	Service.reset();
 	Client.join();
 }
+
+TEST_F(FLocalServiceTest, DoesNotWaitForWhoStillSendsWhenItStops)
+{
+	std::promise<void> Head;
+	std::future<void> Begun = Head.get_future();
+	std::thread Client(
+		[Head = std::move(Head), To = Connect(*Service)]() mutable
+		{
+			const auto SendByte = [&Head](std::size_t Sent, std::size_t, httplib::DataSink& Sink)
+			{
+				if (Sent == 1)
+				{
+					Head.set_value();
+				}
+				return Sink.write("x", 1);
+			};
+			EXPECT_FALSE(To->Post("/v1/chat/completions", MakeStreamRequest().headers, 10'000'000, SendByte, "application/json"));
+		});
+	Begun.get();
+	Service.reset();
+	Client.join();
+}
