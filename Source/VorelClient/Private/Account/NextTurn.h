@@ -26,7 +26,6 @@ public:
 
 	// Anew where it was asked for already.
 	void Ask(double Seconds = 0.0) { Timer.start(FMath::CeilToInt(Seconds * 1000.0)); }
-	void Forget() { Timer.stop(); }
 
 private:
 	TFunction<void()> OnTurn;

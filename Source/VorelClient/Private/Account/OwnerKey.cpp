@@ -1,18 +1,12 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-// Qt's headers come before the engine's, whose macros they don't survive.
-#include <QRandomGenerator>
-
 #include "Account/NextTurn.h"
-#include "Http/QtText.h"
-
 #include "Account/OwnerKey.h"
+#include "Account/Secrets.h"
 
 FOwnerKey::FOwnerKey()
+	: Key(Secrets::MakeRandom().c_str())
 {
-	quint32 Numbers[8];
-	QRandomGenerator::system()->fillRange(Numbers);
-	Key = ToFString(QString::fromLatin1(QByteArray(reinterpret_cast<const char*>(Numbers), sizeof(Numbers)).toHex()));
 }
 
 TSharedPtr<void> FOwnerKey::RequestToken(const FString& RefusedToken, TFunction<void(const FString& Token)> OnToken)

@@ -8,7 +8,6 @@
 class FOwnerKey final : public IAccessTokenSource
 {
 public:
-	// From the system's own source of random numbers.
 	FOwnerKey();
 
 	const FString& Get() const { return Key; }
@@ -16,5 +15,5 @@ public:
 	TSharedPtr<void> RequestToken(const FString& RefusedToken, TFunction<void(const FString& Token)> OnToken) override;
 
 private:
-	FString Key;
+	const FString Key;
 };

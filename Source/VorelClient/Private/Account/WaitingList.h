@@ -16,8 +16,6 @@ public:
 		return Handle;
 	}
 
-	bool IsEmpty() const { return Waiters.IsEmpty(); }
-
 	// Lets everybody go for whom the answer, which may do anything to this list, returns true.
 	template <class AnswerType>
 	void Answer(const AnswerType& Answer)

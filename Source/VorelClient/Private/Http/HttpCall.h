@@ -27,8 +27,8 @@ struct FHttpRequest
 };
 
 // One exchange with a server on the game thread's event loop, with separate limits for connecting, the first byte and the pauses between
-// bytes. Redirects are followed within the origin alone, so that keys, tokens and
-// what is posted never leave it. Destroying the call hangs up in silence.
+// bytes. Redirects are followed within the origin alone, so that keys, tokens and what is posted never leave it. Destroying the call hangs
+// up in silence.
 class FHttpCall final : public QObject
 {
 public:
