@@ -37,6 +37,10 @@ ERedirect FAuthorizationRequest::Judge(const FFormFields& Redirect) const
 	{
 		return ERedirect::OtherLogin;
 	}
+	if (HasRepeatedField(Redirect))
+	{
+		return ERedirect::Incomplete;
+	}
 	const std::string Sender = GetField(Redirect, "iss");
 	if (Sender != Server.Issuer && (Server.bNamesItself || !Sender.empty()))
 	{

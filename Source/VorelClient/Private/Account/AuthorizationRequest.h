@@ -16,7 +16,7 @@ enum class ERedirect : uint8
 	OtherLogin,
 	// From another server than the one that was asked.
 	OtherServer,
-	// Neither a code nor an error.
+	// Neither a code nor an error, or something twice.
 	Incomplete
 };
 

@@ -4,6 +4,7 @@
 
 #include "Http/Form.h"
 #include <algorithm>
+#include <set>
 
 namespace
 {
@@ -51,6 +52,12 @@ std::string GetField(const FFormFields& Fields, std::string_view Name)
 	};
 	const auto Found = std::find_if(Fields.begin(), Fields.end(), HasName);
 	return std::count_if(Fields.begin(), Fields.end(), HasName) == 1 ? Found->second : std::string();
+}
+
+bool HasRepeatedField(const FFormFields& Fields)
+{
+	std::set<std::string_view> Names;
+	return !std::all_of(Fields.begin(), Fields.end(), [&Names](const auto& Field) { return Names.insert(Field.first).second; });
 }
 
 FHttpRequest MakeFormRequest(const std::string& Url, const FFormFields& Fields)

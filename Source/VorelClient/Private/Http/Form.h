@@ -19,4 +19,6 @@ FFormFields ReadForm(std::string_view Text);
 // Empty where the field is missing, or stands there more than once and so says nothing.
 std::string GetField(const FFormFields& Fields, std::string_view Name);
 
+bool HasRepeatedField(const FFormFields& Fields);
+
 FHttpRequest MakeFormRequest(const std::string& Url, const FFormFields& Fields);
