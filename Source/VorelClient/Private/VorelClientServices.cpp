@@ -180,8 +180,9 @@ FLoginOptions FVorelClientServices::MakeLoginOptions() const
 	Login.Issuer = Options.Issuer.IsEmpty() ? ServiceUrl : Options.Issuer;
 	Login.ClientId = Options.Issuer.IsEmpty() ? FString(TEXT("vorel-editor")) : Options.ClientId;
 	Login.DataFolder = Folder;
-	// The embedded service has another port each time, and its accounts lie in the data folder.
-	Login.KeyringAccount = bOwnLogin ? TEXT("local ") + MakeCanonical(Folder) : Login.Issuer + TEXT(" ") + Login.ClientId;
+	// The embedded service has another port each time. Each data folder has a login of its own.
+	Login.KeyringAccount =
+		(bOwnLogin ? FString(TEXT("local")) : Login.Issuer + TEXT(" ") + Login.ClientId) + TEXT(" ") + MakeCanonical(Folder);
 	Login.bUseKeyring = !Folder.IsEmpty() && !(Store && FString(Store) == TEXT("none"));
 	Login.bAllowTokenFile = UVorelUserSettings::Get()->GetValues().bAllowTokenFile;
 	return Login;

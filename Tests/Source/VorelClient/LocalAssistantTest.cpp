@@ -9,6 +9,7 @@
 #include "VorelClient.h"
 #include "VorelClientOptions.h"
 #include "VorelSettings.h"
+#include "VorelUserSettings.h"
 #include <cstdlib>
 #include <filesystem>
 
@@ -64,6 +65,23 @@ TEST_F(FLocalAssistantTest, AnswersFromTheGuideWhoeverSignsUsersIn)
 	const FString Told = Ask(TEXT("How do I set a timer?"));
 	EXPECT_TRUE(Told.Contains(TEXT("From its article **Timers**"))) << Told.Left(200);
 	EXPECT_TEXT(FVorelClient::Get().GetChatService()->GetCurrentConversation()->Messages.Last()->Contents[0]->Text, Told);
+}
+
+// What one of them noted is nothing to the others.
+TEST_F(FLocalAssistantTest, EachDataFolderHasALoginOfItsOwn)
+{
+	Folder.Write(TEXT("settings.json"), R"({"allowTokenFile": true})");
+	UVorelUserSettings::Get()->Load(Folder.GetPath(TEXT("settings.json")));
+	for (const bool bHere : {true, false})
+	{
+		const std::string Account = std::string("http://127.0.0.1:9 vorel-editor ") + TCHAR_TO_UTF8(*Folder.GetPath()) + (bHere ? "" : "2");
+		Folder.Write(TEXT("login.json"), R"({"logins": {")" + Account + R"(": "file"}})");
+		std::filesystem::permissions(*Folder.GetPath(TEXT("login.json")), std::filesystem::perms(0600));
+		Load({.ServiceUrl = TEXT("http://127.0.0.1:9")});
+		EXPECT_EQ(FVorelClient::Get().GetAuthService()->IsAuthenticated(), bHere);
+		FModuleManager::Get().UnloadModule(TEXT("VorelClient"));
+	}
+	UVorelUserSettings::Get()->Load(FString());
 }
 
 TEST_F(FLocalAssistantTest, KeepsItsServicesUntilItIsUnloaded)
