@@ -9,14 +9,21 @@
 #include "Http/Form.h"
 #include "Http/JsonText.h"
 
-FLoginTest::FLoginTest()
+FLoginOptions MakeFileLogin(const FString& Issuer, const FString& DataFolder)
 {
-	Options.Issuer = FString(Server.GetAddress().constData());
+	FLoginOptions Options;
+	Options.Issuer = Issuer;
 	Options.ClientId = TEXT("vorel-editor");
-	Options.DataFolder = Folder.GetPath();
+	Options.DataFolder = DataFolder;
 	Options.KeyringAccount = TEXT("local test");
 	Options.bUseKeyring = false;
 	Options.bAllowTokenFile = true;
+	return Options;
+}
+
+FLoginTest::FLoginTest()
+	: Options(MakeFileLogin(FString(Server.GetAddress().constData()), Folder.GetPath()))
+{
 	Options.Clock = {[this] { return Now; },
 		[this]
 		{
@@ -88,13 +95,18 @@ FString FLoginTest::WaitForEnd()
 
 void FLoginTest::LogIn(const QByteArray& Tokens)
 {
+	LogInUnstored(Tokens);
+	EXPECT_TRUE(PumpUntil([this] { return IsNoted("secret store") || IsNoted("file"); }));
+}
+
+void FLoginTest::LogInUnstored(const QByteArray& Tokens)
+{
 	Server.Then(ReplyMetadata(Server));
 	Server.Then(ReplyJson("200 OK", Tokens));
 	OpenPage();
 	Browse(MakeRedirect());
 	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed in."));
 	EXPECT_TRUE(Service().IsAuthenticated());
-	EXPECT_TRUE(PumpUntil([this] { return !Options.bAllowTokenFile || !Folder.Read(TEXT("login.json")).empty(); }));
 }
 
 FString FLoginTest::GetToken(const FString& RefusedToken)

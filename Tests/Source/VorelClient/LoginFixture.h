@@ -15,9 +15,6 @@ protected:
 	FLoginTest();
 	~FLoginTest() override;
 
-	// Takes effect where it is called before the first use of the service.
-	FLoginOptions Options;
-
 	UOAuthAuthenticationService& Service();
 	// As at the end of the program; the next use begins anew.
 	void EndService();
@@ -26,8 +23,11 @@ protected:
 	void OpenPage();
 	// Until the delegate fired; returns what the user was told since the last time, and expects that it fired once.
 	FString WaitForEnd();
-	// All of it: page, name, tokens.
+	// All of it: page, name, tokens, and the note of where they lie.
 	void LogIn(const QByteArray& Tokens);
+	void LogInUnstored(const QByteArray& Tokens);
+	// Whether the marker says so.
+	bool IsNoted(const char* Words) const { return Folder.Read(TEXT("login.json")).find(Words) != std::string::npos; }
 	// Waits for a token; "none" where there is none.
 	FString GetToken(const FString& RefusedToken = FString());
 
@@ -44,6 +44,8 @@ protected:
 
 	FTempFolder Folder;
 	FScriptedServer Server;
+	// Takes effect where it is called before the first use of the service.
+	FLoginOptions Options;
 	FLogCapture Log;
 	TArray<FString> OpenedPages;
 	bool bBrowser = true;
@@ -56,6 +58,9 @@ protected:
 private:
 	TObjectPtr<UOAuthAuthenticationService> Made;
 };
+
+// Of a public client whose tokens lie in a file.
+FLoginOptions MakeFileLogin(const FString& Issuer, const FString& DataFolder);
 
 FScriptedServer::FHandler ReplyJson(const QByteArray& Status, const QByteArray& Json, const QByteArray& Headers = {});
 // "http://host:port" of its issuer; with members in place of the usual ones, and without those that are null.

@@ -1,14 +1,37 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "LoginFixture.h"
+// Qt's headers come before the engine's, whose macros they don't survive.
+#include <QCoreApplication>
+#include <QProcess>
 
-#include "Account/AuthorizationMetadata.h"
-#include "Account/LoginSession.h"
+#include "LoginFixture.h"
+#include "RenewingProgram.h"
+
 #include "Http/Form.h"
+#include "Http/QtText.h"
+#include <csignal>
 #include <filesystem>
+#include <sys/resource.h>
 
 namespace
 {
+// Nothing can be written to any file as long as it lives.
+class FFullDisk
+{
+public:
+	FFullDisk()
+	{
+		std::signal(SIGXFSZ, SIG_IGN);
+		::getrlimit(RLIMIT_FSIZE, &Before);
+		const rlimit None{0, Before.rlim_max};
+		::setrlimit(RLIMIT_FSIZE, &None);
+	}
+	~FFullDisk() { ::setrlimit(RLIMIT_FSIZE, &Before); }
+
+private:
+	rlimit Before{};
+};
+
 constexpr const TCHAR* Ended = TEXT("Your sign-in has ended. Click \"Log in\" to sign in again.");
 } // namespace
 
@@ -88,6 +111,7 @@ TEST_F(FLoginTest, OnlyARefusalOfTheServerEndsALogin)
 	EXPECT_FALSE(Service().IsAuthenticated());
 }
 
+// Of storing a new login, too.
 TEST_F(FLoginTest, ALogoutWinsAtAnyMomentOfARenewal)
 {
 	const FScriptedServer::FHandler ServeAll = [this, &ServeAll](const FExchange& Exchange)
@@ -96,12 +120,11 @@ TEST_F(FLoginTest, ALogoutWinsAtAnyMomentOfARenewal)
 		(Exchange.Path.startsWith("/.well-known") ? ReplyMetadata(Server) : ReplyJson("200 OK", MakeTokens("1")))(Exchange);
 	};
 	Server.Then(ServeAll);
-	for (int32 Moment = 0; Moment < 8; ++Moment)
+	for (int32 Moment = 0; Moment < 12; ++Moment)
 	{
 		OpenPage();
 		Browse(MakeRedirect());
 		EXPECT_TEXT(WaitForEnd(), TEXT("You are signed in."));
-		EXPECT_TRUE(PumpUntil([this] { return Folder.Read(TEXT("login.json")).find("file") != std::string::npos; }));
 		FString Token = TEXT("?");
 		const TSharedPtr<void> Request =
 			Service().GetTokens().RequestToken(TEXT("access-1"), [&Token](const FString& Given) { Token = Given; });
@@ -110,39 +133,42 @@ TEST_F(FLoginTest, ALogoutWinsAtAnyMomentOfARenewal)
 		EXPECT_TEXT(WaitForEnd(), TEXT("You are signed out."));
 		EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().last().Path == "/revoke"; }));
 		EXPECT_FALSE(Token.Contains(TEXT("access")));
-		EXPECT_TRUE(PumpUntil([this] { return Folder.Read(TEXT("login.json")).find("signed out") == std::string::npos; }));
+		EXPECT_TRUE(PumpUntil([this] { return !IsNoted("signed out"); }));
 		EndService();
 		EXPECT_FALSE(Service().IsAuthenticated()) << Moment;
 	}
 }
 
-// Two programs on one folder.
 TEST_F(FLoginTest, ProgramsDoNotLogEachOtherOut)
 {
+	// This one knows the folder by another name.
+	const FTempFolder Elsewhere;
+	Options.DataFolder = Elsewhere.GetPath(TEXT("link"));
+	std::filesystem::create_directory_symlink(*Folder.GetPath(), *Options.DataFolder);
 	LogIn(MakeTokens("1"));
-	FAuthorizationMetadata Metadata(Options.Issuer, Options.Limits.Http);
-	FLoginSession Other(Options, Metadata);
-	int32 OtherEnded = 0;
-	Other.OnChanged = [&OtherEnded]
+	QProcess Other;
+	Other.setProcessChannelMode(QProcess::MergedChannels);
+	Other.start(QCoreApplication::applicationFilePath(),
+		{QLatin1String(FRenewingProgram::Switch), ToQString(Options.Issuer), ToQString(Folder.GetPath())});
+	QByteArray Said;
+	const auto Hears = [&Other, &Said](const char* Words)
 	{
-		++OtherEnded;
+		return PumpUntil([&Other, &Said, Words] { return (Said += Other.readAll()).contains(Words); });
 	};
-	EXPECT_TRUE(Other.IsSignedIn());
+
+	// Both at once: the server sees one renewal.
 	FExchange Slow;
 	Server.Then([&Slow](const FExchange& Exchange) { Slow = Exchange; });
-	TArray<FString> Tokens;
-	const auto Take = [&Tokens](const FString& Token)
-	{
-		Tokens.Add(Token);
-	};
-	const TSharedPtr<void> First = Service().GetTokens().RequestToken(TEXT("access-1"), Take);
+	FString Token;
+	const TSharedPtr<void> Request =
+		Service().GetTokens().RequestToken(TEXT("access-1"), [&Token](const FString& Given) { Token = Given; });
 	ASSERT_TRUE(PumpUntil([&Slow] { return Slow.Socket != nullptr; }));
-	const TSharedPtr<void> Second = Other.RequestToken(TEXT("access-1"), Take);
-	PumpUntil([Turns = 0]() mutable { return ++Turns > 20; });
-	EXPECT_TRUE(Tokens.IsEmpty());
+	Other.write("access-1\n");
+	ASSERT_TRUE(Hears("asked")) << Said.toStdString();
+	EXPECT_TRUE(Token.IsEmpty() && Said == "asked\n") << Said.toStdString();
 	Slow.SendReply("200 OK", "application/json", MakeTokens("2"));
-	ASSERT_TRUE(PumpUntil([&Tokens] { return Tokens.Num() == 2; }));
-	EXPECT_TEXT(FString::Join(Tokens, TEXT(" ")), TEXT("access-2 access-2"));
+	ASSERT_TRUE(Hears("access-2\n")) << Said.toStdString();
+	EXPECT_TRUE(PumpUntil([&Token] { return Token == TEXT("access-2"); }));
 	EXPECT_EQ(Server.GetExchanges().size(), 3);
 
 	// A logout is for both.
@@ -150,13 +176,44 @@ TEST_F(FLoginTest, ProgramsDoNotLogEachOtherOut)
 	Service().Logout();
 	WaitForEnd();
 	EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().size() == 4; }));
-	const TSharedPtr<void> Third = Other.RequestToken(TEXT("access-2"), Take);
-	ASSERT_TRUE(PumpUntil([&Tokens] { return Tokens.Num() == 3; }));
-	EXPECT_TRUE(Tokens[2].IsEmpty());
-	EXPECT_FALSE(Other.IsSignedIn());
-	EXPECT_EQ(OtherEnded, 1);
-	EXPECT_TRUE(Log.Has(
-		"LogVorelAccount", ELogVerbosity::Warning, TEXT("You were signed out in another window. Click \"Log in\" to sign in again.")));
+	Other.write("access-2\n");
+	EXPECT_TRUE(Hears("none\n")) << Said.toStdString();
+	EXPECT_TRUE(Said.contains("Warning: You were signed out in another window. Click \"Log in\" to sign in again.")) << Said.toStdString();
+	Other.closeWriteChannel();
+	EXPECT_TRUE(PumpUntil([&Other] { return Other.state() == QProcess::NotRunning; }));
+	EXPECT_EQ(Other.exitCode(), 0);
+}
+
+TEST_F(FLoginTest, WhatCantBeStoredHoldsForThisRun)
+{
+	const auto RenewUnstored = [this]
+	{
+		Server.Then(ReplyJson("200 OK", MakeTokens("2")));
+		EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("access-2"));
+		EXPECT_TRUE(Log.Has("LogVorelAccount", ELogVerbosity::Display,
+			TEXT("You stay signed in until Vorel AI is closed: the sign-in could not be stored on this computer. The disk may be full, or "
+				 "the data folder closed to writing.")))
+			<< Log.Dump();
+		// What the server has replaced is nowhere.
+		EXPECT_TRUE(std::filesystem::is_empty(*Folder.GetPath(TEXT("tokens"))));
+		EXPECT_TRUE(Service().IsAuthenticated());
+	};
+	// No note can be made.
+	std::filesystem::create_directories(*Folder.GetPath(TEXT("login.json/in the way")));
+	LogInUnstored(MakeTokens("1"));
+	RenewUnstored();
+	EndService();
+	EXPECT_FALSE(Service().IsAuthenticated());
+	Log.Clear();
+
+	std::filesystem::remove_all(*Folder.GetPath(TEXT("login.json")));
+	LogIn(MakeTokens("1"));
+	{
+		const FFullDisk FullDisk;
+		RenewUnstored();
+	}
+	EndService();
+	EXPECT_FALSE(Service().IsAuthenticated());
 }
 
 TEST_F(FLoginTest, ALogoutHoldsThoughTheProgramEndsAtOnce)
@@ -164,11 +221,11 @@ TEST_F(FLoginTest, ALogoutHoldsThoughTheProgramEndsAtOnce)
 	LogIn(MakeTokens("1"));
 	Service().Logout();
 	EndService();
-	EXPECT_NE(Folder.Read(TEXT("login.json")).find("signed out"), std::string::npos);
+	EXPECT_TRUE(IsNoted("signed out"));
 	Server.Then(ReplyMetadata(Server));
 	EXPECT_FALSE(Service().IsAuthenticated());
 	EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().last().Path == "/revoke"; }));
 	EXPECT_TRUE(Server.GetExchanges().last().Body.contains("token=refresh-1&"));
-	EXPECT_TRUE(PumpUntil([this] { return Folder.Read(TEXT("login.json")).find("signed out") == std::string::npos; }));
+	EXPECT_TRUE(PumpUntil([this] { return !IsNoted("signed out"); }));
 	EXPECT_TRUE(std::filesystem::is_empty(TCHAR_TO_UTF8(*Folder.GetPath(TEXT("tokens")))));
 }

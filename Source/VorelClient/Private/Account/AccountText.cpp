@@ -17,11 +17,14 @@ static FText Quote(const FString& ForeignText)
 
 FText AccountText::BadIssuer(const FString& Issuer)
 {
+	// Before it may stand a password.
+	int32 At = INDEX_NONE;
+	Issuer.FindLastChar(TEXT('@'), At);
 	return Issuer.IsEmpty()
 			   ? LOCTEXT("NoIssuer", "There is no service to sign in to. The log tells why.")
 			   : FText::Format(LOCTEXT("BadIssuer", "\"{0}\" is no address to sign in at. It must begin with https://, or with http:// "
 													"where it is on this computer."),
-					 Quote(Issuer));
+					 Quote(Issuer.RightChop(At + 1)));
 }
 
 FText AccountText::OtherIssuer(const FString& Issuer, const FString& Named)
@@ -125,16 +128,28 @@ FText AccountText::SignedOut()
 	return LOCTEXT("SignedOut", "You are signed out.");
 }
 
-FText AccountText::OnlyThisRun()
+FText AccountText::NoSecretStore()
 {
-	return LOCTEXT("OnlyThisRun", "You stay signed in until Vorel AI is closed: this desktop has no password store that it could use. The "
-								  "setting allowTokenFile lets "
-								  "it use a file instead.");
+	return LOCTEXT("NoSecretStore",
+		"You stay signed in until Vorel AI is closed: this desktop has no password store that it could use. The setting allowTokenFile "
+		"lets it use a file instead.");
+}
+
+FText AccountText::NotStored()
+{
+	return LOCTEXT("NotStored",
+		"You stay signed in until Vorel AI is closed: the sign-in could not be stored on this computer. The disk may be full, or the data "
+		"folder closed to writing.");
 }
 
 FText AccountText::StoreBusy()
 {
-	return LOCTEXT("StoreBusy", "Another window of Vorel AI is busy with it.");
+	return LOCTEXT("StoreBusy", "Another window of Vorel AI is busy with it, or the data folder is closed to writing.");
+}
+
+FText AccountText::StoreLocked()
+{
+	return LOCTEXT("StoreLocked", "It can't be read from this desktop's password store. Unlock it and try again.");
 }
 
 FText AccountText::NotRenewed(const FText& Reason)

@@ -26,8 +26,11 @@ FText RefusedInBrowser(const FString& Error);
 // Of a login that had worked.
 FText SignedIn();
 FText SignedOut();
-FText OnlyThisRun();
+// It holds for this run.
+FText NoSecretStore();
+FText NotStored();
 FText StoreBusy();
+FText StoreLocked();
 FText NotRenewed(const FText& Reason);
 FText Ended();
 FText EndedElsewhere();

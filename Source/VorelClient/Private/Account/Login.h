@@ -18,7 +18,7 @@ public:
 	// Tokens: unset where nobody signed in; then the sentence says why.
 	using FOnEnded = TFunction<void(const TOptional<FTokenSet>& Tokens, const FText& Failure)>;
 
-	// Metadata must outlive the login. OnEnded is called once, not before this returns, and may destroy the login.
+	// Options and metadata must outlive the login. OnEnded is called once, not before this returns, and may destroy the login.
 	FLogin(const FLoginOptions& InOptions, FAuthorizationMetadata& Metadata, FOnEnded InOnEnded);
 	~FLogin();
 
@@ -28,7 +28,7 @@ private:
 	void HandleAccepted();
 	void End(const TOptional<FTokenSet>& Tokens, const FText& Failure);
 
-	const FLoginOptions Options;
+	const FLoginOptions& Options;
 	FOnEnded OnEnded;
 	FNextTurn Limit;
 	TSharedPtr<void> MetadataRequest;

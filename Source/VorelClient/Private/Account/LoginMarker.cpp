@@ -44,11 +44,11 @@ ETokenPlace FLoginMarker::Read() const
 	return ETokenPlace::None;
 }
 
-void FLoginMarker::Write(ETokenPlace Place) const
+bool FLoginMarker::Write(ETokenPlace Place) const
 {
 	if (File.IsEmpty() || Place == Read())
 	{
-		return;
+		return true;
 	}
 	FJson Known = ReadLogins(File);
 	if (Place == ETokenPlace::None)
@@ -60,5 +60,10 @@ void FLoginMarker::Write(ETokenPlace Place) const
 		Known[ToUtf8(Account)] = GetName(Place);
 	}
 	PrivateFile::MakeFolder(FPaths::GetPath(File));
-	PrivateFile::Write(File, FJson{{Logins, Known}}.dump(1, '\t'));
+	const bool bWritten = PrivateFile::Write(File, FJson{{Logins, Known}}.dump(1, '\t'));
+	if (!bWritten)
+	{
+		PrivateFile::Remove(File);
+	}
+	return bWritten;
 }

@@ -22,7 +22,8 @@ public:
 	FLoginMarker(const FString& DataFolder, const FString& InAccount);
 
 	ETokenPlace Read() const;
-	void Write(ETokenPlace Place) const;
+	// Where it can't be noted, nothing is: better nobody is signed in than somebody who signed out.
+	bool Write(ETokenPlace Place) const;
 
 private:
 	const FString File;

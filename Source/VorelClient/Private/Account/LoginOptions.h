@@ -14,8 +14,8 @@ struct FLoginLimits
 	double SecretStore = 5.0;
 	// An access token with less time left is renewed first.
 	double Margin = 60.0;
-	// For another program that is just renewing the tokens.
-	double Lock = 30.0;
+	// For another program that is just renewing the tokens: longer than all that it may wait for.
+	double Lock = 150.0;
 	// Of a browser's connection that sends no whole request.
 	double Connection = 10.0;
 	FRequestLimits Http{.Connect = 10.0, .FirstByte = 20.0, .BetweenBytes = 10.0};

@@ -13,12 +13,15 @@ FLoginSession::FLoginSession(const FLoginOptions& InOptions, FAuthorizationMetad
 	, Metadata(InMetadata)
 	, Store(Options)
 	, bSignedIn(Store.HasTokens())
-	, bForgetLoaded(Store.IsToBeCleared())
 	, NextTurn(MakeUnique<FNextTurn>([this] { Serve(); }))
 {
-	if (bSignedIn || bForgetLoaded)
+	if (bSignedIn)
 	{
 		Store.Load([this](ETokenLoad Load, const TOptional<FTokenSet>& Loaded) { HandleLoaded(Load, Loaded); });
+	}
+	else if (Store.IsToBeCleared())
+	{
+		ForgetStored();
 	}
 }
 
@@ -26,17 +29,8 @@ FLoginSession::~FLoginSession() = default;
 
 void FLoginSession::HandleLoaded(ETokenLoad Load, const TOptional<FTokenSet>& Loaded)
 {
-	if (Tokens)
-	{
-		// Somebody signed in anew meanwhile.
-		return;
-	}
 	Tokens = Loaded;
-	if (bForgetLoaded)
-	{
-		Forget();
-	}
-	else if (Load == ETokenLoad::Found)
+	if (Load == ETokenLoad::Found)
 	{
 		SignInLate();
 		Serve();
@@ -66,7 +60,6 @@ void FLoginSession::SignIn(const FTokenSet& InTokens)
 {
 	Renewal.Reset();
 	bSignedIn = true;
-	bForgetLoaded = false;
 	Tokens = InTokens;
 	TakeStoreTurn([this](const TFunction<void()>& OnDone) { Store.Save(*Tokens, OnDone); });
 	NextTurn->Ask();
@@ -82,11 +75,7 @@ void FLoginSession::SignOut()
 	Renewal.Reset();
 	Store.ForgetMarker();
 	NextTurn->Ask();
-	bForgetLoaded = !Tokens;
-	if (Tokens)
-	{
-		Forget();
-	}
+	Tokens ? Forget() : ForgetStored();
 }
 
 void FLoginSession::Forget()
@@ -99,8 +88,33 @@ void FLoginSession::Forget()
 	TakeStoreTurn([this](const TFunction<void()>& OnDone) { Store.Clear(OnDone); });
 }
 
+void FLoginSession::ForgetStored()
+{
+	TakeStoreTurn(
+		[this](const TFunction<void()>& OnDone)
+		{
+			if (!Store.IsToBeCleared())
+			{
+				// Another program has cleared it, or somebody is signed in anew there.
+				OnDone();
+				return;
+			}
+			Store.Load(
+				[this, OnDone](ETokenLoad, const TOptional<FTokenSet>& Loaded)
+				{
+					if (Loaded)
+					{
+						Revoke(*Loaded);
+					}
+					Store.Clear(OnDone);
+				});
+		});
+}
+
 void FLoginSession::TakeStoreTurn(TFunction<void(const TFunction<void()>&)> Work)
 {
+	// What was under way would end this turn with its own.
+	Store.Cancel();
 	const auto HandleDone = [this]
 	{
 		StoreTurn.Reset();

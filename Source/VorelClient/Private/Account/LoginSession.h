@@ -17,7 +17,7 @@ enum class ERenewal : uint8;
 class FLoginSession final : public IAccessTokenSource
 {
 public:
-	// Metadata must outlive the session. Whoever was signed in at the end of the last run is signed in.
+	// Both must outlive the session. Whoever was signed in at the end of the last run is signed in.
 	FLoginSession(const FLoginOptions& InOptions, FAuthorizationMetadata& InMetadata);
 	~FLoginSession() override;
 
@@ -47,17 +47,17 @@ private:
 	// Everybody gets what there is.
 	void ServeAll();
 	void Forget();
+	// What was signed out of before it was loaded, perhaps in the run before.
+	void ForgetStored();
 	// Work tells by its argument that it is done. No renewal begins before that.
 	void TakeStoreTurn(TFunction<void(const TFunction<void()>&)> Work);
 	void Revoke(const FTokenSet& Over);
 	void End(const FText& Failure);
 
-	const FLoginOptions Options;
+	const FLoginOptions& Options;
 	FAuthorizationMetadata& Metadata;
 	FTokenStore Store;
 	bool bSignedIn = false;
-	// Signed out before the tokens were loaded, or in the run before.
-	bool bForgetLoaded = false;
 	// Unset also while they are loaded.
 	TOptional<FTokenSet> Tokens;
 	TWaitingList<FWaiter> Waiting;

@@ -64,12 +64,13 @@ bool PrivateFile::MakeFolder(const FString& Folder)
 	std::filesystem::create_directories(std::filesystem::path(Path).parent_path(), Error);
 	::mkdir(Path.c_str(), S_IRWXU);
 	struct stat Status;
-	return ::lstat(Path.c_str(), &Status) == 0 && S_ISDIR(Status.st_mode) && Status.st_uid == ::geteuid();
+	return ::stat(Path.c_str(), &Status) == 0 && S_ISDIR(Status.st_mode) && Status.st_uid == ::geteuid();
 }
 
 bool PrivateFile::MakePrivateFolder(const FString& Folder)
 {
-	return MakeFolder(Folder) && ::chmod(TCHAR_TO_UTF8(*Folder), S_IRWXU) == 0;
+	const std::string Path = TCHAR_TO_UTF8(*Folder);
+	return MakeFolder(Folder) && !std::filesystem::is_symlink(Path) && ::chmod(Path.c_str(), S_IRWXU) == 0;
 }
 
 bool PrivateFile::Write(const FString& File, const std::string& Text)

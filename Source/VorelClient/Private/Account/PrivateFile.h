@@ -8,10 +8,10 @@
 // A small file that nobody but the user may read.
 namespace PrivateFile
 {
-// Makes the folder, for the user alone, where it is missing. False for one of another user, or a link.
+// Makes the folder, for the user alone, where it is missing. False for one of another user. May be a link.
 bool MakeFolder(const FString& Folder);
 
-// The same, and shuts others out of one that was there.
+// The same, but no link, and shuts others out of one that was there.
 bool MakePrivateFolder(const FString& Folder);
 
 // Whole or not at all.

@@ -21,6 +21,7 @@ static int OpenLockFile(const FString& DataFolder)
 
 FRefreshLock::FRefreshLock(const FString& DataFolder, double Seconds, TFunction<void(bool bTaken)> InOnEnded)
 	: OnEnded(::MoveTemp(InOnEnded))
+	, bNeeded(!DataFolder.IsEmpty())
 	, Descriptor(OpenLockFile(DataFolder))
 	, SecondsLeft(Seconds)
 	, NextTurn([this] { Try(); })
@@ -38,11 +39,12 @@ FRefreshLock::~FRefreshLock()
 
 void FRefreshLock::Try()
 {
-	if (Descriptor < 0 || ::flock(Descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK)
+	const bool bOpen = Descriptor >= 0;
+	if (bOpen ? ::flock(Descriptor, LOCK_EX | LOCK_NB) == 0 : !bNeeded)
 	{
 		End(true);
 	}
-	else if (SecondsLeft <= 0.0)
+	else if (!bOpen || errno != EWOULDBLOCK || SecondsLeft <= 0.0)
 	{
 		End(false);
 	}

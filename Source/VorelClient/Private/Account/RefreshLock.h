@@ -8,8 +8,8 @@
 class FRefreshLock final
 {
 public:
-	// bTaken false: another program holds it for longer than that. Where there can be no lock, it counts as taken. Never called before this
-	// returns, nor once the lock is gone, which lets others take it.
+	// bTaken false: another program holds it for longer than that, or the folder can't be written to. Without a folder it counts as taken.
+	// Never called before this returns, nor once the lock is gone, which lets others take it.
 	FRefreshLock(const FString& DataFolder, double Seconds, TFunction<void(bool bTaken)> InOnEnded);
 	~FRefreshLock();
 	FRefreshLock(const FRefreshLock&) = delete;
@@ -20,6 +20,7 @@ private:
 	void End(bool bTaken);
 
 	TFunction<void(bool)> OnEnded;
+	const bool bNeeded;
 	const int Descriptor;
 	double SecondsLeft;
 	FNextTurn NextTurn;

@@ -26,7 +26,8 @@ FTokenRenewal::~FTokenRenewal()
 
 void FTokenRenewal::HandleLock(bool bTaken)
 {
-	bTaken ? LookAndAsk() : End(ERenewal::Failed, AccountText::StoreBusy());
+	// What nobody else has needs no lock.
+	bTaken || !Store.IsShared() ? LookAndAsk() : End(ERenewal::Failed, AccountText::StoreBusy());
 }
 
 void FTokenRenewal::LookAndAsk()
@@ -50,7 +51,13 @@ void FTokenRenewal::HandleStored(ETokenLoad Load, const TOptional<FTokenSet>& St
 	Store.Cancel();
 	if (Load == ETokenLoad::Missing)
 	{
-		Store.Clear([this] { End(ERenewal::Ended, AccountText::EndedElsewhere()); });
+		Forget(AccountText::EndedElsewhere());
+		return;
+	}
+	if (Load == ETokenLoad::Unreadable && RefusedRefresh.empty())
+	{
+		// New tokens could not be kept, and those that are stored would be used up.
+		End(ERenewal::Failed, AccountText::StoreLocked());
 		return;
 	}
 	const bool bNew = Stored && Stored->Access != Tokens.Access;
@@ -69,7 +76,7 @@ void FTokenRenewal::Ask()
 {
 	if (Tokens.Refresh.empty() || Tokens.Refresh == RefusedRefresh)
 	{
-		Store.Clear([this] { End(ERenewal::Ended, AccountText::Ended()); });
+		Forget(AccountText::Ended());
 		return;
 	}
 	MetadataRequest = Metadata.Request(
@@ -102,6 +109,19 @@ void FTokenRenewal::HandleReply(const FTokenReply& Reply)
 		const std::string Former = Tokens.Refresh;
 		Tokens = *Reply.Tokens;
 		Tokens.Refresh = Tokens.Refresh.empty() ? Former : Tokens.Refresh;
+		HandleNew();
+	}
+}
+
+void FTokenRenewal::HandleNew()
+{
+	if (Store.IsShared() && !Store.HasTokens())
+	{
+		// Who signs out does not wait for the lock.
+		Forget(AccountText::EndedElsewhere());
+	}
+	else
+	{
 		Store.Save(Tokens, [this] { End(ERenewal::Renewed, FText()); });
 	}
 }
@@ -111,6 +131,19 @@ void FTokenRenewal::HandleRefusal()
 	// Where the lock does not work, another program may have been quicker; then what is stored now is another one.
 	RefusedRefresh = Tokens.Refresh;
 	LookAndAsk();
+}
+
+void FTokenRenewal::Forget(const FText& Reason)
+{
+	if (Store.IsShared())
+	{
+		Store.Clear([this, Reason] { End(ERenewal::Ended, Reason); });
+	}
+	else
+	{
+		// What is stored is another one's login.
+		End(ERenewal::Ended, Reason);
+	}
 }
 
 void FTokenRenewal::End(ERenewal Kind, const FText& Failure)

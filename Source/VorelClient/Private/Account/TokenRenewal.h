@@ -38,7 +38,9 @@ private:
 	void HandleStored(ETokenLoad Load, const TOptional<FTokenSet>& Stored);
 	void Ask();
 	void HandleReply(const FTokenReply& Reply);
+	void HandleNew();
 	void HandleRefusal();
+	void Forget(const FText& Reason);
 	void End(ERenewal Kind, const FText& Failure);
 
 	FTokenStore& Store;

@@ -59,11 +59,21 @@ void FTokenStore::Load(FOnLoaded OnLoaded)
 	}
 	Call = FSecretStoreCall::Read(Options.KeyringAccount, Options.Limits.SecretStore,
 		[this, OnLoaded](ESecretStoreEnd End, const std::string& Secret)
-		{ End == ESecretStoreEnd::Failed ? OnLoaded(ETokenLoad::Unreadable, {}) : Report(OnLoaded, Secret, Options.Clock); });
+		{
+			// One that stays locked says that it holds nothing. But whoever signs out notes that first.
+			const bool bLocked = End == ESecretStoreEnd::Missing && Marker.Read() == ETokenPlace::SecretStore;
+			End == ESecretStoreEnd::Failed || bLocked ? OnLoaded(ETokenLoad::Unreadable, {}) : Report(OnLoaded, Secret, Options.Clock);
+		});
 }
 
 void FTokenStore::LoadFile(const FOnLoaded& OnLoaded)
 {
+	if (GetPlace() == ETokenPlace::SecretStore)
+	{
+		// Another program has just moved them.
+		Load(OnLoaded);
+		return;
+	}
 	std::string Stored;
 	const bool bHere = GetPlace() == ETokenPlace::File;
 	const PrivateFile::ERead Read = bHere ? PrivateFile::Read(TokenFile, Stored) : PrivateFile::ERead::Missing;
@@ -97,20 +107,23 @@ bool FTokenStore::SaveFile(const FTokenSet& Tokens) const
 
 void FTokenStore::HandleSaved(ETokenPlace Place, const TFunction<void()>& OnSaved)
 {
-	if (Place != ETokenPlace::File)
+	bShared = Place != ETokenPlace::None && Marker.Write(Place);
+	if (!bShared || Place != ETokenPlace::File)
 	{
+		// What lies there is used up, and must not be sent again.
 		RemoveFile();
 	}
-	bShared = Place != ETokenPlace::None;
-	if (bShared)
-	{
-		Marker.Write(Place);
-	}
-	else
+	if (!bShared)
 	{
 		ForgetMarker();
-		UE_CLOG(!bNoticeGiven, LogVorelAccount, Display, TEXT("%s"), *AccountText::OnlyThisRun().ToString());
+		const bool bFull = Place != ETokenPlace::None || Options.bAllowTokenFile || Options.DataFolder.IsEmpty();
+		UE_CLOG(!bNoticeGiven, LogVorelAccount, Display, TEXT("%s"),
+			*(bFull ? AccountText::NotStored() : AccountText::NoSecretStore()).ToString());
 		bNoticeGiven = true;
+	}
+	if (!bShared && Place == ETokenPlace::SecretStore)
+	{
+		Call = FSecretStoreCall::Delete(Options.KeyringAccount, Options.Limits.SecretStore, [](ESecretStoreEnd, const std::string&) {});
 	}
 	OnSaved();
 }
@@ -134,7 +147,19 @@ void FTokenStore::Clear(TFunction<void()> OnCleared)
 		Later([HandleCleared] { HandleCleared(ESecretStoreEnd::Done, std::string()); });
 		return;
 	}
-	Call = FSecretStoreCall::Delete(Options.KeyringAccount, Options.Limits.SecretStore, HandleCleared);
+	const auto Delete = [this, HandleCleared]
+	{
+		Call = FSecretStoreCall::Delete(Options.KeyringAccount, Options.Limits.SecretStore, HandleCleared);
+	};
+	if (!IsToBeCleared())
+	{
+		Delete();
+		return;
+	}
+	// One that stays locked pretends to delete, but lets nobody write.
+	Call = FSecretStoreCall::Write(Options.KeyringAccount, "{}", Options.Limits.SecretStore,
+		[Delete, HandleCleared](ESecretStoreEnd End, const std::string&)
+		{ End == ESecretStoreEnd::Done ? Delete() : HandleCleared(End, std::string()); });
 }
 
 void FTokenStore::RemoveFile() const

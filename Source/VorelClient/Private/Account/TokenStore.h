@@ -23,6 +23,7 @@ class FTokenStore final
 public:
 	using FOnLoaded = TFunction<void(ETokenLoad Load, const TOptional<FTokenSet>& Tokens)>;
 
+	// The options must outlive it.
 	explicit FTokenStore(const FLoginOptions& InOptions);
 	~FTokenStore();
 
@@ -55,7 +56,7 @@ private:
 	void HandleSaved(ETokenPlace Place, const TFunction<void()>& OnSaved);
 	void Later(TFunction<void()> Action);
 
-	const FLoginOptions Options;
+	const FLoginOptions& Options;
 	const FLoginMarker Marker;
 	const FString TokenFile;
 	bool bShared = false;
