@@ -5,6 +5,7 @@
 #include "Store/ConversationSchema.h"
 #include "Store/SqliteDatabase.h"
 #include "Store/StoreSchema.h"
+#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <thread>
 
@@ -146,6 +147,7 @@ TEST_F(FStoreTest, MigratesStepByStepWithABackup)
 	Folder.Write(*(FString(FConversationStore::FileName) + TEXT(".version-1")), "rubbish");
 	Prepare(Newer);
 	EXPECT_EQ(FSqliteDatabase(StoreFile + TEXT(".version-1"), false).ReadNumber("PRAGMA user_version"), 1);
+	EXPECT_EQ(std::filesystem::status(TCHAR_TO_UTF8(StoreFile + TEXT(".version-1"))).permissions(), std::filesystem::perms(0600));
 	EXPECT_THROW(Prepare(Broken), FStoreError);
 	EXPECT_EQ(FSqliteDatabase(StoreFile, false).ReadNumber("SELECT a FROM extra"), 7);
 	EXPECT_EQ(FSqliteDatabase(StoreFile, false).ReadNumber("PRAGMA user_version"), 2);

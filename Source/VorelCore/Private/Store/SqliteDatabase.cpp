@@ -3,9 +3,11 @@
 #include "Store/SqliteDatabase.h"
 
 #include <chrono>
+#include <fcntl.h>
 #include <filesystem>
 #include <sqlite3.h>
 #include <thread>
+#include <unistd.h>
 
 namespace
 {
@@ -40,10 +42,27 @@ EStoreProblem FindProblem(int Code)
 		return EStoreProblem::Other;
 	}
 }
+
+// SQLite gives what it puts beside the file the same rights.
+void CreateForOwnerAlone(const FString& File)
+{
+	constexpr mode_t OwnerAlone = 0600;
+	const int Descriptor = ::open(TCHAR_TO_UTF8(File), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, OwnerAlone);
+	if (Descriptor >= 0)
+	{
+		::close(Descriptor);
+	}
+}
 } // namespace
+
+const TCHAR* const FSqliteDatabase::InMemory = TEXT(":memory:");
 
 FSqliteDatabase::FSqliteDatabase(const FString& File, bool bCreate)
 {
+	if (bCreate && !File.Equals(InMemory))
+	{
+		CreateForOwnerAlone(File);
+	}
 	const int Flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE | (bCreate ? SQLITE_OPEN_CREATE : 0);
 	const int Code = sqlite3_open_v2(TCHAR_TO_UTF8(File), &Connection, Flags, nullptr);
 	if (Code != SQLITE_OK)

@@ -12,7 +12,10 @@ struct sqlite3_stmt;
 class FSqliteDatabase
 {
 public:
-	// Without bCreate the file must be there. Neither opening nor closing changes it.
+	// Stands for a file, for as long as the connection lives.
+	static const TCHAR* const InMemory;
+
+	// Without bCreate the file must be there; a new one is for its owner alone. Neither opening nor closing changes it.
 	FSqliteDatabase(const FString& File, bool bCreate);
 	~FSqliteDatabase();
 	FSqliteDatabase(const FSqliteDatabase&) = delete;

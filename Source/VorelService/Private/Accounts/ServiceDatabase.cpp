@@ -6,31 +6,14 @@
 #include "Store/StoreSchema.h"
 
 #include <cctype>
-#include <fcntl.h>
-#include <unistd.h>
 
-namespace
+static FString ToFile(const std::string& File)
 {
-FString ToFile(const std::string& File)
-{
-	return File.empty() ? FString(TEXT(":memory:")) : FString(File.c_str());
+	return File.empty() ? FString(FSqliteDatabase::InMemory) : FString(File.c_str());
 }
-
-// SQLite gives the log beside the file the same rights.
-const std::string& MakePrivate(const std::string& File)
-{
-	constexpr mode_t OwnerAlone = 0600;
-	const int Descriptor = File.empty() ? -1 : ::open(File.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, OwnerAlone);
-	if (Descriptor >= 0)
-	{
-		::close(Descriptor);
-	}
-	return File;
-}
-} // namespace
 
 FServiceDatabase::FServiceDatabase(const std::string& File)
-	: Database(ToFile(MakePrivate(File)), true)
+	: Database(ToFile(File), true)
 {
 	PrepareStore(Database, ToFile(File), GetServiceSchema());
 }

@@ -27,7 +27,7 @@ std::vector<FGuideIndex::FHit> ReadHits(FSqliteStatement& Select)
 } // namespace
 
 FGuideIndex::FGuideIndex()
-	: Database(std::make_unique<FSqliteDatabase>(TEXT(":memory:"), true))
+	: Database(std::make_unique<FSqliteDatabase>(FSqliteDatabase::InMemory, true))
 {
 	Database->Execute("CREATE VIRTUAL TABLE Article USING fts5(Title, Keywords, Headings, Text, tokenize = 'porter unicode61');"
 					  "CREATE VIRTUAL TABLE Section USING fts5(Article UNINDEXED, Position UNINDEXED, Heading, Text,"
