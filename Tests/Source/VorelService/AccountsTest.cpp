@@ -73,7 +73,7 @@ TEST_F(FAccountsTest, KeepsADirectoryOfAccounts)
 		{"\x80", "long enough", "The name can't be read."},
 		{"Edsger", "short 7", "The password is too short. It needs at least 8 characters."},
 		{"Edsger", "\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9", "The password is too short. It needs at least 8 characters."},
-		{"Edsger W.", "long enough", ""},
+		{" Ådne Øster-Łódź 東京 ", "long enough", ""},
 	};
 	for (const auto& [Name, Password, Problem] : Rows)
 	{
@@ -82,20 +82,56 @@ TEST_F(FAccountsTest, KeepsADirectoryOfAccounts)
 	}
 	std::vector<std::string> Names;
 	EXPECT_TRUE(Accounts->List(Names, Error));
-	EXPECT_EQ(Names, std::vector<std::string>({"Ada", "Edsger W.", "Grace"}));
+	EXPECT_EQ(Names, std::vector<std::string>({"Ada", "Grace", "Ådne Øster-Łódź 東京"}));
 
 	const auto [Access, RefreshToken] = GetTokens(UseCode(GetCode("Ada", "password of ada")));
 	const auto [GraceAccess, Unused] = GetTokens(UseCode(GetCode("Grace", "password of grace")));
+	Cookie = CutValue(SignIn("Ada", "password of ada", {})->get_header_value("Set-Cookie"));
+	EXPECT_NE(GetBilling()->body.find("<bdi>Ada</bdi>"), std::string::npos);
 	EXPECT_TRUE(Accounts->SetPassword("ada", "another password", Error)) << Error;
+	EXPECT_EQ(GetBilling()->body.find("<bdi>Ada</bdi>"), std::string::npos);
 	EXPECT_EQ(GetUserStatus(Access), 401);
 	EXPECT_EQ(GetError(Refresh(RefreshToken)), "invalid_grant");
 	EXPECT_EQ(TryPassword("Ada", "password of ada"), 400);
 	EXPECT_EQ(TryPassword("Ada", "another password"), 303);
 	EXPECT_EQ(GetUserStatus(GraceAccess), 200);
+	Cookie = CutValue(SignIn("Grace", "password of grace", {})->get_header_value("Set-Cookie"));
 	EXPECT_TRUE(Accounts->Remove("GRACE", Error)) << Error;
 	EXPECT_EQ(GetUserStatus(GraceAccess), 401);
+	EXPECT_NE(GetBilling()->body.find("href=\"/login\""), std::string::npos);
 	EXPECT_FALSE(Accounts->Remove("Grace", Error));
 	EXPECT_EQ(Error, "There is no account of that name.");
+}
+
+TEST_F(FAccountsTest, LeavesTheNamesOfAccountsToThem)
+{
+	StartOnFile({});
+	EXPECT_EQ(GetError(SignIn("ada")), "That name is taken here.");
+	EXPECT_EQ(GetCode("ada"), "");
+	EXPECT_NE(GetCode("Lin"), "");
+}
+
+TEST_F(FAccountsTest, SignsNobodyInByAPasswordOfBefore)
+{
+	FFields Form = ReadForm(OpenLogin(MakeRequest())->body);
+	Form.insert({{"name", "Ada"}, {"password", "password of ada"}, {"action", "allow"}});
+	// One password is compared after the other, so that most wait while it is changed.
+	std::vector<std::string> Codes(5);
+	std::vector<std::thread> Clients;
+	for (std::string& Code : Codes)
+	{
+		Clients.emplace_back([&] { Code = GetQueryField(Connect(*Service)->Post("/login", Form)->get_header_value("Location"), "code"); });
+	}
+	std::string Error;
+	EXPECT_TRUE(FAccountDirectory::Open(GetDataFile(), Error)->SetPassword("Ada", "another password", Error)) << Error;
+	for (std::thread& Client : Clients)
+	{
+		Client.join();
+	}
+	for (const std::string& Code : Codes)
+	{
+		EXPECT_EQ(UseCode(Code)->status, 400) << Code;
+	}
 }
 
 TEST_F(FAccountsTest, MakesWhoGuessesWaitLongerAndLonger)
@@ -159,6 +195,9 @@ TEST_F(FAccountsTest, KeepsABrowserSignedIn)
 	Cookie = First;
 	EXPECT_EQ(PostWithCookie("/billing", {})->status, 400);
 	EXPECT_NE(PostWithCookie("/billing", Billing)->body.find("Your credits are full again."), std::string::npos);
+	const std::string Second = CutValue(PostWithCookie("/login", Form)->get_header_value("Set-Cookie"));
+	EXPECT_EQ(GetBilling()->body.find("<bdi>Ada</bdi>"), std::string::npos) << "one session for one browser";
+	Cookie = Second;
 	EXPECT_EQ(PostWithCookie("/logout", {})->status, 400);
 	EXPECT_NE(GetBilling()->body.find("<bdi>Ada</bdi>"), std::string::npos);
 	EXPECT_EQ(PostWithCookie("/logout", Billing)->get_header_value("Set-Cookie").find("vorel_session=; Path=/; Max-Age=0;"), 0u);

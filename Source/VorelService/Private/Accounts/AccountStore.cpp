@@ -43,14 +43,14 @@ FAccount FAccountStore::NameLocalAccount(const FAccountName& Name)
 		});
 }
 
-std::optional<FAccountStore::FKnown> FAccountStore::Find(const FAccountName& Name)
+std::optional<FAccount> FAccountStore::Find(const FAccountName& Name)
 {
 	return Database.Read(
-		[&](FSqliteDatabase& Rows) -> std::optional<FKnown>
+		[&](FSqliteDatabase& Rows) -> std::optional<FAccount>
 		{
 			FSqliteStatement Select(Rows, "SELECT id, name, password FROM accounts WHERE key = ? AND password IS NOT NULL");
 			Select.Bind(Name.Key);
-			return Select.Next() ? std::optional<FKnown>({{Select.GetNumber(0), Select.GetUtf8(1)}, Select.GetUtf8(2)}) : std::nullopt;
+			return Select.Next() ? std::optional<FAccount>({Select.GetNumber(0), Select.GetUtf8(1), Select.GetUtf8(2)}) : std::nullopt;
 		});
 }
 

@@ -16,6 +16,9 @@ struct FAccount
 
 	// Empty: the local account before its name was asked.
 	std::string Name{};
+
+	// Where it was found by its name, what a typed password is compared with.
+	std::string PasswordHash{};
 };
 
 // Who may use the service. Each call throws an FStoreError where the file can't be used.
@@ -30,16 +33,12 @@ public:
 	// The account without a password, which is made where it is missing.
 	FAccount GetLocalAccount();
 
-	// The name counts where there is none yet, from whatever program.
+	// The name counts where there is none yet, from whatever program. It stays without a name where an account with a password has this
+	// one.
 	FAccount NameLocalAccount(const FAccountName& Name);
 
-	struct FKnown
-	{
-		FAccount Account{};
-		std::string PasswordHash{};
-	};
 	// Of those with passwords.
-	std::optional<FKnown> Find(const FAccountName& Name);
+	std::optional<FAccount> Find(const FAccountName& Name);
 
 	// False: the name is taken, or there is none of that name.
 	bool Add(const FAccountName& Name, const std::string& PasswordHash);

@@ -14,16 +14,22 @@ constexpr std::int64_t LifetimeSeconds = 7 * 24 * 60 * 60;
 // The oldest of an account goes when there are more.
 constexpr std::int64_t MaxSessions = 20;
 
-void AddSession(FSqliteDatabase& Rows, const std::string& Hash, std::int64_t Account, std::int64_t Now)
+void EndSession(FSqliteDatabase& Rows, const std::string& Hash)
+{
+	FSqliteStatement(Rows, "DELETE FROM sessions WHERE hash = ?").Bind(Hash).Run();
+}
+
+bool AddSession(FSqliteDatabase& Rows, const std::string& Hash, const FAccount& Account, std::int64_t Now)
 {
 	FSqliteStatement(Rows, "DELETE FROM sessions WHERE expires <= ?").Bind(Now).Run();
-	FSqliteStatement(Rows, "INSERT INTO sessions(hash, account, expires) VALUES (?, ?, ?)")
-		.Bind(Hash, Account, Now + LifetimeSeconds)
-		.Run();
 	FSqliteStatement(
 		Rows, "DELETE FROM sessions WHERE hash IN (SELECT hash FROM sessions WHERE account = ? ORDER BY expires DESC LIMIT -1 OFFSET ?)")
-		.Bind(Account, MaxSessions)
+		.Bind(Account.Id, MaxSessions - 1)
 		.Run();
+	FSqliteStatement(Rows, "INSERT INTO sessions(hash, account, expires) SELECT ?, id, ? FROM accounts WHERE id = ? AND password = ?")
+		.Bind(Hash, Now + LifetimeSeconds, Account.Id, Account.PasswordHash)
+		.Run();
+	return Rows.HasChangedRows();
 }
 } // namespace
 
@@ -34,16 +40,20 @@ FBrowserSessions::FBrowserSessions(FServiceDatabase& InDatabase, bool bInSecure)
 {
 }
 
-void FBrowserSessions::Begin(const FAccount& Account, std::int64_t Now, httplib::Response& Response)
+bool FBrowserSessions::Begin(const FAccount& Account, std::int64_t Now, const httplib::Request& Request, httplib::Response& Response)
 {
 	const std::string Secret = MakeSecret();
-	Database.Write(
+	const bool bBegun = Database.Write(
 		[&](FSqliteDatabase& Rows)
 		{
-			AddSession(Rows, HashSecret(Secret), Account.Id, Now);
-			return true;
+			EndSession(Rows, HashSecret(ReadCookie(Request)));
+			return AddSession(Rows, HashSecret(Secret), Account, Now);
 		});
-	SetCookie(Secret, LifetimeSeconds, Response);
+	if (bBegun)
+	{
+		SetCookie(Secret, LifetimeSeconds, Response);
+	}
+	return bBegun;
 }
 
 std::optional<FAccount> FBrowserSessions::Find(const httplib::Request& Request, std::int64_t Now)
@@ -63,7 +73,7 @@ void FBrowserSessions::End(const httplib::Request& Request, httplib::Response& R
 	Database.Write(
 		[Hash = HashSecret(ReadCookie(Request))](FSqliteDatabase& Rows)
 		{
-			FSqliteStatement(Rows, "DELETE FROM sessions WHERE hash = ?").Bind(Hash).Run();
+			EndSession(Rows, Hash);
 			return true;
 		});
 	SetCookie("", 0, Response);

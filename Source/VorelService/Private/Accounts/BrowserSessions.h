@@ -17,8 +17,9 @@ public:
 	// bSecure: the cookie goes over TLS alone.
 	FBrowserSessions(FServiceDatabase& InDatabase, bool bInSecure);
 
-	// Always a new one, whatever the browser sent.
-	void Begin(const FAccount& Account, std::int64_t Now, httplib::Response& Response);
+	// Always a new one, in place of the one that the browser had. False where the account has another password than it was signed in to
+	// with, or is gone.
+	bool Begin(const FAccount& Account, std::int64_t Now, const httplib::Request& Request, httplib::Response& Response);
 	std::optional<FAccount> Find(const httplib::Request& Request, std::int64_t Now);
 	void End(const httplib::Request& Request, httplib::Response& Response);
 

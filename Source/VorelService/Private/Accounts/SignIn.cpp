@@ -38,16 +38,17 @@ FSignInResult FSignIn::CheckLocal(const FAccountName& Name, const std::string& P
 	{
 		return {std::nullopt, Problem};
 	}
-	return {Known.Name.empty() ? Accounts.NameLocalAccount(Name) : Known};
+	const FAccount Named = Known.Name.empty() ? Accounts.NameLocalAccount(Name) : Known;
+	return Named.Name.empty() ? FSignInResult{std::nullopt, "That name is taken here."} : FSignInResult{Named};
 }
 
 FSignInResult FSignIn::CheckPassword(const FAccountName& Name, const std::string& Password)
 {
 	// Whoever guesses learns neither from the words nor from the time whether there is such a name.
-	const std::optional<FAccountStore::FKnown> Known = Accounts.Find(Name);
+	const std::optional<FAccount> Known = Accounts.Find(Name);
 	if (!Passwords->IsRight(Password, Known ? Known->PasswordHash : std::string()))
 	{
-		return {std::nullopt, "The name or the password is wrong."};
+		return {std::nullopt, WrongNameOrPassword};
 	}
-	return {Known->Account};
+	return {Known};
 }

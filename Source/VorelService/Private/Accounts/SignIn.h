@@ -6,6 +6,9 @@
 #include "Accounts/Passwords.h"
 #include "Accounts/TryLimiter.h"
 
+// For whoever is not told whether there is such a name.
+inline constexpr const char* WrongNameOrPassword = "The name or the password is wrong.";
+
 struct FSignInResult
 {
 	// Where the sign-in succeeded.

@@ -26,7 +26,8 @@ int FTryLimiter::Begin(const std::string& Name, std::int64_t Now)
 	Forget(Now);
 	const auto Found = TriesByName.find(Name);
 	const std::int64_t NamePause = Found == TriesByName.end() ? 0 : Found->second.Last + GetPause(Found->second.Count) - Now;
-	const std::int64_t SharedPause = PaidUntil + SecondsPerTry - Now - MaxSecondsAhead;
+	const std::int64_t SecondsAhead = PaidUntil + SecondsPerTry - Now;
+	const std::int64_t SharedPause = SecondsAhead - MaxSecondsAhead;
 	if (const std::int64_t Pause = std::max(NamePause, SharedPause); Pause > 0)
 	{
 		return static_cast<int>(Pause);

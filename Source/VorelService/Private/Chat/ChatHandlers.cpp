@@ -31,6 +31,12 @@ void Stream(FServiceParts& Parts, httplib::Response& Response, std::vector<std::
 			return true;
 		});
 }
+
+void RefuseWithoutCredits(const FServiceParts& Parts, httplib::Response& Response)
+{
+	const std::string Problem = "No credits are left for today. Top up at " + Parts.Address + "/billing.";
+	SendApiError(Response, 402, Problem, "insufficient_quota", "insufficient_credits");
+}
 } // namespace
 
 void ServeModels(FServiceParts&, const httplib::Request&, httplib::Response& Response, const FAccount&)
@@ -47,11 +53,16 @@ void ServeCompletion(FServiceParts& Parts, const httplib::Request& Request, http
 		Refuse(Request, Response, 400, Error);
 		return;
 	}
+	// The search for an answer is not done in vain; who takes the last credit meanwhile is seen after it.
+	if (Chat.bCostsCredit && Parts.Credits.GetLeft(Account.Id, Parts.Now()) == 0)
+	{
+		RefuseWithoutCredits(Parts, Response);
+		return;
+	}
 	const FChatReply Reply(Chat, ComposeGuideAnswer(*Parts.Guide, Chat.Questions));
 	if (Chat.bCostsCredit && !Parts.Credits.Take(Account.Id, Parts.Now()))
 	{
-		const std::string Problem = "No credits are left for today. Top up at " + Parts.Address + "/billing.";
-		SendApiError(Response, 402, Problem, "insufficient_quota", "insufficient_credits");
+		RefuseWithoutCredits(Parts, Response);
 		return;
 	}
 	Chat.bStream ? Stream(Parts, Response, Reply.MakeEvents()) : SendJson(Response, 200, Reply.MakeWhole());

@@ -41,9 +41,10 @@ bool FRequestRules::AllowSender(const httplib::Request& Request, httplib::Respon
 	const bool bForeignPost = Request.method == "POST" && !Site.empty() && Site != "same-origin" && Site != "none";
 	const std::string Host = Request.get_header_value("Host");
 	const bool bOwnOrigin = !Request.has_header("Origin") || Addresses.IsOwnOrigin(Request.get_header_value("Origin"), Host);
-	if (!Addresses.IsOwnHost(Host) || !bOwnOrigin || bForeignPost)
+	const bool bOwnHost = Addresses.IsOwnHost(Host);
+	if (!bOwnHost || !bOwnOrigin || bForeignPost)
 	{
-		Refuse(Request, Response, 403, "This service is not called by this name, or from there.");
+		Refuse(Request, Response, 403, bOwnHost ? "This service is not called from there." : "This service is not called by this name.");
 		return false;
 	}
 	return true;
@@ -76,8 +77,13 @@ const FRoute* FRequestRules::FindRoute(const httplib::Request& Request, httplib:
 
 bool FRequestRules::AllowBody(const httplib::Request& Request, const FRoute& Route, httplib::Response& Response) const
 {
-	// The length of a body that is sent in chunks or compressed is known too late.
-	if (Request.has_header("Transfer-Encoding") || Request.has_header("Content-Encoding"))
+	// The length of a body that is sent compressed or in chunks is known too late.
+	if (Request.has_header("Content-Encoding"))
+	{
+		Refuse(Request, Response, 415, "Send the body as it is, not compressed.");
+		return false;
+	}
+	if (Request.has_header("Transfer-Encoding"))
 	{
 		Refuse(Request, Response, 411, "Send the body in one piece, with its length.");
 		return false;

@@ -43,7 +43,6 @@ void SendForm(FServiceParts& Parts, httplib::Response& Response, const FProgram&
 		.NameTyped = NameTyped,
 		.Problem = Failure.Problem,
 		.bAskPassword = Parts.Options.bPasswords,
-		.ClientName = "Vorel AI",
 		.Hidden = Program ? Program->GetFields() : FHiddenFields(),
 		.bForProgram = Program.has_value()};
 	Page.Hidden.emplace_back("form_token", Parts.FormTokens.Make(FormPurpose, Parts.Now()));
@@ -64,19 +63,17 @@ FSignInResult TrySignIn(FServiceParts& Parts, const httplib::Params& Fields)
 	return Parts.SignIn.Try(GetField(Fields, "name"), GetField(Fields, "password"), Parts.Now());
 }
 
-void WelcomeUser(FServiceParts& Parts, httplib::Response& Response, const FProgram& Program, const FAccount& Account)
+// Where the browser goes on. Nowhere where the account was changed or removed while the password was compared.
+std::optional<std::string> Welcome(
+	FServiceParts& Parts, const httplib::Request& Request, httplib::Response& Response, const FProgram& Program, const FAccount& Account)
 {
 	if (Program)
 	{
-		const std::string Code = Parts.Tokens.AddCode(Account, Program->Terms, Parts.Now());
-		SendElsewhere(Response, Program->MakeAnswer("code", Code, Parts.Address));
-		return;
+		const std::optional<std::string> Code = Parts.Tokens.AddCode(Account, Program->Terms, Parts.Now());
+		return Code ? std::optional(Program->MakeAnswer("code", *Code, Parts.Address)) : std::nullopt;
 	}
-	if (Parts.Options.bPasswords)
-	{
-		Parts.Sessions.Begin(Account, Parts.Now(), Response);
-	}
-	SendElsewhere(Response, "/billing");
+	const bool bWelcome = !Parts.Options.bPasswords || Parts.Sessions.Begin(Account, Parts.Now(), Request, Response);
+	return bWelcome ? std::optional<std::string>("/billing") : std::nullopt;
 }
 } // namespace
 
@@ -108,7 +105,15 @@ void TakeLogin(FServiceParts& Parts, const httplib::Request& Request, httplib::R
 		SendElsewhere(Response, Program->MakeAnswer("error", "access_denied", Parts.Address));
 		return;
 	}
-	const FSignInResult Result = TrySignIn(Parts, Request.params);
-	Result.Account ? WelcomeUser(Parts, Response, Program, *Result.Account)
-				   : SendForm(Parts, Response, Program, Result, GetField(Request.params, "name"));
+	FSignInResult Result = TrySignIn(Parts, Request.params);
+	if (Result.Account)
+	{
+		if (const std::optional<std::string> Location = Welcome(Parts, Request, Response, Program, *Result.Account))
+		{
+			SendElsewhere(Response, *Location);
+			return;
+		}
+		Result.Problem = WrongNameOrPassword;
+	}
+	SendForm(Parts, Response, Program, Result, GetField(Request.params, "name"));
 }

@@ -80,7 +80,7 @@ std::optional<std::int64_t> TakeCode(
 }
 } // namespace
 
-std::string FTokenStore::AddCode(const FAccount& Account, const FCodeTerms& Terms, std::int64_t Now)
+std::optional<std::string> FTokenStore::AddCode(const FAccount& Account, const FCodeTerms& Terms, std::int64_t Now)
 {
 	const std::string Code = MakeSecret();
 	return Database.Write(
@@ -89,9 +89,11 @@ std::string FTokenStore::AddCode(const FAccount& Account, const FCodeTerms& Term
 			Forget(Rows, Now);
 			Run(Rows, "DELETE FROM codes WHERE hash IN (SELECT hash FROM codes WHERE account = ? ORDER BY expires DESC LIMIT -1 OFFSET ?)",
 				Account.Id, MaxCodes - 1);
-			Run(Rows, "INSERT INTO codes(hash, account, redirect, challenge, expires) VALUES (?, ?, ?, ?, ?)", HashSecret(Code), Account.Id,
-				Terms.RedirectUri, Terms.Challenge, Now + CodeSeconds);
-			return Code;
+			Run(Rows,
+				"INSERT INTO codes(hash, account, redirect, challenge, expires) SELECT ?, id, ?, ?, ? FROM accounts"
+				" WHERE id = ? AND ifnull(password, '') = ?",
+				HashSecret(Code), Terms.RedirectUri, Terms.Challenge, Now + CodeSeconds, Account.Id, Account.PasswordHash);
+			return Rows.HasChangedRows() ? std::optional<std::string>(Code) : std::nullopt;
 		});
 }
 

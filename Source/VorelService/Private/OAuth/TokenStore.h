@@ -30,7 +30,8 @@ public:
 	{
 	}
 
-	std::string AddCode(const FAccount& Account, const FCodeTerms& Terms, std::int64_t Now);
+	// Nothing where the account has another password than it was signed in to with, or is gone.
+	std::optional<std::string> AddCode(const FAccount& Account, const FCodeTerms& Terms, std::int64_t Now);
 
 	// A code is good for one try. One that comes again takes back what it gave the first time.
 	std::optional<FTokens> UseCode(const std::string& Code, const std::string& RedirectUri, const std::string& Verifier, std::int64_t Now);

@@ -10,8 +10,7 @@ std::string MakeIntroduction(const FLoginPage& Page)
 	{
 		return "<p>Sign in here to see your credits. The program signs in by itself.</p>\n";
 	}
-	const std::string Client = "<strong>" + EscapeHtml(Page.ClientName) + "</strong>";
-	return "<p>" + Client + " on this computer asks to use your account for its chat, and to see your name and credits.</p>\n" +
+	return "<p><strong>Vorel AI</strong> on this computer asks to use your account for its chat, and to see your name and credits.</p>\n"
 		   "<p class=\"quiet\">Go on only if you have just chosen to log in there.</p>\n";
 }
 
@@ -47,7 +46,7 @@ std::string MakeNameField(const FLoginPage& Page)
 
 std::string MakePasswordField(const FLoginPage& Page)
 {
-	const bool bFocus = !Page.AccountName.empty() || !Page.NameTyped.empty();
+	const bool bFocus = !Page.NameTyped.empty();
 	return "<label for=\"password\">Password</label>\n"
 		   "<input id=\"password\" name=\"password\" type=\"password\" required autocomplete=\"current-password\"" +
 		   MakeFieldState(Page, "", bFocus) + ">\n";
@@ -56,7 +55,7 @@ std::string MakePasswordField(const FLoginPage& Page)
 std::string MakeButtons(const FLoginPage& Page)
 {
 	const std::string Allow = Page.AccountName.empty() ? "Sign in" : "Continue as " + EscapeHtml(Page.AccountName);
-	const bool bFocus = !Page.AccountName.empty() && !Page.bAskPassword;
+	const bool bFocus = !Page.AccountName.empty();
 	return std::string("<div class=\"buttons\">\n<button class=\"first\" name=\"action\" value=\"allow\"") +
 		   (bFocus ? " autofocus>" : ">") + Allow + "</button>\n" +
 		   (Page.bForProgram ? "<button name=\"action\" value=\"cancel\" formnovalidate>Cancel</button>\n" : "") + "</div>\n";

@@ -13,14 +13,12 @@ using FHiddenFields = std::vector<std::pair<std::string, std::string>>;
 
 struct FLoginPage
 {
-	// The account that is known already; empty: the page asks for a name.
+	// The account that is known already, and needs no password; empty: the page asks for a name.
 	std::string AccountName{};
 	// What was typed the last time, and a sentence on what was wrong with it; both empty at first.
 	std::string NameTyped{};
 	std::string Problem{};
 	bool bAskPassword = false;
-	// What the user signs in to.
-	std::string ClientName{};
 	FHiddenFields Hidden{};
 	// For a program that waits for the answer, which may be cancelled; else the browser itself is signed in.
 	bool bForProgram = true;
