@@ -25,12 +25,6 @@ void FTimerManager::ClearTimer(FTimerHandle& InHandle)
 	InHandle.Invalidate();
 }
 
-float FTimerManager::GetTimerRemaining(const FTimerHandle& InHandle) const
-{
-	const FTimerData* Timer = FindTimer(InHandle);
-	return Timer ? static_cast<float>(Timer->ExpireTime - InternalTime) : -1.0f;
-}
-
 void FTimerManager::Tick(float DeltaTime)
 {
 	InternalTime += DeltaTime;

@@ -32,8 +32,6 @@ public:
 	void ClearTimer(FTimerHandle& InHandle);
 
 	bool TimerExists(const FTimerHandle& InHandle) const { return FindTimer(InHandle) != nullptr; }
-	// -1 where there is no such timer.
-	float GetTimerRemaining(const FTimerHandle& InHandle) const;
 
 	// Runs what is due, the earliest first. Timers that are set meanwhile wait for the next tick.
 	void Tick(float DeltaTime);
