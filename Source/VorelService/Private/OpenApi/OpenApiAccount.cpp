@@ -14,7 +14,7 @@ const char* const OpenApiAccountPaths = R"json({
 	"/oauth/token": {
 		"post": {
 			"operationId": "getTokens", "tags": ["Account"], "summary": "Exchange a code or a refresh token for tokens", "security": [],
-			"description": "A code is good once, for 60 seconds, with the redirect address and the verifier that it was asked with; using it again revokes what it gave. A refresh token is replaced by the new one, and stays good for 60 seconds after its first use; used later it revokes the login.",
+			"description": "A code is good once, for 60 seconds, with the redirect address and the verifier that it was asked with; using it again revokes what it gave. A refresh token is replaced by the new one, and stays good for 60 seconds after the first use of it, or of another one of the login that is as new or newer; used later it revokes the login.",
 			"requestBody": {
 				"required": true,
 				"content": {"application/x-www-form-urlencoded": {"schema": {"oneOf": [{"$ref": "#/components/schemas/CodeGrant"}, {"$ref": "#/components/schemas/RefreshGrant"}]}}}
