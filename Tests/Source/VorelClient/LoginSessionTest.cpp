@@ -130,6 +130,7 @@ TEST_F(FLoginTest, ALogoutWinsAtAnyMomentOfARenewal)
 			Service().GetTokens().RequestToken(TEXT("access-1"), [&Token](const FString& Given) { Token = Given; });
 		PumpUntil([Moment, Turns = 0]() mutable { return ++Turns > Moment; });
 		Service().Logout();
+		EXPECT_TRUE(Events == 0 && !Service().IsAuthenticated());
 		EXPECT_TEXT(WaitForEnd(), TEXT("You are signed out."));
 		EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().last().Path == "/revoke"; }));
 		EXPECT_FALSE(Token.Contains(TEXT("access")));
@@ -190,9 +191,10 @@ TEST_F(FLoginTest, WhatCantBeStoredHoldsForThisRun)
 	{
 		Server.Then(ReplyJson("200 OK", MakeTokens("2")));
 		EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("access-2"));
-		EXPECT_TRUE(Log.Has("LogVorelAccount", ELogVerbosity::Display,
-			TEXT("You stay signed in until Vorel AI is closed: the sign-in could not be stored on this computer. The disk may be full, or "
-				 "the data folder closed to writing.")))
+		EXPECT_EQ(1, Log.Count("LogVorelAccount", ELogVerbosity::Display,
+						 TEXT("You stay signed in until Vorel AI is closed: the sign-in could not be stored on this computer. The disk may "
+							  "be full, or "
+							  "the data folder closed to writing.")))
 			<< Log.Dump();
 		// What the server has replaced is nowhere.
 		EXPECT_TRUE(std::filesystem::is_empty(*Folder.GetPath(TEXT("tokens"))));

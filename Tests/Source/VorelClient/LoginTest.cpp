@@ -63,18 +63,6 @@ TEST_F(FLoginTest, GoesThroughTheBrowserAndIsThereAgainAtTheNextStart)
 	EXPECT_TRUE(Service().IsAuthenticated());
 	EXPECT_TEXT(GetToken(), TEXT("access-1"));
 	EXPECT_EQ(Server.GetExchanges().size(), 2);
-
-	Server.Then(ReplyMetadata(Server));
-	Server.Then(ReplyJson("200 OK", ""));
-	Service().Logout();
-	EXPECT_FALSE(Service().IsAuthenticated());
-	EXPECT_EQ(Events, 0);
-	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed out."));
-	EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().size() == 4; }));
-	EXPECT_EQ(GetField(ReadForm(Server.GetExchanges()[3].Body.toStdString()), "token"), "refresh-1");
-	EXPECT_TRUE(PumpUntil([&TokenFile] { return GetMode(TokenFile) == 0; }));
-	EndService();
-	EXPECT_FALSE(Service().IsAuthenticated());
 }
 
 TEST_F(FLoginTest, FindsAnIssuerBelowAPathInEitherPlace)
