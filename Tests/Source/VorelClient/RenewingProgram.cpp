@@ -3,28 +3,20 @@
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QCoreApplication>
 #include <QSocketNotifier>
+#include <QTextStream>
 
 #include "LoginFixture.h"
 #include "RenewingProgram.h"
 
-#include "Account/AuthorizationMetadata.h"
-#include "Account/LoginSession.h"
+#include "Account/Server/AuthorizationMetadata.h"
+#include "Account/Tokens/LoginSession.h"
+#include "Http/QtText.h"
 #include <unistd.h>
 
-namespace
+static void Say(const FString& Line)
 {
-void Say(const FString& Line)
-{
-	const FTCHARToUTF8 Bytes(Line + TEXT("\n"));
-	check(::write(STDOUT_FILENO, Bytes.Get(), static_cast<size_t>(Bytes.Length())) == Bytes.Length());
+	QTextStream(stdout) << ToQString(Line) << Qt::endl;
 }
-
-QByteArray ReadLine()
-{
-	char Line[256];
-	return QByteArray(Line, std::max<qsizetype>(::read(STDIN_FILENO, Line, sizeof(Line)), 0)).trimmed();
-}
-} // namespace
 
 int FRenewingProgram::Run(const FString& Issuer, const FString& DataFolder)
 {
@@ -38,14 +30,13 @@ int FRenewingProgram::Run(const FString& Issuer, const FString& DataFolder)
 	QObject::connect(&Input, &QSocketNotifier::activated,
 		[&Session, &Request]
 		{
-			const QByteArray RefusedToken = ReadLine();
-			if (RefusedToken.isEmpty())
+			const FString RefusedToken = ToFString(QTextStream(stdin).readLine());
+			if (RefusedToken.IsEmpty())
 			{
 				QCoreApplication::quit();
 				return;
 			}
-			Request = Session.RequestToken(
-				FString(RefusedToken.constData()), [](const FString& Token) { Say(Token.IsEmpty() ? TEXT("none") : Token); });
+			Request = Session.RequestToken(RefusedToken, [](const FString& Token) { Say(Token.IsEmpty() ? TEXT("none") : Token); });
 			PumpUntil([Turns = 0]() mutable { return ++Turns > 50; });
 			Say(TEXT("asked"));
 		});

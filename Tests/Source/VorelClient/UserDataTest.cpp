@@ -4,7 +4,7 @@
 #include "FakeAccount.h"
 #include "LoginFixture.h"
 
-#include "Account/AuthorizationMetadata.h"
+#include "Account/Server/AuthorizationMetadata.h"
 #include "Misc/CoreDelegates.h"
 #include "UserData/VorelUserDataService.h"
 

@@ -1,10 +1,10 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/Login.h"
+#include "Account/Login/Login.h"
 
 #include "Account/AccountText.h"
-#include "Account/AuthorizationMetadata.h"
-#include "Account/LoginSession.h"
+#include "Account/Server/AuthorizationMetadata.h"
+#include "Account/Tokens/LoginSession.h"
 #include "Account/LogVorelAccount.h"
 #include "Account/OAuthAuthenticationService.h"
 

@@ -3,7 +3,7 @@
 #include "Account/AuthorizedCall.h"
 #include "Http/QtText.h"
 
-#include "Account/AuthorizationMetadata.h"
+#include "Account/Server/AuthorizationMetadata.h"
 #include "Http/Excerpt.h"
 #include "Http/JsonText.h"
 #include "UserData/UserDataFetch.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Account/AccessTokenSource.h"
-#include "Account/TokenStore.h"
+#include "Account/Tokens/TokenStore.h"
 #include "Account/WaitingList.h"
 
 class FAuthorizationMetadata;

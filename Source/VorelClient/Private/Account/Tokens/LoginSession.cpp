@@ -1,12 +1,12 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/RefreshLock.h"
+#include "Account/Tokens/RefreshLock.h"
 
 #include "Account/AccountText.h"
-#include "Account/LoginSession.h"
+#include "Account/Tokens/LoginSession.h"
 #include "Account/LogVorelAccount.h"
-#include "Account/Revocation.h"
-#include "Account/TokenRenewal.h"
+#include "Account/Server/Revocation.h"
+#include "Account/Tokens/TokenRenewal.h"
 
 FLoginSession::FLoginSession(const FLoginOptions& InOptions, FAuthorizationMetadata& InMetadata)
 	: Options(InOptions)

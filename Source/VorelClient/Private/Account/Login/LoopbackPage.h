@@ -5,7 +5,7 @@
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QByteArray>
 
-#include "Account/AuthorizationRequest.h"
+#include "Account/Login/AuthorizationRequest.h"
 
 // Replies to a browser, whole and ready to be sent. The pages are static: no script, nothing of the request in them.
 namespace LoopbackPage

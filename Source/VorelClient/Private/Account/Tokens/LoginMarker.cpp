@@ -1,8 +1,8 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/LoginMarker.h"
+#include "Account/Tokens/LoginMarker.h"
 
-#include "Account/PrivateFile.h"
+#include "Account/Tokens/PrivateFile.h"
 #include "Http/JsonText.h"
 #include "Misc/Paths.h"
 

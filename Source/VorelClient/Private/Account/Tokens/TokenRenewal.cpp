@@ -1,11 +1,11 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/RefreshLock.h"
+#include "Account/Tokens/RefreshLock.h"
 
 #include "Account/AccountText.h"
-#include "Account/AuthorizationMetadata.h"
-#include "Account/TokenCall.h"
-#include "Account/TokenRenewal.h"
+#include "Account/Server/AuthorizationMetadata.h"
+#include "Account/Server/TokenCall.h"
+#include "Account/Tokens/TokenRenewal.h"
 
 FTokenRenewal::FTokenRenewal(FTokenStore& InStore, FAuthorizationMetadata& InMetadata, const FLoginOptions& InOptions,
 	const FTokenSet& InTokens, const std::string& InRefusedToken, FOnEnded InOnEnded)

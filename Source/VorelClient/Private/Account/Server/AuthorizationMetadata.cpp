@@ -4,7 +4,7 @@
 #include "Http/HttpFetch.h"
 
 #include "Account/AccountText.h"
-#include "Account/AuthorizationMetadata.h"
+#include "Account/Server/AuthorizationMetadata.h"
 
 namespace
 {

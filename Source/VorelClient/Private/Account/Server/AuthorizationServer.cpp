@@ -4,7 +4,7 @@
 #include <QHostAddress>
 #include <QUrl>
 
-#include "Account/AuthorizationServer.h"
+#include "Account/Server/AuthorizationServer.h"
 
 #include "Account/AccountText.h"
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "Account/NextTurn.h"
-#include "Account/AuthorizationRequest.h"
-#include "Account/TokenSet.h"
+#include "Account/Login/AuthorizationRequest.h"
+#include "Account/Server/TokenSet.h"
 
 class FAuthorizationMetadata;
 class FLoopbackReceiver;

@@ -4,10 +4,10 @@
 
 #include "Account/AccountText.h"
 #include "Account/LogVorelAccount.h"
-#include "Account/PrivateFile.h"
-#include "Account/SecretStoreCall.h"
+#include "Account/Tokens/PrivateFile.h"
+#include "Account/Tokens/SecretStoreCall.h"
 #include "Account/Secrets.h"
-#include "Account/TokenStore.h"
+#include "Account/Tokens/TokenStore.h"
 #include "Misc/Paths.h"
 
 namespace

@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/LoopbackPage.h"
+#include "Account/Login/LoopbackPage.h"
 
 #define LOCTEXT_NAMESPACE "VorelClient"
 

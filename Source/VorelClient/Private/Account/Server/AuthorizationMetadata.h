@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "Account/AuthorizationServer.h"
+#include "Account/Server/AuthorizationServer.h"
 #include "Account/WaitingList.h"
 #include "Http/RequestLimits.h"
 

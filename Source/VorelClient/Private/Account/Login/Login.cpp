@@ -1,13 +1,13 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 // Qt's headers come before the engine's, whose macros they don't survive.
-#include "Account/LoopbackReceiver.h"
+#include "Account/Login/LoopbackReceiver.h"
 
-#include "Account/Login.h"
+#include "Account/Login/Login.h"
 
 #include "Account/AccountText.h"
-#include "Account/AuthorizationMetadata.h"
-#include "Account/TokenCall.h"
+#include "Account/Server/AuthorizationMetadata.h"
+#include "Account/Server/TokenCall.h"
 #include "HAL/PlatformProcess.h"
 
 FLogin::FLogin(const FLoginOptions& InOptions, FAuthorizationMetadata& Metadata, FOnEnded InOnEnded)

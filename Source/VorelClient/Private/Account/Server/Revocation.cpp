@@ -2,9 +2,9 @@
 
 #include "Http/HttpFetch.h"
 
-#include "Account/AuthorizationMetadata.h"
+#include "Account/Server/AuthorizationMetadata.h"
 #include "Account/LogVorelAccount.h"
-#include "Account/Revocation.h"
+#include "Account/Server/Revocation.h"
 #include "Http/Form.h"
 
 FRevocation::FRevocation(FAuthorizationMetadata& Metadata, const FLoginOptions& Options, const FTokenSet& InTokens)

@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "Account/TokenSet.h"
-#include "Account/TokenStore.h"
+#include "Account/Server/TokenSet.h"
+#include "Account/Tokens/TokenStore.h"
 
 class FAuthorizationMetadata;
 class FRefreshLock;

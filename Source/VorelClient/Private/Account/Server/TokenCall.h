@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "Account/TokenSet.h"
+#include "Account/Server/TokenSet.h"
 #include "Http/Form.h"
 
 class FHttpFetch;

@@ -7,7 +7,7 @@
 #include <QPointer>
 #include <QTcpServer>
 
-#include "Account/AuthorizationRequest.h"
+#include "Account/Login/AuthorizationRequest.h"
 
 class QTcpSocket;
 

@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "Account/LoginMarker.h"
-#include "Account/TokenSet.h"
+#include "Account/Tokens/LoginMarker.h"
+#include "Account/Server/TokenSet.h"
 
 class FNextTurn;
 class FSecretStoreCall;

@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/PrivateFile.h"
+#include "Account/Tokens/PrivateFile.h"
 
 #include "Misc/Paths.h"
 #include <cerrno>

@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <qt6keychain/keychain.h>
 
-#include "Account/SecretStoreCall.h"
+#include "Account/Tokens/SecretStoreCall.h"
 #include "Http/QtText.h"
 
 #include "Account/LogVorelAccount.h"

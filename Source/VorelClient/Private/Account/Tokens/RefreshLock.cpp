@@ -1,8 +1,8 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/RefreshLock.h"
+#include "Account/Tokens/RefreshLock.h"
 
-#include "Account/PrivateFile.h"
+#include "Account/Tokens/PrivateFile.h"
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>

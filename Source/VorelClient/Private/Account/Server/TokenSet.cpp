@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/TokenSet.h"
+#include "Account/Server/TokenSet.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "Account/TokenSet.h"
+#include "Account/Server/TokenSet.h"
 
 class FAuthorizationMetadata;
 class FHttpFetch;

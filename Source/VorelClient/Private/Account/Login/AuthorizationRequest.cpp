@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/AuthorizationRequest.h"
+#include "Account/Login/AuthorizationRequest.h"
 
 #include "Account/Secrets.h"
 

@@ -1,6 +1,6 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-#include "Account/RequestHead.h"
+#include "Account/Login/RequestHead.h"
 
 #include <algorithm>
 

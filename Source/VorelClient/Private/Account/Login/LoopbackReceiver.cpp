@@ -7,9 +7,9 @@
 #include <QTcpSocket>
 #include <QTimer>
 
-#include "Account/LoopbackPage.h"
-#include "Account/LoopbackReceiver.h"
-#include "Account/RequestHead.h"
+#include "Account/Login/LoopbackPage.h"
+#include "Account/Login/LoopbackReceiver.h"
+#include "Account/Login/RequestHead.h"
 
 FLoopbackReceiver::FLoopbackReceiver(double InConnectionLimit)
 	: ConnectionLimitMilliseconds(FMath::CeilToInt(InConnectionLimit * 1000.0))

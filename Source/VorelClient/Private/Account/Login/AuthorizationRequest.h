@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "Account/AuthorizationServer.h"
+#include "Account/Server/AuthorizationServer.h"
 #include "Http/Form.h"
 
 // What a redirect turned out to be.

@@ -3,7 +3,7 @@
 #include "Http/HttpFetch.h"
 
 #include "Account/AccountText.h"
-#include "Account/TokenCall.h"
+#include "Account/Server/TokenCall.h"
 
 // A server that is out of order does not say that.
 static bool IsRefusal(const FHttpFailure& Failure)
