@@ -24,7 +24,7 @@ test('a person logs in with Chromium, out, and in again', { timeout: 110_000 }, 
 	await page.goto(await desktop.takeAddress());
 	await desktop.picture('login-2-waiting');
 	await page.keep('login-3-page');
-	await page.keyboard.type('Ada Lovelace');
+	await page.write('Ada Lovelace');
 	await page.keyboard.press('Enter');
 	await page.getByText('close this window').waitFor();
 	await page.keep('login-4-done');
@@ -49,7 +49,7 @@ test('a person logs in with Chromium, out, and in again', { timeout: 110_000 }, 
 	await desktop.picture('login-6-logged-out');
 	await desktop.click('Log in');
 	await page.goto(await desktop.takeAddress());
-	await page.getByRole('button', { name: 'Continue as Ada Lovelace' }).waitFor();
+	await page.locator('button:focus', { hasText: 'Continue as Ada Lovelace' }).waitFor();
 	await page.keep('login-7-again');
 	await page.keyboard.press('Enter');
 	await page.getByText('close this window').waitFor();

@@ -44,13 +44,13 @@ test('the pages are read by everybody, on a desk and on a phone, and used by key
 
 	const { keyboard } = page;
 	await page.goto(`${service.address}/login`);
-	await keyboard.type(account.name);
+	await page.write(account.name);
 	await keyboard.press('Tab');
-	await keyboard.type('a wrong password');
+	await page.write('a wrong password');
 	await keyboard.press('Enter');
 	await page.getByRole('alert').waitFor();
 	await judge(page, axe, 'refused');
-	await keyboard.type(account.password);
+	await page.write(account.password);
 	await keyboard.press('Enter');
 	await page.waitForURL(`${service.address}/billing`);
 	await judge(page, axe, 'credits');

@@ -15,5 +15,11 @@ export async function openBrowser(house)
 	const page = context.pages()[0];
 	page.setDefaultTimeout(20_000);
 	page.keep = name => page.screenshot({ path: path.join(pictures, `${name}.png`) });
+	// A person types when there is a cursor, which may come later than the page.
+	page.write = async text =>
+	{
+		await page.locator('input:focus').waitFor();
+		await page.keyboard.type(text);
+	};
 	return page;
 }
