@@ -52,7 +52,8 @@ test('the pages are read by everybody, on a desk and on a phone, and used by key
 	await judge(page, axe, 'refused');
 	await page.write(account.password);
 	await keyboard.press('Enter');
-	await page.waitForURL(`${service.address}/billing`);
+	await page.waitForURL(`${service.address}/billing`).catch(async error =>
+		assert.fail(`${error.message}\n${await page.locator('main').innerHTML()}`));
 	await judge(page, axe, 'credits');
 	for (let stops = 0; stops < 20 && await page.evaluate(() => document.activeElement.textContent) !== 'Top up'; ++stops)
 	{
