@@ -21,9 +21,11 @@ static TSharedPtr<FDesktopApplication> Instance;
 // Qt warns of each font without a script while it looks for one that has it, and of much else that is no trouble here.
 static void LogQtMessage(QtMsgType Type, const QMessageLogContext&, const QString& Message)
 {
+	// It repeats the address that no browser could be started for, whose query may be nobody else's business.
+	const FString Shown = ToFString(Message.section(QLatin1Char('?'), 0, 0));
 	const bool bSevere = Type == QtCriticalMsg || Type == QtFatalMsg;
-	UE_CLOG(bSevere, LogDesktop, Error, TEXT("%s"), *ToFString(Message));
-	UE_CLOG(!bSevere, LogDesktop, Verbose, TEXT("%s"), *ToFString(Message));
+	UE_CLOG(bSevere, LogDesktop, Error, TEXT("%s"), *Shown);
+	UE_CLOG(!bSevere, LogDesktop, Verbose, TEXT("%s"), *Shown);
 }
 
 TSharedRef<FDesktopApplication> FDesktopApplication::Create(EBrowserMode BrowserMode)

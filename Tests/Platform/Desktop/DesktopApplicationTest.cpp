@@ -1,5 +1,8 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
+// Qt's headers come before the engine's, whose macros they don't survive.
+#include <QDebug>
+
 #include "DesktopApplication.h"
 #include "HAL/PlatformProcess.h"
 #include "Support/LogCapture.h"
@@ -22,6 +25,8 @@ TEST(Desktop, OnlyWebAndMailAddressesAreOpened)
 	FPlatformProcess::LaunchURL(TEXT("calc.exe"), nullptr, nullptr);
 	EXPECT_TRUE(Log.Dump().Contains(TEXT("LogPlatform: Warning: Can't open the address calc.exe: "))) << Log.Dump();
 	EXPECT_EQ(Desktop.GetOpenedAddresses().Num(), Before);
+	qCritical("Launch failed (https://example.com/login?state=secret)");
+	EXPECT_TRUE(Log.Dump().EndsWith(TEXT("LogDesktop: Error: Launch failed (https://example.com/login\n"))) << Log.Dump();
 
 	FPlatformProcess::LaunchURL(TEXT("https://example.com/tos?a=b#c"), nullptr, nullptr);
 	Desktop.LaunchURL(TEXT("mailto:someone@example.com"));
