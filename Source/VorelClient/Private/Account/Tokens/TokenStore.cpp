@@ -115,17 +115,22 @@ void FTokenStore::HandleSaved(ETokenPlace Place, const TFunction<void()>& OnSave
 	}
 	if (!bShared)
 	{
-		ForgetMarker();
-		const bool bFull = Place != ETokenPlace::None || Options.bAllowTokenFile || Options.DataFolder.IsEmpty();
-		UE_CLOG(!bNoticeGiven, LogVorelAccount, Display, TEXT("%s"),
-			*(bFull ? AccountText::NotStored() : AccountText::NoSecretStore()).ToString());
-		bNoticeGiven = true;
+		HandleNotShared(Place);
 	}
-	if (!bShared && Place == ETokenPlace::SecretStore)
+	OnSaved();
+}
+
+void FTokenStore::HandleNotShared(ETokenPlace Place)
+{
+	ForgetMarker();
+	if (Place == ETokenPlace::SecretStore)
 	{
 		Call = FSecretStoreCall::Delete(Options.KeyringAccount, Options.Limits.SecretStore, [](ESecretStoreEnd, const std::string&) {});
 	}
-	OnSaved();
+	const bool bTried = Place != ETokenPlace::None || Options.bAllowTokenFile || Options.DataFolder.IsEmpty();
+	UE_CLOG(!bNoticeGiven, LogVorelAccount, Display, TEXT("%s"),
+		*(bTried ? AccountText::NotStored() : AccountText::NoSecretStore()).ToString());
+	bNoticeGiven = true;
 }
 
 void FTokenStore::Clear(TFunction<void()> OnCleared)

@@ -54,6 +54,8 @@ private:
 	bool SaveFile(const FTokenSet& Tokens) const;
 	void RemoveFile() const;
 	void HandleSaved(ETokenPlace Place, const TFunction<void()>& OnSaved);
+	// Place: where they lie, though that could not be noted.
+	void HandleNotShared(ETokenPlace Place);
 	void Later(TFunction<void()> Action);
 
 	const FLoginOptions& Options;
