@@ -131,10 +131,12 @@ TEST_F(FLoginServiceTest, BadInputLeavesThePanelIdleAndAnotherTryWorks)
 	Browse(ReplaceCode(FillInPage(), GetCode(Good)));
 	ExpectLoggedOut(Refused);
 
-	// A code that was given to the attempt before.
+	// A second click: nobody waits for the first attempt's code, and it is of no use to the second one.
 	OpenPage();
+	const std::string OldAddress = GetParameter("redirect_uri");
 	const QByteArray Other = FillInPage();
 	OpenPage();
+	EXPECT_EQ(SendTo(OldAddress, "GET " + Other + " HTTP/1.1\r\nHost: HOST\r\n\r\n"), "");
 	EXPECT_TRUE(Browse(Other).contains("out of date"));
 	Browse(ReplaceCode(FillInPage(), GetCode(Other)));
 	ExpectLoggedOut(Refused);

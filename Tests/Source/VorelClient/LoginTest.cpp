@@ -238,20 +238,3 @@ TEST_F(FLoginTest, NoBrowserNoNetworkNoAnswer)
 	EXPECT_TEXT(WaitForEnd(), TEXT("\"example.com\" is no address to sign in at. It must begin with https://, or with http:// where "
 								   "it is on this computer."));
 }
-
-TEST_F(FLoginTest, ASecondClickEndsTheFirstAttempt)
-{
-	Server.Then(ReplyMetadata(Server));
-	OpenPage();
-	const QByteArray OldState = QByteArray::fromStdString(GetParameter("state"));
-	const std::string OldUri = GetParameter("redirect_uri");
-	OpenPage();
-	EXPECT_NE(OldUri, GetParameter("redirect_uri"));
-	EXPECT_TRUE(Browse(MakeRedirect("code-1", OldState)).contains("out of date"));
-	OpenedPages.Swap(0, 1);
-	EXPECT_EQ(Browse(MakeRedirect()), "");
-	OpenedPages.Swap(0, 1);
-	Server.Then(ReplyJson("200 OK", MakeTokens("1")));
-	Browse(MakeRedirect());
-	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed in."));
-}
