@@ -47,9 +47,11 @@ protected:
 									   *FString::Join(Data.Entitlements, TEXT("+")))
 								 : TEXT("failed;");
 			});
-		Users->Initialize({FString(Server.GetAddress().constData()), &Tokens, Issuer, &IssuerTokens}, *Authentication);
+		Users->Initialize({FString(Server.GetAddress().constData()), &Tokens, Issuer, &IssuerTokens, MaxSeconds}, *Authentication);
 		return *Users;
 	}
+
+	static void ReturnToWindow() { FCoreDelegates::ApplicationHasReactivatedDelegate.Broadcast(); }
 
 	void End()
 	{
@@ -75,7 +77,8 @@ protected:
 
 	FScriptedServer Server;
 	FFakeTokens Tokens{{TEXT("1"), TEXT("2"), TEXT("3"), TEXT("4"), TEXT("5"), TEXT("6"), TEXT("7"), TEXT("8")}};
-	FFakeTokens IssuerTokens{{TEXT("foreign"), TEXT("foreign")}};
+	FFakeTokens IssuerTokens{{TEXT("foreign"), TEXT("foreign"), TEXT("foreign"), TEXT("foreign"), TEXT("foreign"), TEXT("foreign")}};
+	double MaxSeconds = 60.0;
 	FString Told;
 	UVorelUserDataService* Users = nullptr;
 	UFakeAuthentication* Authentication = nullptr;
@@ -136,10 +139,12 @@ TEST_F(FUserDataTest, DropsWhatASignedOutSessionAskedFor)
 	Authentication->Logout();
 	Users->GetUserData();
 	Users->AskAgain();
+	ReturnToWindow();
 	FTSTicker::GetCoreTicker().Tick(100.0f);
-	EXPECT_TEXT(Told, TEXT(""));
+	// Nobody's, so that the next user sees nothing of this one.
+	EXPECT_TEXT(Told, TEXT("  0 ;"));
 	EXPECT_TRUE(Users->UserData.UserName.IsEmpty());
-	EXPECT_EQ(Server.GetExchanges().size(), 2);
+	EXPECT_EQ(Tokens.Refused.Num(), 2);
 }
 
 TEST_F(FUserDataTest, AsksAgainAfterAnAnswerAndOnReturnWithoutCredits)
@@ -147,10 +152,7 @@ TEST_F(FUserDataTest, AsksAgainAfterAnAnswerAndOnReturnWithoutCredits)
 	Server.Then(Reply(MakeUser(1)));
 	Server.Then(Reply(MakeUser(0)));
 	Server.Then(Reply(MakeUser(9)));
-	const auto ReturnToWindow = []
-	{
-		FCoreDelegates::ApplicationHasReactivatedDelegate.Broadcast();
-	};
+	Server.Then(Reply("", "500 Internal Server Error"));
 	Start();
 	ReturnToWindow();
 	Users->GetUserData();
@@ -160,8 +162,32 @@ TEST_F(FUserDataTest, AsksAgainAfterAnAnswerAndOnReturnWithoutCredits)
 	ReturnToWindow();
 	ASSERT_TRUE(WaitUntilTold(TEXT("Ada L. a@b 1 user+beta;Ada L. a@b 0 user+beta;Ada L. a@b 9 user+beta;"))) << Told;
 	ReturnToWindow();
-	PumpUntil([] { return true; });
-	EXPECT_EQ(Server.GetExchanges().size(), 3);
+	EXPECT_EQ(Tokens.Refused.Num(), 3);
+
+	// A failure shows none, whatever was known before.
+	Told.Reset();
+	Users->GetUserData();
+	ASSERT_TRUE(WaitUntilTold(TEXT("failed;"))) << Told;
+	ReturnToWindow();
+	EXPECT_EQ(Tokens.Refused.Num(), 5);
+}
+
+TEST_F(FUserDataTest, GivesUpAnAnswerWithoutAnEnd)
+{
+	// One says more and more, the other nothing at all.
+	Server.Then(
+		[](const FExchange& Exchange)
+		{
+			Exchange.SendStreamHead();
+			Exchange.Send(QByteArray(70000, ' '));
+		});
+	for (const double Seconds : {60.0, 0.02})
+	{
+		MaxSeconds = Seconds;
+		Start().GetUserData();
+		EXPECT_TRUE(WaitUntilTold(TEXT("failed;"))) << Seconds;
+		End();
+	}
 }
 
 TEST_F(FUserDataTest, TakesTheNameFromAForeignIssuerAndTheCreditsFromTheService)
@@ -169,8 +195,11 @@ TEST_F(FUserDataTest, TakesTheNameFromAForeignIssuerAndTheCreditsFromTheService)
 	const QByteArray Endpoint = "{\"userinfo_endpoint\":\"" + Server.GetAddress() + "/info\"}";
 	const std::tuple<QByteArray, QByteArray, const TCHAR*> Rows[] = {
 		{Endpoint, R"({"sub":"42","preferred_username":"grace","email":"g@h"})", TEXT("grace g@h 2147483647 ;")},
+		{Endpoint, R"({"name":"\u202ee\u2028v\u2066il","email":"g@h"})", TEXT("e v il g@h 2147483647 ;")},
+		{Endpoint, "{\"name\":\"" + QByteArray(41, 'W') + "\"}", TEXT("WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW…  2147483647 ;")},
 		{Endpoint, "[]", TEXT("failed;")},
-		// One that tells nothing of its users.
+		// Those that tell nothing of their users.
+		{Endpoint, "no", TEXT("Signed-in user  2147483647 ;")},
 		{"{}", "", TEXT("Signed-in user  2147483647 ;")},
 	};
 	for (const auto& [Metadata, Info, Expected] : Rows)
@@ -180,7 +209,7 @@ TEST_F(FUserDataTest, TakesTheNameFromAForeignIssuerAndTheCreditsFromTheService)
 		Server.Then(ReplyMetadata(Server, Metadata));
 		if (!Info.isEmpty())
 		{
-			Server.Then(Reply(Info));
+			Server.Then(Reply(Info, Info == "no" ? "403 Forbidden" : "200 OK"));
 		}
 		Start(&Issuer).GetUserData();
 		EXPECT_TRUE(WaitUntilTold(Expected)) << Told;

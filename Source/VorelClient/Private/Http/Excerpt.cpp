@@ -2,14 +2,19 @@
 
 #include "Http/Excerpt.h"
 
-FString MakeExcerpt(const FString& ForeignText)
+// Blanks, control characters, and those that end a line or turn the direction of all that follows.
+static bool IsBlank(TCHAR Character)
 {
-	constexpr int32 MaxLength = 200;
+	return Character <= 0x20 || (Character >= 0x7F && Character <= 0xA0) || (Character >= 0x2028 && Character <= 0x202E) ||
+		   (Character >= 0x2066 && Character <= 0x2069);
+}
+
+FString MakeExcerpt(const FString& ForeignText, int32 MaxLength)
+{
 	FString Excerpt;
 	for (const TCHAR Character : ForeignText)
 	{
-		const bool bBlank = Character <= 0x20 || (Character >= 0x7F && Character <= 0xA0);
-		if (!bBlank)
+		if (!IsBlank(Character))
 		{
 			Excerpt.AppendChar(Character);
 		}

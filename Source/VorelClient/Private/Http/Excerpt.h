@@ -4,5 +4,5 @@
 
 #include "CoreMinimal.h"
 
-// One line of at most 200 characters, without control characters, of what somebody else wrote.
-FString MakeExcerpt(const FString& ForeignText);
+// One line, without characters that control others, of what somebody else wrote.
+FString MakeExcerpt(const FString& ForeignText, int32 MaxLength = 200);

@@ -1,9 +1,11 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "Account/AuthorizedCall.h"
+#include "Account/NextTurn.h"
 #include "Http/QtText.h"
 
 #include "Account/Server/AuthorizationMetadata.h"
+#include "Http/BackgroundRequest.h"
 #include "Http/Excerpt.h"
 #include "Http/JsonText.h"
 #include "UserData/UserDataFetch.h"
@@ -12,14 +14,16 @@
 
 namespace
 {
-constexpr FRequestLimits Limits{10.0, 30.0, 30.0};
 constexpr std::size_t MaxBytes = 64 * 1024;
 constexpr int32 MaxRoles = 100;
+// What the bar has room for.
+constexpr int32 MaxNameLength = 40;
 
-FString DescribeFailure(const FHttpFailure& Failure)
+// By a server that could be asked, and keeps what it knows to itself.
+bool IsForbidden(const TOptional<FHttpFailure>& Failure)
 {
-	return Failure.Kind == EHttpFailure::Status ? FString::Printf(TEXT("the server answered with status %d"), Failure.Status)
-												: FString::Printf(TEXT("%s could not be reached, or broke off"), *Failure.Host);
+	return Failure && Failure->Kind == EHttpFailure::Status && !Failure->Host.IsEmpty() &&
+		   (Failure->Status == 401 || Failure->Status == 403);
 }
 
 TArray<FString> ReadRoles(const FJson& List)
@@ -59,6 +63,8 @@ FUserDataFetch::~FUserDataFetch() = default;
 
 void FUserDataFetch::Start()
 {
+	Limit = MakeUnique<FNextTurn>([this] { End(TEXT("the answer is too long, or does not come to its end")); });
+	Limit->Ask(Source.MaxSeconds);
 	Ask(Source.ServiceUrl / TEXT("v1/user"), Source.ServiceTokens, &FUserDataFetch::ReadAccount);
 }
 
@@ -67,14 +73,20 @@ void FUserDataFetch::Ask(const FString& Url, IAccessTokenSource* Tokens, FString
 	Body.clear();
 	FHttpRequest Request;
 	Request.Url = QUrl(ToQString(Url));
-	Call = MakeUnique<FAuthorizedCall>(::MoveTemp(Request), Limits, Tokens);
+	Call = MakeUnique<FAuthorizedCall>(::MoveTemp(Request), BackgroundRequest::Limits, Tokens);
 	Call->OnBody = [this](std::string_view Bytes)
 	{
-		Body.append(Bytes.substr(0, MaxBytes - Body.size()));
+		Body += Bytes;
+		if (Body.size() > MaxBytes)
+		{
+			Call->HangUp();
+			Limit->Ask();
+		}
 	};
 	Call->OnEnded = [this, Read](const TOptional<FHttpFailure>& Failure)
 	{
-		const FString Problem = Failure ? DescribeFailure(*Failure) : (this->*Read)();
+		const bool bNameless = IssuerRequest && IsForbidden(Failure);
+		const FString Problem = !Failure ? (this->*Read)() : bNameless ? FString() : BackgroundRequest::Describe(*Failure);
 		if (Problem.IsEmpty() && !IssuerRequest && Source.Issuer)
 		{
 			AskIssuer();
@@ -132,8 +144,10 @@ FString FUserDataFetch::ReadUserInfo()
 
 void FUserDataFetch::End(const FString& Problem)
 {
+	Limit.Reset();
 	// An empty name would count as nobody.
-	Data.UserName = Data.UserName.IsEmpty() ? LOCTEXT("NamelessUser", "Signed-in user").ToString() : Data.UserName;
+	const FString Nameless = LOCTEXT("NamelessUser", "Signed-in user").ToString();
+	Data.UserName = Data.UserName.IsEmpty() ? Nameless : MakeExcerpt(Data.UserName, MaxNameLength);
 	const TFunction<void(const TOptional<FVorelUserData>&, const FString&)> Handler = OnDone;
 	Handler(Problem.IsEmpty() ? TOptional<FVorelUserData>(Data) : NullOpt, Problem);
 }

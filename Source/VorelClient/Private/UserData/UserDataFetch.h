@@ -8,6 +8,7 @@
 
 class FAuthorizationMetadata;
 class FAuthorizedCall;
+class FNextTurn;
 class IAccessTokenSource;
 
 // Whom to ask about the user. All of it must outlive the questions.
@@ -20,6 +21,9 @@ struct FUserDataSource
 	// Where another server signs users in, it knows their names; else null.
 	FAuthorizationMetadata* Issuer = nullptr;
 	IAccessTokenSource* IssuerTokens = nullptr;
+
+	// For all of it.
+	double MaxSeconds = 60.0;
 };
 
 // Asks once what is known of the user. Destroying it hangs up.
@@ -46,4 +50,6 @@ private:
 	std::string Body;
 	TSharedPtr<void> IssuerRequest;
 	TUniquePtr<FAuthorizedCall> Call;
+	// Ends the fetch in the calls' place.
+	TUniquePtr<FNextTurn> Limit;
 };

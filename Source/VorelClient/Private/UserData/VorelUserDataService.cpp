@@ -123,17 +123,24 @@ bool UVorelUserDataService::Retry(float DeltaTime)
 
 void UVorelUserDataService::HandleAuthenticationStateChanged()
 {
-	if (!Authentication->IsAuthenticated())
+	if (Authentication->IsAuthenticated())
 	{
-		Forget();
+		return;
+	}
+	const bool bKnown = !UserData.UserName.IsEmpty();
+	Forget();
+	// The one thing told that nobody asked for: else the next user would see this one's name, and suffer from this one's credits.
+	if (bKnown)
+	{
+		OnUserDataChanged.Broadcast(FVorelUserData(), true);
 	}
 }
 
 // The user may come back from buying credits, or from mending the network.
 void UVorelUserDataService::HandleReactivated()
 {
-	const bool bAskedBefore = bFailureTold || !UserData.UserName.IsEmpty();
-	if (bAskedBefore && UserData.Credits <= 0)
+	const bool bNoneLeft = !UserData.UserName.IsEmpty() && UserData.Credits <= 0;
+	if (bFailureTold || bNoneLeft)
 	{
 		AskAgain();
 	}

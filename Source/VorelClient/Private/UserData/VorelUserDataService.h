@@ -9,7 +9,8 @@
 class UAuthenticationService;
 
 // Asks the service about the user. Every answer is told in a frame. A failure is told once, and then tried again at growing intervals until
-// it succeeds, is asked for anew, or has been tried often enough. What a session asked for is dropped with it.
+// it succeeds, is asked for anew, or has been tried often enough. What a session asked for is dropped with it, and the user's data are
+// told to be nobody's: an empty name.
 class UVorelUserDataService final : public UUserDataService
 {
 public:
