@@ -61,6 +61,16 @@ bool HasForeignIssuer()
 	return !Options.Issuer.IsEmpty() && Options.ServiceUrl.IsEmpty();
 }
 
+// Out of the environment, which is handed on to the browser.
+FString TakeAssistantKey()
+{
+	constexpr const char* Name = "VOREL_ASSISTANT_KEY";
+	const char* const Key = std::getenv(Name);
+	const FString Taken = FString(Key ? Key : "").TrimStartAndEnd();
+	::unsetenv(Name);
+	return Taken;
+}
+
 template <class T>
 TObjectPtr<T> MakeRooted()
 {
@@ -88,6 +98,7 @@ FVorelClientServices::FVorelClientServices()
 {
 	const FVorelClientOptions& Options = FVorelClientOptions::Get();
 	const bool bEmbedded = Options.ServiceUrl.IsEmpty();
+	const FString AssistantKey = TakeAssistantKey();
 	ServiceUrl = bEmbedded ? StartLocalService() : Options.ServiceUrl;
 	UVorelUserSettings::Get()->SetDefaultAppUrl(ServiceUrl);
 
@@ -96,11 +107,12 @@ FVorelClientServices::FVorelClientServices()
 	{
 		UserDataService->AskAgain();
 	};
-	ChatService->Initialize(ChooseAssistant(), ReadLimits(), GetDataFile(FConversationStore::FileName));
+	ChatService->Initialize(ChooseAssistant(AssistantKey), ReadLimits(), GetDataFile(FConversationStore::FileName));
 	FAuthorizationMetadata* const Issuer = Options.Issuer.IsEmpty() ? nullptr : &AuthService->GetMetadata();
 	UserDataService->Initialize({ServiceUrl, &GetServiceTokens(), Issuer, &AuthService->GetTokens()}, *AuthService);
 	UpdateService->Initialize(
-		{ServiceUrl, bEmbedded ? FString(TEXT("embedded")) : FString(), GetDataFile(FVersionFeedNote::FileName)}, GetInstalledVersion());
+		// The embedded service announces no version but this one.
+		{bEmbedded ? FString() : ServiceUrl, GetDataFile(FVersionFeedNote::FileName)}, GetInstalledVersion());
 }
 
 FVorelClientServices::~FVorelClientServices()
@@ -135,7 +147,7 @@ TObjectPtr<UVorelUpdateService> FVorelClientServices::GetUpdateService() const
 	return UpdateService;
 }
 
-FAssistantEndpoint FVorelClientServices::ChooseAssistant()
+FAssistantEndpoint FVorelClientServices::ChooseAssistant(const FString& Key)
 {
 	const FVorelClientOptions& Options = FVorelClientOptions::Get();
 	const FVorelSettingsValues& Settings = UVorelUserSettings::Get()->GetValues();
@@ -143,13 +155,14 @@ FAssistantEndpoint FVorelClientServices::ChooseAssistant()
 	Endpoint.BaseUrl = Options.AssistantUrl.IsEmpty() ? Settings.AssistantUrl : Options.AssistantUrl;
 	if (Endpoint.BaseUrl.IsEmpty())
 	{
+		UE_CLOG(!Options.Model.IsEmpty(), LogVorel, Warning, TEXT("The model \"%s\" is not used: there is no --assistant to ask for it."),
+			*Options.Model);
 		return MakeOwnAssistant();
 	}
 	// A model from the settings belongs to the server from the settings.
 	const bool bFromSettings = Options.AssistantUrl.IsEmpty() && Options.Model.IsEmpty();
 	Endpoint.Model = bFromSettings ? Settings.AssistantModel : Options.Model;
-	const char* const Key = std::getenv("VOREL_ASSISTANT_KEY");
-	Endpoint.ApiKey = FString(Key ? Key : "").TrimStartAndEnd();
+	Endpoint.ApiKey = Key;
 	return Endpoint;
 }
 

@@ -31,7 +31,7 @@ private:
 	FLoginOptions MakeLoginOptions() const;
 	// For what only the service is asked.
 	IAccessTokenSource& GetServiceTokens();
-	FAssistantEndpoint ChooseAssistant();
+	FAssistantEndpoint ChooseAssistant(const FString& Key);
 	FAssistantEndpoint MakeOwnAssistant();
 
 	// Declared first, so that it is gone last.

@@ -50,10 +50,15 @@ protected:
 
 TEST_F(FLocalAssistantTest, WithoutConfigurationAsksToSignIn)
 {
-	Load();
+	const FLogCapture Log;
+	::setenv("VOREL_ASSISTANT_KEY", "key", 1);
+	Load({.Model = TEXT("of nobody")});
+	EXPECT_EQ(std::getenv("VOREL_ASSISTANT_KEY"), nullptr);
+	EXPECT_EQ(Log.CountAtLevel(TEXT("LogVorel"), ELogVerbosity::Warning), 1) << Log.Dump();
 	EXPECT_TRUE(UVorelSettings::Get()->GetAppUrl().StartsWith(TEXT("http://127.0.0.1:")));
 	EXPECT_FALSE(FVorelClient::Get().GetAuthService()->IsAuthenticated());
-	EXPECT_TEXT(Ask(TEXT("How do I set a timer?")), TEXT("Your login is no longer valid. Log out and sign in again."));
+	EXPECT_TEXT(Ask(TEXT("How do I set a timer?")),
+		TEXT("Your login could not be confirmed at the moment. The log tells why. Try again in a while."));
 }
 
 // Its tokens are none of the service's, which serves its owner then.

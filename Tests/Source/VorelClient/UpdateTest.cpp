@@ -8,6 +8,7 @@
 #include "Support/TempFolder.h"
 #include "SemanticVersion.h"
 #include "Update/VersionFeedUpdateService.h"
+#include <filesystem>
 
 TEST(FSemanticVersionTest, OrdersByPrecedence)
 {
@@ -47,18 +48,20 @@ protected:
 		CollectGarbage();
 	}
 
-	// A program with version 1.2.3 and a feed of this name starts, and a panel is built.
-	UVersionFeedUpdateService& Check(const TCHAR* Name = TEXT("feed"))
+	// A program with version 1.2.3 and a feed below this path starts, and a panel is built.
+	UVersionFeedUpdateService& Check(const TCHAR* Path = TEXT(""))
 	{
 		auto* const Service = NewObject<UVersionFeedUpdateService>();
 		Service->AddToRoot();
 		Services.Add(Service);
-		Service->Initialize({FString(Server.GetAddress().constData()), Name, Folder.GetPath(FVersionFeedNote::FileName)}, TEXT("1.2.3"));
+		Service->Initialize({GetFeed() + Path, Folder.GetPath(FVersionFeedNote::FileName)}, TEXT("1.2.3"));
 		Service->OnLatestVersionReceived.AddLambda([this](const FString& Version) { Told += Version + TEXT(";"); });
 		Service->CheckForUpdates();
 		EXPECT_TEXT(Told, TEXT(""));
 		return *Service;
 	}
+
+	FString GetFeed() const { return FString(Server.GetAddress().constData()); }
 
 	void Announce(const QByteArray& Body, const QByteArray& Status = "200 OK")
 	{
@@ -108,16 +111,16 @@ TEST_F(FUpdateTest, AsksOnceADayAndTellsOfANewerVersionAtEachPanel)
 
 	// What another feed announces is asked there.
 	Announce(R"({"version":"1.2.3+later"})");
-	Check(TEXT("other"));
+	Check(TEXT("/other"));
 	EXPECT_TEXT(GetTold(2), TEXT(""));
 }
 
 TEST_F(FUpdateTest, AsksWhereTheNoteIsOfNoUse)
 {
 	const int64 Now = QDateTime::currentSecsSinceEpoch();
-	const auto MakeNote = [](const FString& AskedAt)
+	const auto MakeNote = [&](const FString& AskedAt)
 	{
-		return FString(TEXT("{\"feed\":\"feed\",\"version\":\"9.0.0\",\"askedAt\":")) + AskedAt + TEXT("}");
+		return FString(TEXT("{\"feed\":\"")) + GetFeed() + FString(TEXT("\",\"version\":\"9.0.0\",\"askedAt\":")) + AskedAt + TEXT("}");
 	};
 	const auto MakeTime = [&](int64 Time)
 	{
@@ -140,19 +143,26 @@ TEST_F(FUpdateTest, AsksWhereTheNoteIsOfNoUse)
 TEST_F(FUpdateTest, AFailureIsSilentAndNotRepeated)
 {
 	const std::pair<QByteArray, QByteArray> Replies[] = {{"500 Internal Server Error", "{}"}, {"200 OK", "<html>"}, {"200 OK", "{}"},
-		{"200 OK", R"({"version":7})"}, {"200 OK", R"({"version":"2"})"}};
+		{"200 OK", R"({"version":7})"}, {"200 OK", R"({"version":"2"})"},
+		{"200 OK", "{\"version\":\"9.0.0-" + QByteArray(300, 'a') + "\"}"}};
 	int32 NumRequests = 0;
 	for (const auto& [Status, Body] : Replies)
 	{
 		const FLogCapture Log;
 		Announce(Body, Status);
-		const FString Name = FString::FromInt(++NumRequests);
-		UVersionFeedUpdateService& Service = Check(*Name);
+		const FString Path = TEXT("/") + FString::FromInt(++NumRequests);
+		UVersionFeedUpdateService& Service = Check(*Path);
 		EXPECT_TEXT(GetTold(NumRequests), TEXT(""));
 		Service.CheckForUpdates();
-		Check(*Name);
+		Check(*Path);
 		EXPECT_TEXT(GetTold(NumRequests), TEXT(""));
 		EXPECT_EQ(Log.GetMessages().Num(), 1);
 		EXPECT_EQ(Log.CountAtLevel(TEXT("LogVorel"), ELogVerbosity::Log), 1);
 	}
+	// Where the last of them was asked again, this is one too many.
+	Announce(R"({"version":"1.2.2"})");
+	Check(TEXT("/last"));
+	EXPECT_TEXT(GetTold(NumRequests + 1), TEXT(""));
+	EXPECT_EQ(
+		std::filesystem::status(TCHAR_TO_UTF8(Folder.GetPath(FVersionFeedNote::FileName))).permissions(), std::filesystem::perms(0600));
 }

@@ -24,9 +24,14 @@ FVersionFeedNote FVersionFeedNote::Load(const FString& File)
 
 void FVersionFeedNote::Save(const FString& File) const
 {
+	if (File.IsEmpty())
+	{
+		return;
+	}
 	const std::string Text = FJson{{"feed", ToUtf8(Feed)}, {"askedAt", AskedAt}, {"version", ToUtf8(Version)}}.dump();
 	QSaveFile Disk(ToQString(File));
-	if (Disk.open(QIODevice::WriteOnly) && Disk.write(Text.data(), static_cast<qint64>(Text.size())) >= 0)
+	if (Disk.open(QIODevice::WriteOnly) && Disk.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
+		Disk.write(Text.data(), static_cast<qint64>(Text.size())) >= 0)
 	{
 		Disk.commit();
 	}

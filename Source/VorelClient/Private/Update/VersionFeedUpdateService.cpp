@@ -6,12 +6,14 @@
 #include "Http/HttpFetch.h"
 #include "Http/QtText.h"
 
+#include "Http/BackgroundRequest.h"
 #include "Http/JsonText.h"
 #include "LogVorel.h"
 #include "SemanticVersion.h"
 #include "Update/VersionFeedUpdateService.h"
 
-static constexpr FRequestLimits Limits{10.0, 30.0, 30.0};
+// Longer than any that was ever given, and short enough for the note to be read again.
+static constexpr int32 MaxVersionLength = 256;
 
 UVersionFeedUpdateService::UVersionFeedUpdateService() = default;
 
@@ -23,9 +25,8 @@ UVersionFeedUpdateService::~UVersionFeedUpdateService()
 void UVersionFeedUpdateService::Initialize(const FVersionFeed& InFeed, const FString& InInstalledVersion)
 {
 	Feed = InFeed;
-	Feed.Name = Feed.Name.IsEmpty() ? Feed.ServiceUrl : Feed.Name;
 	InstalledVersion = InInstalledVersion;
-	Note = Feed.NoteFile.IsEmpty() ? FVersionFeedNote() : FVersionFeedNote::Load(Feed.NoteFile);
+	Note = FVersionFeedNote::Load(Feed.NoteFile);
 }
 
 void UVersionFeedUpdateService::Shutdown()
@@ -42,17 +43,17 @@ void UVersionFeedUpdateService::CheckForUpdates()
 		return;
 	}
 	// Another program may have asked meanwhile.
-	const FVersionFeedNote OnDisk = Feed.NoteFile.IsEmpty() ? Note : FVersionFeedNote::Load(Feed.NoteFile);
+	const FVersionFeedNote OnDisk = FVersionFeedNote::Load(Feed.NoteFile);
 	const int64 Now = QDateTime::currentSecsSinceEpoch();
-	Note = OnDisk.IsOfToday(Feed.Name, Now) ? OnDisk : Note;
-	if (!Note.IsOfToday(Feed.Name, Now))
+	Note = OnDisk.IsOfToday(Feed.ServiceUrl, Now) ? OnDisk : Note;
+	if (!Note.IsOfToday(Feed.ServiceUrl, Now))
 	{
-		Note = {Feed.Name, Now, Note.Feed == Feed.Name ? Note.Version : FString()};
+		Note = {Feed.ServiceUrl, Now, Note.Feed == Feed.ServiceUrl ? Note.Version : FString()};
 		Ask();
 	}
-	else if (IsNewer())
+	else
 	{
-		Frame = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateUObject(this, &UVersionFeedUpdateService::Tell));
+		TellOfNewer();
 	}
 }
 
@@ -61,34 +62,39 @@ void UVersionFeedUpdateService::Ask()
 	Note.Save(Feed.NoteFile);
 	FHttpRequest Request;
 	Request.Url = QUrl(ToQString(Feed.ServiceUrl / TEXT("v1/version")));
-	Fetch = MakeUnique<FHttpFetch>(::MoveTemp(Request), Limits,
+	Fetch = MakeUnique<FHttpFetch>(::MoveTemp(Request), BackgroundRequest::Limits,
 		[this](const TOptional<FHttpFailure>& Failure, const std::string& Body) { HandleEnded(Failure, Body); });
 }
 
 void UVersionFeedUpdateService::HandleEnded(const TOptional<FHttpFailure>& Failure, const std::string& Body)
 {
 	const FString Version = Failure ? FString() : ToString(GetMember(ParseJson(Body), "version"));
-	if (FSemanticVersion::Parse(Version))
+	if (Version.Len() <= MaxVersionLength && FSemanticVersion::Parse(Version))
 	{
 		Note.Version = Version;
 		Note.Save(Feed.NoteFile);
 	}
 	else
 	{
-		UE_LOG(LogVorel, Log, TEXT("The version feed %s"), Failure ? TEXT("could not be read") : TEXT("names no version"));
+		UE_LOG(LogVorel, Log, TEXT("The version feed could not be read: %s"),
+			Failure ? *BackgroundRequest::Describe(*Failure) : TEXT("it names no version"));
 	}
 	Fetch.Reset();
-	if (IsNewer())
-	{
-		Frame = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateUObject(this, &UVersionFeedUpdateService::Tell));
-	}
+	TellOfNewer();
 }
 
-bool UVersionFeedUpdateService::Tell(float DeltaTime)
+void UVersionFeedUpdateService::TellOfNewer()
 {
-	Frame.Reset();
-	OnLatestVersionReceived.Broadcast(Note.Version);
-	return false;
+	if (IsNewer())
+	{
+		Frame = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateWeakLambda(this,
+			[this](float)
+			{
+				Frame.Reset();
+				OnLatestVersionReceived.Broadcast(Note.Version);
+				return false;
+			}));
+	}
 }
 
 bool UVersionFeedUpdateService::IsNewer() const

@@ -13,8 +13,6 @@ struct FVersionFeed
 {
 	// Of the service, without a slash at the end. Empty: there is nobody to ask.
 	FString ServiceUrl{};
-	// By which it is remembered, where its address is another one each time. Empty: the address.
-	FString Name{};
 	// Where it is remembered; empty: for this run alone.
 	FString NoteFile{};
 };
@@ -36,7 +34,7 @@ public:
 private:
 	void Ask();
 	void HandleEnded(const TOptional<FHttpFailure>& Failure, const std::string& Body);
-	bool Tell(float DeltaTime);
+	void TellOfNewer();
 	bool IsNewer() const;
 
 	FVersionFeed Feed;
