@@ -59,9 +59,9 @@ TEST_F(FChatTokenTest, AsksToSignInAgainWhereNoTokenIsTaken)
 {
 	Refuse("401 Unauthorized");
 	Refuse("401 Unauthorized");
-	const FString Failed = TEXT("failed(Your login is no longer valid. Log out and sign in again.)");
-	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* ") + Failed);
-	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("user(Hi)* ") + Failed);
+	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* failed(Your login is no longer valid. Log out and sign in again.)"));
+	EXPECT_EQ(Ask(TEXT("Hi")),
+		TEXT("user(Hi)* failed(Your login could not be confirmed at the moment. The log tells why. Try again in a while.)"));
 	EXPECT_TEXT(GetRequests(), TEXT("Bearer one agent;Bearer two agent;"));
 	EXPECT_EQ(NumSpent, 0);
 }
@@ -78,4 +78,8 @@ TEST_F(FChatTokenTest, NamesCreditsAndWhereToGetThem)
 	Refuse("500 Internal Server Error");
 	Ask(TEXT("Hi"));
 	EXPECT_EQ(NumSpent, 1);
+	Tokens.Tokens.Add(TEXT("three"));
+	Server.Then([](const FExchange& Exchange) { Exchange.Reset(); });
+	Ask(TEXT("Hi"));
+	EXPECT_EQ(NumSpent, 2);
 }

@@ -201,6 +201,9 @@ FAnswerEnd FAnswerCall::MakeEnd(const FHttpFailure& Failure) const
 {
 	constexpr int32 PaymentRequired = 402;
 	const bool bNothingLeft = Failure.Kind == EHttpFailure::Status && Failure.Status == PaymentRequired;
+	// The answer may have begun, and been paid for, without a byte of it coming through.
+	const bool bLost = Failure.Kind == EHttpFailure::BrokenOff ||
+					   (Failure.Kind == EHttpFailure::TimeLimit && Failure.Phase == EHttpPhase::WaitingForFirstByte);
 	const FText Text = Endpoint.Tokens ? FailureText::DescribeOfService(Failure, Endpoint.BillingUrl) : FailureText::Describe(Failure);
-	return FAnswerEnd{EAnswerEnd::Failed, Text, bAnswerBegan || bNothingLeft};
+	return FAnswerEnd{EAnswerEnd::Failed, Text, bAnswerBegan || bNothingLeft || bLost};
 }

@@ -119,7 +119,10 @@ FText FailureText::DescribeOfService(const FHttpFailure& Failure, const FString&
 	switch (Failure.Kind == EHttpFailure::Status ? Failure.Status : 0)
 	{
 	case 401:
-		return LOCTEXT("SignInAgain", "Your login is no longer valid. Log out and sign in again.");
+		// Without a host the service was not asked at all, for want of a token.
+		return Failure.Host.IsEmpty()
+				   ? LOCTEXT("NoToken", "Your login could not be confirmed at the moment. The log tells why. Try again in a while.")
+				   : LOCTEXT("SignInAgain", "Your login is no longer valid. Log out and sign in again.");
 	case 402:
 		return FText::Format(LOCTEXT("NoCredits", "You have no credits left for this mode. Get more at {0}, or take another mode."),
 			FText::FromString(BillingUrl));

@@ -32,6 +32,11 @@ void FAnswerStream::Start(const TArray<FChatMessage>& Messages, EChatMode Mode)
 	Call.Start(Messages, Mode);
 }
 
+void FAnswerStream::Fail(const FText& Failure)
+{
+	Call.OnEnded({EAnswerEnd::Failed, Failure});
+}
+
 void FAnswerStream::Cancel()
 {
 	bCancelled = true;

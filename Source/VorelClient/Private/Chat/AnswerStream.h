@@ -19,6 +19,9 @@ public:
 
 	void Start(const TArray<FChatMessage>& Messages, EChatMode Mode);
 
+	// In place of starting: it ends with this.
+	void Fail(const FText& Failure);
+
 	// Nothing fires from now on; the server is hung up on when the stream goes.
 	void Cancel();
 

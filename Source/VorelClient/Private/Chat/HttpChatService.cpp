@@ -133,15 +133,16 @@ void UHttpChatService::SendMessage(const FString& Text)
 	{
 		OpenConversation(Current);
 	}
-	if (!Current->bLoaded)
-	{
-		OnRequestFailed.Broadcast(FailureText::ConversationNotRead().ToString());
-		return;
-	}
 	const TSharedRef<FRequest> Own = MakeShared<FRequest>();
 	Own->Conversation = Current;
 	Request = Own;
 	bIsProcessingRequest = true;
+	if (!Current->bLoaded)
+	{
+		// The sender empties the box after this call; what fails later comes back into it.
+		MakeStream().Fail(FailureText::ConversationNotRead());
+		return;
+	}
 	if (Conversations.Use(*Current, Text))
 	{
 		OnChatHistoryChanged.Broadcast();
@@ -182,9 +183,8 @@ TArray<FChatMessage> UHttpChatService::MakeMessages() const
 	return Messages;
 }
 
-void UHttpChatService::StartAnswer()
+FAnswerStream& UHttpChatService::MakeStream()
 {
-	Request->Row = std::make_shared<int64>(0);
 	Request->Stream = MakeShared<FAnswerStream>(Endpoint, Limits);
 	Request->Stream->OnText = [this](const FString& Text)
 	{
@@ -194,8 +194,14 @@ void UHttpChatService::StartAnswer()
 	{
 		EndRequest(End);
 	};
+	return *Request->Stream;
+}
+
+void UHttpChatService::StartAnswer()
+{
+	Request->Row = std::make_shared<int64>(0);
 	const bool bAgent = IsChatModeNameAnAgent(Request->Conversation->ModeName);
-	Request->Stream->Start(MakeMessages(), bAgent ? EChatMode::Agent : EChatMode::Chat);
+	MakeStream().Start(MakeMessages(), bAgent ? EChatMode::Agent : EChatMode::Chat);
 }
 
 void UHttpChatService::HandleText(const FString& Text)

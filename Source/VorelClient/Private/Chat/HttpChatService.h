@@ -46,7 +46,8 @@ public:
 	// Stops an answer under way in this conversation. An open one makes room for a new one in the default mode, which fires as a new one
 	// does. The object is marked as garbage before that.
 	void DeleteChatHistory(const FString& Id) override;
-	// Ignored, and logged, while an answer is under way. Fails at once in a conversation whose earlier messages can't be read.
+	// Ignored, and logged, while an answer is under way. Fails in the next frame in a conversation whose earlier messages
+	// can't be read.
 	void SendMessage(const FString& Text) override;
 
 	void AddReferencedObjects(FReferenceCollector& Collector) override;
@@ -65,6 +66,7 @@ private:
 	};
 
 	TArray<FChatMessage> MakeMessages() const;
+	FAnswerStream& MakeStream();
 	void StartAnswer();
 	void HandleText(const FString& Text);
 	bool StoreGrowth(float DeltaTime);
