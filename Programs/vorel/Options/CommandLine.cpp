@@ -57,7 +57,8 @@ bool SetSafeUrl(FString& Target, const FString& Value, bool bPath)
 bool SetServiceUrl(FCommandLine& Line, const FString& Value)
 {
 	const bool bSafe = SetSafeUrl(Line.ServiceUrl, Value, false);
-	Line.ServiceUrl.RemoveFromEnd(TEXT("/"));
+	// As the service writes it: scheme and host in small letters.
+	Line.ServiceUrl = ToFString(QUrl(ToQString(Value)).toString(QUrl::RemovePath));
 	return bSafe;
 }
 

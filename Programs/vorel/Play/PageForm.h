@@ -8,7 +8,7 @@
 #include <QMap>
 #include <QUrl>
 
-// A form of a web page, filled in and ready to be sent.
+// A form of a web page, filled in and ready to be sent. Only attributes in double quotes are read.
 struct FPageForm
 {
 	QUrl Action;

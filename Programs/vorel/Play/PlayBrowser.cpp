@@ -41,13 +41,13 @@ public:
 private:
 	FPlayResult Begin(IPlayStage& Stage)
 	{
-		const int32 NumBefore = Stage.GetOpenedAddresses().Num();
-		const bool bClickedBefore = NumBefore > 0 && !IsCaptionShown(Stage);
-		NumOpened = NumBefore - (bClickedBefore ? 1 : 0);
-		if (bClickedBefore)
+		if (Stage.GetTabContent() && !IsCaptionShown(Stage))
 		{
+			// Clicked before: the page may have been opened since, or will be.
+			NumOpened = 0;
 			return FPlayResult::NotYet();
 		}
+		NumOpened = Stage.GetOpenedAddresses().Num();
 		const FPlayResult Clicked = PlayActions::Click(LoginCaption, NullOpt)(Stage, 0.0);
 		return Clicked.State == FPlayResult::EState::Failed ? Clicked : FPlayResult::NotYet();
 	}
@@ -56,7 +56,7 @@ private:
 	FString GoOnInBrowser(IPlayStage& Stage)
 	{
 		const TArray<FString> Addresses = Stage.GetOpenedAddresses();
-		if (!Hand && Addresses.Num() > *NumOpened)
+		if (!Hand && Addresses.Num() > *NumOpened && IsLoginPage(Addresses.Last()))
 		{
 			Hand = MakeUnique<FBrowserHand>(Addresses.Last(), Entries, FString());
 		}
@@ -67,6 +67,9 @@ private:
 		const bool bOver = Stage.IsPainted() && IsCaptionShown(Stage);
 		return bOver ? TEXT("the login came to nothing; why stands in the log") : TEXT("");
 	}
+
+	// And no other page that was opened meanwhile.
+	static bool IsLoginPage(const FString& Address) { return Address.Contains(TEXT("code_challenge=")); }
 
 	// While a login is under way, dots stand in its place.
 	static bool IsCaptionShown(IPlayStage& Stage)
@@ -91,8 +94,12 @@ FPlayStep PlayBrowser::Login(const FString& Name, const FString& Password)
 
 FPlayStep PlayBrowser::Press(const FString& Button)
 {
-	return [Button, Hand = TSharedPtr<FBrowserHand>()](IPlayStage& Stage, double) mutable
+	return [Button, Hand = TSharedPtr<FBrowserHand>()](IPlayStage& Stage, double Seconds) mutable
 	{
+		if (Seconds >= Patience)
+		{
+			return FPlayResult::Fail(TEXT("the browser is not done after 30 seconds"));
+		}
 		const TArray<FString> Addresses = Stage.GetOpenedAddresses();
 		QSlateWidget* const Content = Stage.GetTabContent();
 		if (Addresses.IsEmpty() || !Content)

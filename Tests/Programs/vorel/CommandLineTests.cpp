@@ -35,6 +35,7 @@ TEST(CommandLine, TakesValuesBehindABlankOrAnEqualsSign)
 	EXPECT_TEXT(Line.Issuer + Line.ClientId, TEXT("https://host/a/b"));
 	EXPECT_TEXT(Line.PlayFile, TEXT("x.play"));
 	EXPECT_EQ(*Parse({TEXT("--daily-credits"), TEXT("0")}).DailyCredits, 0);
+	EXPECT_TEXT(Parse({TEXT("--service=HTTPS://Host:8443/")}).ServiceUrl, TEXT("https://host:8443"));
 }
 
 TEST(CommandLine, TakesNothingForAnOptionBehindTwoDashes)

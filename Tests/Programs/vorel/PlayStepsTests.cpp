@@ -1,7 +1,12 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
 #include "Play/PageForm.h"
+#include "Play/PlayBrowser.h"
+#include "Play/PlayStage.h"
 #include "Programs/vorel/VorelProgramTest.h"
+
+#include <future>
+#include <httplib.h>
 
 using PlaySteps = FVorelProgramTest;
 
@@ -44,6 +49,54 @@ TEST_F(PlaySteps, AFailureTellsWhatWasOnScreen)
 		Outcome.Errors.Contains(TEXT("a.play:2: the login came to nothing; why stands in the log\n  on screen was:\n    \"Welcome")))
 		<< Outcome.Errors;
 	EXPECT_FALSE(Outcome.Errors.Contains(TEXT("Licenced to"))) << Outcome.Errors;
+}
+
+// A service that lets the login wait before it fails.
+TEST_F(PlaySteps, LoginTakesNoOtherPageForItsOwn)
+{
+	std::promise<void> OtherPage;
+	std::future<void> Opened = OtherPage.get_future();
+	httplib::Server Server;
+	Server.Get("/privacy", [&](const httplib::Request&, httplib::Response&) { OtherPage.set_value(); });
+	Server.Get("/.*",
+		[&](const httplib::Request&, httplib::Response& Reply)
+		{
+			Opened.wait_for(std::chrono::seconds(1));
+			Reply.status = 404;
+		});
+	const QString Service = QStringLiteral("--service=http://127.0.0.1:%1").arg(Server.bind_to_any_port("127.0.0.1"));
+	std::thread Thread([&] { Server.listen_after_bind(); });
+	for (const char* const Before : {"", "click \"Privacy Policy\"\n"})
+	{
+		Write("a.play", (std::string("open \"Vorel AI\"\n") + Before + "click \"Log in\"\nlogin \"Ada\"\n").c_str());
+		const FProgramOutcome Outcome = PlayFile(QStringLiteral("a.play"), {Service});
+		EXPECT_TRUE(Outcome.Errors.Contains(TEXT("the login came to nothing"))) << Outcome.Errors;
+	}
+	Server.stop();
+	Thread.join();
+}
+
+namespace
+{
+class FStageWithoutTab final : public IPlayStage
+{
+public:
+	bool InvokeMenuEntry(const FString&, FString&) override { return false; }
+	QSlateWidget* GetTabContent() override { return nullptr; }
+	QWidget& GetWindow() override { std::abort(); }
+	void ResizeTabContent(const FContentSize&) override {}
+	bool IsSignedIn() const override { return false; }
+	bool IsRequestUnderWay() const override { return false; }
+	bool IsPainted() const override { return true; }
+	int64 GetNumFrames() const override { return 0; }
+	TArray<FString> GetOpenedAddresses() const override { return {}; }
+};
+} // namespace
+
+TEST(PlayBrowser, DoesNotWaitForeverForAPage)
+{
+	FStageWithoutTab Stage;
+	EXPECT_TEXT(PlayBrowser::Press(TEXT("Top up"))(Stage, 30.0).Problem, TEXT("the browser is not done after 30 seconds"));
 }
 
 TEST(PageForm, IsSentAsABrowserDoes)
