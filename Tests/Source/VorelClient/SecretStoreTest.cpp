@@ -151,6 +151,16 @@ TEST_F(FSecretStoreTest, WithoutOneTheLoginHoldsForThisRun)
 	}
 	Options.Limits.SecretStore = 0.5;
 	Options.bUseKeyring = true;
+	// What a logout left in the file is revoked and forgotten at the next start, whatever the store says.
+	LogIn(MakeTokens("1"));
+	Service().Logout();
+	EndService();
+	Server.Then(ReplyMetadata(Server));
+	EXPECT_FALSE(Service().IsAuthenticated());
+	EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().last().Body.contains("token=refresh-1&") && !IsNoted("signed out"); }));
+	EndService();
+	Log.Clear();
+
 	Options.bAllowTokenFile = false;
 	NoteThatTheStoreHasTokens();
 	EXPECT_TRUE(Service().IsAuthenticated());

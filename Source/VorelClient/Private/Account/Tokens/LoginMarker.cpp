@@ -5,16 +5,15 @@
 #include "Account/Tokens/PrivateFile.h"
 #include "Http/JsonText.h"
 #include "Misc/Paths.h"
+#include <algorithm>
 
 namespace
 {
 // {"logins": {account: place}}
 constexpr const char* Logins = "logins";
 
-const char* GetName(ETokenPlace Place)
-{
-	return Place == ETokenPlace::SecretStore ? "secret store" : Place == ETokenPlace::File ? "file" : "signed out";
-}
+constexpr std::pair<ETokenPlace, const char*> Names[] = {{ETokenPlace::SecretStore, "secret store"}, {ETokenPlace::File, "file"},
+	{ETokenPlace::LeftSecretStore, "signed out of the secret store"}, {ETokenPlace::LeftFile, "signed out of the file"}};
 
 FJson ReadLogins(const FString& File)
 {
@@ -34,14 +33,9 @@ FLoginMarker::FLoginMarker(const FString& DataFolder, const FString& InAccount)
 ETokenPlace FLoginMarker::Read() const
 {
 	const FString Name = File.IsEmpty() ? FString() : ToString(GetMember(ReadLogins(File), ToUtf8(Account).c_str()));
-	for (const ETokenPlace Place : {ETokenPlace::SecretStore, ETokenPlace::File, ETokenPlace::Left})
-	{
-		if (Name == FString(GetName(Place)))
-		{
-			return Place;
-		}
-	}
-	return ETokenPlace::None;
+	const auto* const Found =
+		std::find_if(std::begin(Names), std::end(Names), [&Name](const auto& Entry) { return Name == FString(Entry.second); });
+	return Found == std::end(Names) ? ETokenPlace::None : Found->first;
 }
 
 bool FLoginMarker::Write(ETokenPlace Place) const
@@ -51,13 +45,13 @@ bool FLoginMarker::Write(ETokenPlace Place) const
 		return true;
 	}
 	FJson Known = ReadLogins(File);
-	if (Place == ETokenPlace::None)
+	Known.erase(ToUtf8(Account));
+	for (const auto& [Noted, Name] : Names)
 	{
-		Known.erase(ToUtf8(Account));
-	}
-	else
-	{
-		Known[ToUtf8(Account)] = GetName(Place);
+		if (Noted == Place)
+		{
+			Known[ToUtf8(Account)] = Name;
+		}
 	}
 	PrivateFile::MakeFolder(FPaths::GetPath(File));
 	const bool bWritten = PrivateFile::Write(File, FJson{{Logins, Known}}.dump(1, '\t'));

@@ -10,8 +10,9 @@ enum class ETokenPlace : uint8
 	None,
 	SecretStore,
 	File,
-	// Nobody is signed in, but the tokens are not cleared yet.
-	Left
+	// Nobody is signed in, but the tokens there are not cleared yet.
+	LeftSecretStore,
+	LeftFile
 };
 
 // Notes in a file, without secrets, who is signed in and where the tokens lie, so that a program knows it as soon as it starts.

@@ -43,11 +43,17 @@ FTokenStore::~FTokenStore() = default;
 ETokenPlace FTokenStore::GetPlace() const
 {
 	const ETokenPlace Noted = Marker.Read();
-	const ETokenPlace Usual = Options.bUseKeyring ? ETokenPlace::SecretStore : ETokenPlace::File;
-	const ETokenPlace Place = Noted == ETokenPlace::Left ? Usual : Noted;
-	const bool bReadable =
-		(Place == ETokenPlace::SecretStore && Options.bUseKeyring) || (Place == ETokenPlace::File && Options.bAllowTokenFile);
-	return bReadable ? Place : ETokenPlace::None;
+	const bool bSecretStore = Noted == ETokenPlace::SecretStore || Noted == ETokenPlace::LeftSecretStore;
+	const bool bFile = Noted == ETokenPlace::File || Noted == ETokenPlace::LeftFile;
+	return bSecretStore && Options.bUseKeyring ? ETokenPlace::SecretStore
+		   : bFile && Options.bAllowTokenFile  ? ETokenPlace::File
+											   : ETokenPlace::None;
+}
+
+bool FTokenStore::IsToBeCleared() const
+{
+	const ETokenPlace Noted = Marker.Read();
+	return Noted == ETokenPlace::LeftFile || (Noted == ETokenPlace::LeftSecretStore && Options.bUseKeyring);
 }
 
 void FTokenStore::Load(FOnLoaded OnLoaded)
@@ -141,7 +147,7 @@ void FTokenStore::Clear(TFunction<void()> OnCleared)
 	const auto HandleCleared = [this, OnCleared](ESecretStoreEnd End, const std::string&)
 	{
 		Call.Reset();
-		if (IsToBeCleared() && End != ESecretStoreEnd::Failed)
+		if (Marker.Read() == ETokenPlace::LeftFile || (IsToBeCleared() && End != ESecretStoreEnd::Failed))
 		{
 			Marker.Write(ETokenPlace::None);
 		}
@@ -156,7 +162,7 @@ void FTokenStore::Clear(TFunction<void()> OnCleared)
 	{
 		Call = FSecretStoreCall::Delete(Options.KeyringAccount, Options.Limits.SecretStore, HandleCleared);
 	};
-	if (!IsToBeCleared())
+	if (Marker.Read() != ETokenPlace::LeftSecretStore)
 	{
 		Delete();
 		return;
@@ -177,11 +183,15 @@ void FTokenStore::RemoveFile() const
 
 void FTokenStore::ForgetMarker()
 {
-	// What another program keeps in a secret store that this one doesn't use is none of its business.
 	const ETokenPlace Place = Marker.Read();
-	if (Place == ETokenPlace::File || (Place == ETokenPlace::SecretStore && Options.bUseKeyring))
+	if (Place == ETokenPlace::File)
 	{
-		Marker.Write(ETokenPlace::Left);
+		Marker.Write(ETokenPlace::LeftFile);
+	}
+	else if (Place == ETokenPlace::SecretStore && Options.bUseKeyring)
+	{
+		// What another program keeps in a secret store that this one doesn't use is none of its business.
+		Marker.Write(ETokenPlace::LeftSecretStore);
 	}
 }
 

@@ -31,7 +31,7 @@ public:
 	bool HasTokens() const { return !IsToBeCleared() && GetPlace() != ETokenPlace::None; }
 
 	// The last run ended before what it signed out of was cleared. It may still be there.
-	bool IsToBeCleared() const { return Marker.Read() == ETokenPlace::Left; }
+	bool IsToBeCleared() const;
 
 	// Other programs find the tokens, and may have renewed them or let them go.
 	bool IsShared() const { return bShared; }
