@@ -96,7 +96,7 @@ FString FLoginTest::WaitForEnd()
 void FLoginTest::LogIn(const QByteArray& Tokens)
 {
 	LogInUnstored(Tokens);
-	EXPECT_TRUE(PumpUntil([this] { return IsNoted("secret store") || IsNoted("file"); }));
+	EXPECT_TRUE(PumpUntil([this] { return IsNoted("\"secret store\"") || IsNoted("\"file\""); }));
 }
 
 void FLoginTest::LogInUnstored(const QByteArray& Tokens)

@@ -128,7 +128,7 @@ TEST_F(FSecretStoreTest, ALockedOneCostsNoLogin)
 	EXPECT_TRUE(Service().IsAuthenticated());
 	EXPECT_TRUE(WaitForEnd().StartsWith(TEXT("Your sign-in can't be read")));
 	EXPECT_EQ(Server.GetExchanges().size(), 2);
-	EXPECT_TRUE(IsNoted("secret store"));
+	EXPECT_TRUE(IsNoted("\"secret store\""));
 
 	// What can't be cleared is cleared another time.
 	EndService();
