@@ -87,7 +87,7 @@ TEST_F(FChatRequestTest, SendsTheInstructionsOfTheMode)
 
 TEST_F(FChatRequestTest, KeepsRolesInTurnAfterAMessageWithoutAnswer)
 {
-	Server.Then([](const FExchange& Exchange) { Exchange.SendReply("500 Oops", "text/plain", "no"); });
+	Server.Then(ReplyJson("500 Oops"));
 	Server.Then(Answer("2"));
 	Ask(TEXT("lost"));
 	Ask(TEXT("found"));
@@ -98,12 +98,7 @@ TEST_F(FChatRequestTest, KeepsRolesInTurnAfterAMessageWithoutAnswer)
 
 TEST_F(FChatRequestTest, HandsOverOneChunkAFrameHoweverManyEventsCame)
 {
-	Server.Then(
-		[](const FExchange& Exchange)
-		{
-			Exchange.SendStreamHead();
-			Exchange.Send(MakeDelta("a") + MakeDelta("b") + MakeDelta("c"));
-		});
+	Server.Then(SendAndStayOpen(MakeDelta("a") + MakeDelta("b") + MakeDelta("c")));
 	Service().SendMessage(TEXT("Hi"));
 	TakeEvents();
 	ASSERT_TRUE(WaitForFrameRequest());
@@ -113,36 +108,21 @@ TEST_F(FChatRequestTest, HandsOverOneChunkAFrameHoweverManyEventsCame)
 	Tick();
 	EXPECT_EQ(TakeEvents(), TEXT(""));
 
-	// The end comes with the rest of the text, in one frame too.
+	// The end comes with the rest of the text, in one frame too, and though the connection stays open.
 	Server.GetExchanges()[0].Send(MakeDelta("d") + MakeDelta("e") + EndMark);
 	ASSERT_TRUE(WaitForFrameRequest());
 	Tick();
 	EXPECT_EQ(TakeEvents(), TEXT("chunk(de)* answer(abcde) completed"));
 }
 
-TEST_F(FChatRequestTest, EndsAtTheEndMarkThoughTheConnectionStaysOpen)
-{
-	Server.Then(
-		[](const FExchange& Exchange)
-		{
-			Exchange.SendStreamHead();
-			Exchange.Send(MakeDelta("Done") + EndMark);
-		});
-	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* chunk(Done)* answer(Done) completed"));
-}
-
 TEST_F(FChatRequestTest, AsksForTheFirstModelOnceAndAgainAfterAFailure)
 {
 	Endpoint.Model.Reset();
 	Endpoint.ApiKey = TEXT("secret");
-	const auto Name = [this](const QByteArray& Json)
-	{
-		Server.Then([Json](const FExchange& Exchange) { Exchange.SendReply("200 OK", "application/json", Json); });
-	};
-	Name("{\"object\":\"list\",\"data\":[{\"id\":\"alpha\"},{\"id\":\"other\"}]}");
+	Server.Then(ReplyJson("200 OK", "{\"object\":\"list\",\"data\":[{\"id\":\"alpha\"},{\"id\":\"other\"}]}"));
 	Server.Then(Answer("1"));
-	Server.Then([](const FExchange& Exchange) { Exchange.SendReply("404 Not Found", "application/json", "{}"); });
-	Name("{\"models\":[{\"name\":\"beta\"}]}");
+	Server.Then(ReplyJson("404 Not Found"));
+	Server.Then(ReplyJson("200 OK", "{\"models\":[{\"name\":\"beta\"}]}"));
 	Server.Then(Answer("2"));
 	for (int32 Round = 0; Round < 3; ++Round)
 	{

@@ -21,12 +21,6 @@ protected:
 		};
 	}
 
-	void Refuse(const QByteArray& Status)
-	{
-		Server.Then([Status](const FExchange& Exchange)
-			{ Exchange.SendReply(Status, "application/json", R"({"error":{"message":"no","type":"t","code":"c"}})"); });
-	}
-
 	// Of each request so far: the token, and the mode where one was sent.
 	FString GetRequests() const
 	{
@@ -47,7 +41,7 @@ protected:
 
 TEST_F(FChatTokenTest, RenewsTheTokenOnceAndTellsTheMode)
 {
-	Refuse("401 Unauthorized");
+	Server.Then(ReplyJson("401 Unauthorized"));
 	Server.Then(Answer("Yes."));
 	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* chunk(Yes.)* answer(Yes.) completed"));
 	EXPECT_TEXT(GetRequests(), TEXT("Bearer one agent;Bearer two agent;"));
@@ -57,8 +51,8 @@ TEST_F(FChatTokenTest, RenewsTheTokenOnceAndTellsTheMode)
 
 TEST_F(FChatTokenTest, AsksToSignInAgainWhereNoTokenIsTaken)
 {
-	Refuse("401 Unauthorized");
-	Refuse("401 Unauthorized");
+	Server.Then(ReplyJson("401 Unauthorized"));
+	Server.Then(ReplyJson("401 Unauthorized"));
 	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* failed(Your login is no longer valid. Log out and sign in again.)"));
 	EXPECT_EQ(Ask(TEXT("Hi")),
 		TEXT("user(Hi)* failed(Your login could not be confirmed at the moment. The log tells why. Try again in a while.)"));
@@ -70,12 +64,12 @@ TEST_F(FChatTokenTest, NamesCreditsAndWhereToGetThem)
 {
 	Service().SetCurrentChatMode(TEXT("Ask"));
 	TakeEvents();
-	Refuse("402 Payment Required");
+	Server.Then(ReplyJson("402 Payment Required"));
 	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* failed(You have no credits left for this mode. Get more at "
 									"http://service/billing, or take another mode.)"));
 	EXPECT_TEXT(GetRequests(), TEXT("Bearer one chat;"));
 	EXPECT_EQ(NumSpent, 1);
-	Refuse("500 Internal Server Error");
+	Server.Then(ReplyJson("500 Internal Server Error"));
 	Ask(TEXT("Hi"));
 	EXPECT_EQ(NumSpent, 1);
 	Tokens.Tokens.Add(TEXT("three"));

@@ -7,18 +7,6 @@
 
 using FConversationTest = FChatClientTest;
 
-namespace
-{
-FScriptedServer::FHandler SendHalf()
-{
-	return [](const FExchange& Exchange)
-	{
-		Exchange.SendStreamHead();
-		Exchange.Send(MakeDelta("Half"));
-	};
-}
-} // namespace
-
 TEST_F(FConversationTest, StartsWithAnEmptyOneInTheDefaultMode)
 {
 	EXPECT_EQ(Service().GetCurrentChatModeName(), TEXT("Agent"));
@@ -82,7 +70,7 @@ TEST_F(FConversationTest, IgnoresWhatItDoesNotKnow)
 
 TEST_F(FConversationTest, DeletingTheOneWithTheAnswerKeepsWhatArrivedUntilItIsGone)
 {
-	Server.Then(SendHalf());
+	Server.Then(SendAndStayOpen(MakeDelta("Half")));
 	Service().SendMessage(TEXT("Hi"));
 	ASSERT_TRUE(WaitForFrameRequest());
 	Tick();
@@ -117,7 +105,7 @@ TEST_F(FConversationTest, DeletingAnotherOneIsToldAfterTheAnswer)
 
 TEST_F(FConversationTest, LeavingAnAnswerNeverMixesTwoConversations)
 {
-	Server.Then(SendHalf());
+	Server.Then(SendAndStayOpen(MakeDelta("Half")));
 	Service().SendMessage(TEXT("Hi"));
 	const TObjectPtr<USerializableChatHistory> Left = Service().GetCurrentConversation();
 	// Arrived, and not yet handed over.
@@ -156,7 +144,7 @@ TEST_F(FConversationTest, AListenerMayDeleteWhatIsAboutToBeOpened)
 	Ask(TEXT("one"));
 	const TObjectPtr<USerializableChatHistory> One = Service().GetCurrentConversation();
 	Service().CreateNewConversation(TEXT("Agent"));
-	Server.Then(SendHalf());
+	Server.Then(SendAndStayOpen(MakeDelta("Half")));
 	Service().SendMessage(TEXT("two"));
 	const TObjectPtr<USerializableChatHistory> Two = Service().GetCurrentConversation();
 	Service().OnRequestFailed.AddLambda(
@@ -172,7 +160,7 @@ TEST_F(FConversationTest, AListenerMayDeleteWhatIsAboutToBeOpened)
 
 TEST_F(FConversationTest, SurvivesTheCollectorDuringAnAnswer)
 {
-	Server.Then(SendHalf());
+	Server.Then(SendAndStayOpen(MakeDelta("Half")));
 	Service().SendMessage(TEXT("Hi"));
 	ASSERT_TRUE(WaitForFrameRequest());
 	CollectGarbage();

@@ -17,14 +17,6 @@ struct FFailureRow
 	const TCHAR* Sentence;
 };
 
-FScriptedServer::FHandler Reply(const QByteArray& Status, const QByteArray& Content = "{}", const QByteArray& Headers = {})
-{
-	return [=](const FExchange& Exchange)
-	{
-		Exchange.SendReply(Status, "application/json", Content, Headers);
-	};
-}
-
 FScriptedServer::FHandler Stream(const QByteArray& Bytes)
 {
 	return [Bytes](const FExchange& Exchange)
@@ -59,28 +51,23 @@ const std::vector<FFailureRow>& GetRows()
 				MakeDelta("Half") + "\r\n0\r\n\r\n"),
 			TEXT("Half"), BrokenOff},
 		{"sends no HTTP", Raw("hello, who is there?\r\n\r\n"), TEXT(""), BrokenOff},
-		{"sends a web page",
-			[](const FExchange& Exchange) { Exchange.SendReply("200 OK", "text/html", "<html><title>Portal</title></html>"); }, TEXT(""),
-			TEXT("A web page came in place of the assistant's answer. Check the assistant's address. It says: Portal")},
-		{"sends an error in the stream", Stream(MakeDelta("Half") + "data: {\"error\":\"overload\"}\n\n"), TEXT("Half"),
-			TEXT("The assistant reported an error. It says: overload")},
-		{"400", Reply("400 Bad", "{\"error\":{\"message\":\"context too long\"}}"), TEXT(""),
+		{"400", ReplyJson("400 Bad", "{\"error\":{\"message\":\"context too long\"}}"), TEXT(""),
 			TEXT("The assistant rejected the request. The conversation may be too long for it; a new chat can help. (Error 400.) It says: "
 				 "context "
 				 "too long")},
-		{"401", Reply("401 No", "{}", "WWW-Authenticate: Basic\r\n"), TEXT(""),
+		{"401", ReplyJson("401 No", "{}", "WWW-Authenticate: Basic\r\n"), TEXT(""),
 			TEXT("The assistant did not accept the key. Set the environment variable VOREL_ASSISTANT_KEY to a valid one. (Error 401.)")},
-		{"402", Reply("402 Pay"), TEXT(""), TEXT("The account at this assistant has no credits left. (Error 402.)")},
-		{"403", Reply("403 No"), TEXT(""), TEXT("The assistant does not allow this key to use it. (Error 403.)")},
-		{"404", Reply("404 Not Found", "<html>"), TEXT(""),
+		{"402", ReplyJson("402 Pay"), TEXT(""), TEXT("The account at this assistant has no credits left. (Error 402.)")},
+		{"403", ReplyJson("403 No"), TEXT(""), TEXT("The assistant does not allow this key to use it. (Error 403.)")},
+		{"404", ReplyJson("404 Not Found", "<html>"), TEXT(""),
 			TEXT("The assistant was not found at its address, or it does not have the model. Check both; many addresses end in /v1. (Error "
 				 "404.)")},
-		{"429", Reply("429 Slow", "{\"error\":\"limit\"}", "Retry-After: 7\r\n"), TEXT(""),
+		{"429", ReplyJson("429 Slow", "{\"error\":\"limit\"}", "Retry-After: 7\r\n"), TEXT(""),
 			TEXT("The assistant gets too many requests at the moment. Wait a little and send the message again. (Error 429.) It asks to "
 				 "wait 7 "
 				 "seconds. It says: limit")},
-		{"500", Reply("500 Oops"), TEXT(""), TEXT("The assistant's server has a problem. Try again later. (Error 500.)")},
-		{"303", Reply("303 Other", "{}", "Location: /elsewhere\r\n"), TEXT(""),
+		{"500", ReplyJson("500 Oops"), TEXT(""), TEXT("The assistant's server has a problem. Try again later. (Error 500.)")},
+		{"303", ReplyJson("303 Other", "{}", "Location: /elsewhere\r\n"), TEXT(""),
 			TEXT("The assistant's server refused the request. (Error 303.)")},
 	};
 	return Rows;
@@ -120,27 +107,14 @@ TEST_F(FFailureTest, AServerThatIsNotThere)
 	EXPECT_EQ(Ask(TEXT("Hi")), FString::Printf(TEXT("user(Hi)* failed(No assistant answers at %s. Is it running?)"), *Host));
 }
 
-TEST_F(FFailureTest, AServerThatNeverBeginsToAnswer)
+TEST_F(FFailureTest, AServerThatFallsSilentBeforeItsAnswerOrInTheMiddle)
 {
-	Limits.FirstByte = 0.05;
-	Server.Then([](const FExchange& Exchange) { Exchange.SendStreamHead(); });
+	Limits.FirstByte = Limits.BetweenBytes = 0.05;
+	Server.Then(SendAndStayOpen(""));
 	EXPECT_EQ(AskForFailure(), TEXT("The assistant did not begin to answer within 0.05 seconds."));
-	Server.Then(Answer("Fine"));
-	EXPECT_EQ(Ask(TEXT("Again")), TEXT("user(Again)* chunk(Fine)* answer(Fine) completed"));
-}
-
-TEST_F(FFailureTest, AServerThatFallsSilent)
-{
-	Limits.BetweenBytes = 0.05;
-	Server.Then(
-		[](const FExchange& Exchange)
-		{
-			Exchange.SendStreamHead();
-			Exchange.Send(MakeDelta("Half"));
-		});
-	EXPECT_EQ(Ask(TEXT("Hi")),
-		TEXT("history(0)* user(Hi)* chunk(Half)* interrupted(Half) failed(The assistant fell silent for 0.05 seconds in the "
-			 "middle of its answer.)"));
+	Server.Then(SendAndStayOpen(MakeDelta("Half")));
+	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("user(Hi)* chunk(Half)* interrupted(Half) failed(The assistant fell silent for 0.05 seconds in the "
+									"middle of its answer.)"));
 }
 
 TEST_F(FFailureTest, AServerThatAcceptsNoConnection)
@@ -177,10 +151,11 @@ TEST_F(FFailureTest, AServerThatNamesNoModel)
 {
 	Endpoint.Model.Reset();
 	const std::pair<FScriptedServer::FHandler, const TCHAR*> Rows[] = {
-		{Reply("200 OK", "{\"data\":[]}"), TEXT("The assistant's server names no model. Choose one with --model.")},
-		{Reply("200 OK", "what?"), TEXT("The assistant's server names no model. Choose one with --model.")},
-		{Reply("404 No"), TEXT("The assistant was not found at its address, or it does not have the model. Check both; many addresses end "
-							   "in /v1. (Error 404.)")},
+		{ReplyJson("200 OK", "{\"data\":[]}"), TEXT("The assistant's server names no model. Choose one with --model.")},
+		{ReplyJson("200 OK", "what?"), TEXT("The assistant's server names no model. Choose one with --model.")},
+		{ReplyJson("404 No"),
+			TEXT("The assistant was not found at its address, or it does not have the model. Check both; many addresses end "
+				 "in /v1. (Error 404.)")},
 	};
 	for (const auto& [Handler, Sentence] : Rows)
 	{
@@ -215,7 +190,7 @@ TEST_F(FFailureTest, RedirectsStayWithinTheOrigin)
 	Endpoint.ApiKey = TEXT("secret");
 	FScriptedServer Elsewhere;
 	Elsewhere.Then(Answer("Stolen"));
-	Server.Then(Reply("307 Moved", "{}", "Location: " + Elsewhere.GetAddress() + "/v1/chat/completions\r\n"));
+	Server.Then(ReplyJson("307 Moved", "{}", "Location: " + Elsewhere.GetAddress() + "/v1/chat/completions\r\n"));
 	EXPECT_EQ(AskForFailure(),
 		FString::Printf(
 			TEXT("The assistant's address leads on to another server, %s, which was not contacted. If you trust it, give its address "
@@ -223,7 +198,7 @@ TEST_F(FFailureTest, RedirectsStayWithinTheOrigin)
 			*FString(Elsewhere.GetAddress().constData())));
 	EXPECT_TRUE(Elsewhere.GetExchanges().isEmpty());
 
-	Server.Then(Reply("308 Moved", "{}", "Location: /v2/chat/completions\r\n"));
+	Server.Then(ReplyJson("308 Moved", "{}", "Location: /v2/chat/completions\r\n"));
 	Server.Then(Answer("Fine"));
 	EXPECT_EQ(Ask(TEXT("Again")), TEXT("user(Again)* chunk(Fine)* answer(Fine) completed"));
 	EXPECT_EQ(Server.GetExchanges().last().Path, "/v2/chat/completions");
@@ -235,7 +210,7 @@ TEST_F(FFailureTest, RedirectsDoNotGoRoundForEver)
 {
 	for (int32 Round = 0; Round < 20; ++Round)
 	{
-		Server.Then(Reply("307 Moved", "{}", "Location: /v1/chat/completions\r\n"));
+		Server.Then(ReplyJson("307 Moved", "{}", "Location: /v1/chat/completions\r\n"));
 	}
 	EXPECT_EQ(AskForFailure(), TEXT("The assistant's address leads round in a circle."));
 	EXPECT_LT(Server.GetExchanges().size(), 10);

@@ -9,6 +9,7 @@
 #include "VorelClient.h"
 #include "VorelClientOptions.h"
 #include "VorelSettings.h"
+#include "VorelUpdateService.h"
 #include "VorelUserSettings.h"
 #include <cstdlib>
 #include <filesystem>
@@ -57,6 +58,9 @@ TEST_F(FLocalAssistantTest, WithoutConfigurationAsksToSignIn)
 	EXPECT_EQ(Log.CountAtLevel(TEXT("LogVorel"), ELogVerbosity::Warning), 1) << Log.Dump();
 	EXPECT_TRUE(UVorelSettings::Get()->GetAppUrl().StartsWith(TEXT("http://127.0.0.1:")));
 	EXPECT_FALSE(FVorelClient::Get().GetAuthService()->IsAuthenticated());
+	// Nobody is asked for a newer version.
+	FVorelClient::Get().GetUpdateService()->CheckForUpdates();
+	EXPECT_FALSE(std::filesystem::exists(*Folder.GetPath(TEXT("version-feed.json"))));
 	EXPECT_TEXT(Ask(TEXT("How do I set a timer?")),
 		TEXT("Your login could not be confirmed at the moment. The log tells why. Try again in a while."));
 }

@@ -159,14 +159,6 @@ void FLoginTest::ExpectNoSecretInLog() const
 	}
 }
 
-FScriptedServer::FHandler ReplyJson(const QByteArray& Status, const QByteArray& Json, const QByteArray& Headers)
-{
-	return [=](const FExchange& Exchange)
-	{
-		Exchange.SendReply(Status, "application/json", Json, Headers);
-	};
-}
-
 FScriptedServer::FHandler ReplyMetadata(const FScriptedServer& Server, const QByteArray& Changes)
 {
 	const std::string Issuer = Server.GetAddress().toStdString();

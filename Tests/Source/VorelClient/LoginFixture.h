@@ -62,7 +62,6 @@ private:
 // Of a public client whose tokens lie in a file.
 FLoginOptions MakeFileLogin(const FString& Issuer, const FString& DataFolder);
 
-FScriptedServer::FHandler ReplyJson(const QByteArray& Status, const QByteArray& Json, const QByteArray& Headers = {});
 // "http://host:port" of its issuer; with members in place of the usual ones, and without those that are null.
 FScriptedServer::FHandler ReplyMetadata(const FScriptedServer& Server, const QByteArray& Changes = "{}");
 QByteArray MakeTokens(const QByteArray& Name, const QByteArray& Seconds = "3600");

@@ -89,3 +89,20 @@ FScriptedServer::FHandler Answer(const QByteArray& JsonText)
 		Exchange.Close();
 	};
 }
+
+FScriptedServer::FHandler ReplyJson(const QByteArray& Status, const QByteArray& Json, const QByteArray& Headers)
+{
+	return [=](const FExchange& Exchange)
+	{
+		Exchange.SendReply(Status, "application/json", Json, Headers);
+	};
+}
+
+FScriptedServer::FHandler SendAndStayOpen(const QByteArray& Events)
+{
+	return [Events](const FExchange& Exchange)
+	{
+		Exchange.SendStreamHead();
+		Exchange.Send(Events);
+	};
+}

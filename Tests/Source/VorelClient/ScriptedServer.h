@@ -71,3 +71,6 @@ inline const QByteArray EndMark = "data: [DONE]\n\n";
 
 // A complete answer of one piece.
 FScriptedServer::FHandler Answer(const QByteArray& JsonText);
+// The beginning of one.
+FScriptedServer::FHandler SendAndStayOpen(const QByteArray& Events);
+FScriptedServer::FHandler ReplyJson(const QByteArray& Status, const QByteArray& Json = "{}", const QByteArray& Headers = {});

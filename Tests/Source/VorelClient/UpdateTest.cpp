@@ -63,11 +63,6 @@ protected:
 
 	FString GetFeed() const { return FString(Server.GetAddress().constData()); }
 
-	void Announce(const QByteArray& Body, const QByteArray& Status = "200 OK")
-	{
-		Server.Then([=](const FExchange& Exchange) { Exchange.SendReply(Status, "application/json", Body); });
-	}
-
 	// What is told once this many requests have come to their end.
 	FString GetTold(int32 NumRequests)
 	{
@@ -97,7 +92,7 @@ protected:
 
 TEST_F(FUpdateTest, AsksOnceADayAndTellsOfANewerVersionAtEachPanel)
 {
-	Announce(R"({"version":"1.3.0-rc.1","download_url":"http://elsewhere/"})");
+	Server.Then(ReplyJson("200 OK", R"({"version":"1.3.0-rc.1","download_url":"http://elsewhere/"})"));
 	UVersionFeedUpdateService& First = Check();
 	First.CheckForUpdates();
 	EXPECT_TEXT(GetTold(1), TEXT("1.3.0-rc.1;"));
@@ -110,7 +105,7 @@ TEST_F(FUpdateTest, AsksOnceADayAndTellsOfANewerVersionAtEachPanel)
 	EXPECT_FALSE(Server.GetExchanges()[0].Headers.contains("authorization"));
 
 	// What another feed announces is asked there.
-	Announce(R"({"version":"1.2.3+later"})");
+	Server.Then(ReplyJson("200 OK", R"({"version":"1.2.3+later"})"));
 	Check(TEXT("/other"));
 	EXPECT_TEXT(GetTold(2), TEXT(""));
 }
@@ -131,7 +126,7 @@ TEST_F(FUpdateTest, AsksWhereTheNoteIsOfNoUse)
 			 MakeTime(INT64_MIN), MakeNote(TEXT("18446744073709551615")), MakeNote(TEXT("\"now\"")), MakeNote(TEXT("1e9"))})
 	{
 		Folder.Write(FVersionFeedNote::FileName, TCHAR_TO_UTF8(*Note));
-		Announce(R"({"version":"1.2.2"})");
+		Server.Then(ReplyJson("200 OK", R"({"version":"1.2.2"})"));
 		Check();
 		EXPECT_TEXT(GetTold(++NumRequests), TEXT("")) << Note;
 	}
@@ -149,7 +144,7 @@ TEST_F(FUpdateTest, AFailureIsSilentAndNotRepeated)
 	for (const auto& [Status, Body] : Replies)
 	{
 		const FLogCapture Log;
-		Announce(Body, Status);
+		Server.Then(ReplyJson(Status, Body));
 		const FString Path = TEXT("/") + FString::FromInt(++NumRequests);
 		UVersionFeedUpdateService& Service = Check(*Path);
 		EXPECT_TEXT(GetTold(NumRequests), TEXT(""));
@@ -160,7 +155,7 @@ TEST_F(FUpdateTest, AFailureIsSilentAndNotRepeated)
 		EXPECT_EQ(Log.CountAtLevel(TEXT("LogVorel"), ELogVerbosity::Log), 1);
 	}
 	// Where the last of them was asked again, this is one too many.
-	Announce(R"({"version":"1.2.2"})");
+	Server.Then(ReplyJson("200 OK", R"({"version":"1.2.2"})"));
 	Check(TEXT("/last"));
 	EXPECT_TEXT(GetTold(NumRequests + 1), TEXT(""));
 	EXPECT_EQ(

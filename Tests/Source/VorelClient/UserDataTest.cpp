@@ -10,14 +10,6 @@
 
 namespace
 {
-FScriptedServer::FHandler Reply(const QByteArray& Json, const QByteArray& Status = "200 OK")
-{
-	return [Json, Status](const FExchange& Exchange)
-	{
-		Exchange.SendReply(Status, "application/json", Json);
-	};
-}
-
 QByteArray MakeUser(int Credits)
 {
 	return "{\"name\":\"Ada\\n L.\",\"email\":\"a@b\",\"credits\":" + QByteArray::number(Credits) + ",\"roles\":[\"user\",7,\"beta\"]}";
@@ -87,8 +79,8 @@ protected:
 
 TEST_F(FUserDataTest, JoinsCallsRenewsTheTokenAndTellsInAFrame)
 {
-	Server.Then(Reply("{}", "401 Unauthorized"));
-	Server.Then(Reply(MakeUser(7)));
+	Server.Then(ReplyJson("401 Unauthorized"));
+	Server.Then(ReplyJson("200 OK", MakeUser(7)));
 	Start().GetUserData();
 	Users->GetUserData();
 	ASSERT_TRUE(WaitForFrameRequest());
@@ -105,7 +97,7 @@ TEST_F(FUserDataTest, TellsAFailureOnceAndTriesAgainEverLaterAndThenNoMore)
 {
 	for (const char* const Bad : {"{\"name\":\"Ada\"}", "[7]", "<html>", "", "{\"credits\":\"7\"}", "null"})
 	{
-		Server.Then(Reply(Bad));
+		Server.Then(ReplyJson("200 OK", Bad));
 	}
 	Start().GetUserData();
 	ASSERT_TRUE(WaitUntilTold(TEXT("failed;"))) << Told;
@@ -122,15 +114,15 @@ TEST_F(FUserDataTest, TellsAFailureOnceAndTriesAgainEverLaterAndThenNoMore)
 	}
 	EXPECT_FALSE(FTSTicker::GetCoreTicker().GetTimeToNextTick().IsSet());
 	EXPECT_TEXT(Told, TEXT("failed;"));
-	Server.Then(Reply("{}", "500 Internal Server Error"));
+	Server.Then(ReplyJson("500 Internal Server Error"));
 	Users->GetUserData();
 	EXPECT_TRUE(WaitUntilTold(TEXT("failed;failed;"))) << Told;
 }
 
 TEST_F(FUserDataTest, DropsWhatASignedOutSessionAskedFor)
 {
-	Server.Then(Reply(MakeUser(7)));
-	Server.Then(Reply(MakeUser(8)));
+	Server.Then(ReplyJson("200 OK", MakeUser(7)));
+	Server.Then(ReplyJson("200 OK", MakeUser(8)));
 	Start().GetUserData();
 	ASSERT_TRUE(WaitUntilTold(TEXT("Ada L. a@b 7 user+beta;")));
 	Told.Reset();
@@ -149,10 +141,10 @@ TEST_F(FUserDataTest, DropsWhatASignedOutSessionAskedFor)
 
 TEST_F(FUserDataTest, AsksAgainAfterAnAnswerAndOnReturnWithoutCredits)
 {
-	Server.Then(Reply(MakeUser(1)));
-	Server.Then(Reply(MakeUser(0)));
-	Server.Then(Reply(MakeUser(9)));
-	Server.Then(Reply("", "500 Internal Server Error"));
+	Server.Then(ReplyJson("200 OK", MakeUser(1)));
+	Server.Then(ReplyJson("200 OK", MakeUser(0)));
+	Server.Then(ReplyJson("200 OK", MakeUser(9)));
+	Server.Then(ReplyJson("500 Internal Server Error"));
 	Start();
 	ReturnToWindow();
 	Users->GetUserData();
@@ -175,12 +167,7 @@ TEST_F(FUserDataTest, AsksAgainAfterAnAnswerAndOnReturnWithoutCredits)
 TEST_F(FUserDataTest, GivesUpAnAnswerWithoutAnEnd)
 {
 	// One says more and more, the other nothing at all.
-	Server.Then(
-		[](const FExchange& Exchange)
-		{
-			Exchange.SendStreamHead();
-			Exchange.Send(QByteArray(70000, ' '));
-		});
+	Server.Then(SendAndStayOpen(QByteArray(70000, ' ')));
 	for (const double Seconds : {60.0, 0.02})
 	{
 		MaxSeconds = Seconds;
@@ -205,11 +192,11 @@ TEST_F(FUserDataTest, TakesTheNameFromAForeignIssuerAndTheCreditsFromTheService)
 	for (const auto& [Metadata, Info, Expected] : Rows)
 	{
 		FAuthorizationMetadata Issuer(FString(Server.GetAddress().constData()), FRequestLimits());
-		Server.Then(Reply(R"({"name":"","credits":5000000000})"));
+		Server.Then(ReplyJson("200 OK", R"({"name":"","credits":5000000000})"));
 		Server.Then(ReplyMetadata(Server, Metadata));
 		if (!Info.isEmpty())
 		{
-			Server.Then(Reply(Info, Info == "no" ? "403 Forbidden" : "200 OK"));
+			Server.Then(ReplyJson(Info == "no" ? "403 Forbidden" : "200 OK", Info));
 		}
 		Start(&Issuer).GetUserData();
 		EXPECT_TRUE(WaitUntilTold(Expected)) << Told;
