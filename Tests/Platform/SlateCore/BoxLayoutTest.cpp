@@ -23,13 +23,7 @@ FBoxSlotInput Fill(float Weight, float Padding = 0.0f, float MaxSize = 0.0f)
 {
 	return {50.0f, Padding, Weight, MaxSize};
 }
-
 } // namespace
-
-static void PrintTo(const FBoxSlotExtent& Extent, std::ostream* Stream)
-{
-	*Stream << Extent.Offset << "+" << Extent.Size;
-}
 
 TEST(BoxLayout, DividesABoxAmongItsSlots)
 {

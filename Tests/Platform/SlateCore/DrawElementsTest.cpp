@@ -8,11 +8,6 @@
 
 #include <gtest/gtest.h>
 
-static void PrintTo(const FSlateRect& Rect, std::ostream* Stream)
-{
-	*Stream << Rect.Left << "," << Rect.Top << " - " << Rect.Right << "," << Rect.Bottom;
-}
-
 namespace
 {
 /** Two probes in a column, and one in the corner over them. */

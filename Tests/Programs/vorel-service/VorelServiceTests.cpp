@@ -5,7 +5,6 @@
 #include "Support/Printers.h"
 
 #include <pty.h>
-#include <regex>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -173,7 +172,9 @@ TEST_F(VorelService, ServesUntilItIsTold)
 		EXPECT_EQ(Service.Errors, "vorel-service: there are no accounts yet; add one with: vorel-service accounts add NAME\n");
 	}
 	FRunningService Open(Folder, {"--listen", "0.0.0.0:0", "--public-url", "http://vorel.example/"});
-	EXPECT_TRUE(std::regex_match(Open.Address, std::regex("0\\.0\\.0\\.0:[1-9][0-9]* for http://vorel\\.example"))) << Open.Address;
+	int Port = 0;
+	EXPECT_EQ(std::sscanf(Open.Address.c_str(), "0.0.0.0:%d", &Port), 1) << Open.Address;
+	EXPECT_EQ(Open.Address, "0.0.0.0:" + std::to_string(std::max(Port, 1)) + " for http://vorel.example");
 	EXPECT_EQ(Open.Stop(SIGTERM), 0);
 	EXPECT_EQ(Open.Errors.find("vorel-service: warning: passwords and tokens cross the network as plain text"), 0u) << Open.Errors;
 }
