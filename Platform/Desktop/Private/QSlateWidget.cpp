@@ -95,7 +95,7 @@ void QSlateWidget::ShowFrame()
 		update(QRectF(QPointF(Part.topLeft()) / Scale, QSizeF(Part.size()) / Scale).toAlignedRect());
 		Desktop.GetFrameLoop().NotePainted();
 	}
-	FAccessibleHost::AnnounceFocus(*this);
+	FAccessibleHost::Announce(*this);
 }
 
 void QSlateWidget::paintEvent(QPaintEvent* Event)

@@ -10,6 +10,48 @@
 #include "Widgets/Text/STextBlock.h"
 
 #include <QAccessible>
+#include <QAccessibleBridge>
+#include <QtPlugin>
+
+static QString Describe(QAccessibleEvent* Event)
+{
+	if (const auto* Text = dynamic_cast<QAccessibleTextUpdateEvent*>(Event))
+	{
+		return QStringLiteral("%1: %2 to %3").arg(Text->changePosition()).arg(Text->textRemoved(), Text->textInserted());
+	}
+	if (const auto* Text = dynamic_cast<QAccessibleTextInsertEvent*>(Event))
+	{
+		return QStringLiteral("%1: + %2").arg(Text->changePosition()).arg(Text->textInserted());
+	}
+	if (const auto* Text = dynamic_cast<QAccessibleTextRemoveEvent*>(Event))
+	{
+		return QStringLiteral("%1: - %2").arg(Text->changePosition()).arg(Text->textRemoved());
+	}
+	if (const auto* Selection = dynamic_cast<QAccessibleTextSelectionEvent*>(Event))
+	{
+		return QStringLiteral("[%1 %2]").arg(Selection->selectionStart()).arg(Selection->selectionEnd());
+	}
+	if (const auto* Caret = dynamic_cast<QAccessibleTextCursorEvent*>(Event))
+	{
+		return QStringLiteral("at %1").arg(Caret->cursorPosition());
+	}
+	return Event->type() == QAccessible::Focus ? QStringLiteral("focus") : QStringLiteral("other");
+}
+
+static QStringList Told;
+
+/** Stands where a screen reader's connection does. */
+class FBridge : public QAccessibleBridgePlugin, public QAccessibleBridge
+{
+	Q_OBJECT
+	Q_PLUGIN_METADATA(IID QAccessibleBridgeFactoryInterface_iid FILE "AccessibilityBridge.json")
+
+public:
+	QAccessibleBridge* create(const QString&) override { return new FBridge; }
+	void setRootObject(QAccessibleInterface*) override {}
+	void notifyAccessibilityUpdate(QAccessibleEvent* Event) override { Told.append(Describe(Event)); }
+};
+Q_IMPORT_PLUGIN(FBridge)
 
 namespace
 {
@@ -59,6 +101,14 @@ protected:
 	{
 		FSlateApplication::Get().ProcessKeyDownEvent(Host.Window, FKeyEvent(Key));
 		RunFrames();
+	}
+
+	/** What is told of in the frames until nothing is left to do, in the order of the calls. */
+	static std::string Listen()
+	{
+		Told.clear();
+		RunFrames();
+		return Told.join(QStringLiteral(", ")).toStdString();
 	}
 
 	TSharedPtr<STextBlock> Title;
@@ -153,3 +203,71 @@ TEST_F(Accessibility, AnOpenListIsReadWithItsHighlightAsTheFocus)
 	EXPECT_EQ(Box->GetSelectedItem(), Options[1]);
 	EXPECT_FALSE(Box->IsOpen());
 }
+
+TEST_F(Accessibility, ATextThatIsEditedIsReadAndItsChangesAreToldWhileSomebodyListens)
+{
+	Host.Widget.resize(200, 200);
+	FSlateApplication::Get().SetKeyboardFocus(Field);
+	EXPECT_EQ(Listen(), "") << "nobody listens";
+	QAccessible::setActive(true);
+	EXPECT_EQ(Find("answer")->textInterface(), nullptr) << "its name is what it shows";
+	Host.Window->SetContent(SAssignNew(Field, SMultiLineEditableText).Text(INVTEXT("one!")).HintText(INVTEXT("Type here")));
+	FSlateApplication::Get().SetKeyboardFocus(Field);
+	EXPECT_EQ(Listen(), "focus");
+
+	const struct
+	{
+		Qt::Key Key;
+		Qt::KeyboardModifiers Modifiers;
+		const char* Text;
+		const char* Told;
+	} Steps[] = {
+		{Qt::Key_Return, Qt::NoModifier, "", "4: + \n, at 5"},
+		{Qt::Key_unknown, Qt::NoModifier, "\U0001F600", "5: + \U0001F600, at 7"},
+		{Qt::Key_Left, Qt::NoModifier, "", "at 5"},
+		{Qt::Key_unknown, Qt::NoModifier, "\U0001F601", "5: + \U0001F601, at 7"},
+		{Qt::Key_Right, Qt::ShiftModifier, "", "at 9, [7 9]"},
+		{Qt::Key_unknown, Qt::NoModifier, "\U0001FA00", "7: \U0001F600 to \U0001FA00, [-1 -1]"},
+		{Qt::Key_Backspace, Qt::NoModifier, "", "7: - \U0001FA00, at 7"},
+		{Qt::Key_A, Qt::ControlModifier, "", "[0 7]"},
+		{Qt::Key_Home, Qt::ControlModifier, "", "at 0, [-1 -1]"},
+		{Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier, "", "at 3, [0 3]"},
+	};
+	for (const auto& Step : Steps)
+	{
+		Host.Key(QEvent::KeyPress, Step.Key, Step.Modifiers, Step.Text);
+		EXPECT_EQ(Listen(), Step.Told);
+	}
+	FDesktopApplication::Get().RequestFrame();
+	EXPECT_EQ(Listen(), "") << "nothing changed";
+	QAccessible::setActive(false);
+
+	QAccessibleTextInterface* Text = Find("Type here")->textInterface();
+	int Begin = -1;
+	int End = -1;
+	EXPECT_EQ(Text->text(-1, 100), u"one!\n\U0001F601");
+	EXPECT_EQ(Text->text(3, 1), "");
+	EXPECT_EQ(Text->characterCount(), 7);
+	EXPECT_EQ(Text->cursorPosition(), 3);
+	EXPECT_EQ(Text->selectionCount(), 1);
+	Text->selection(0, &Begin, &End);
+	EXPECT_EQ(std::pair(Begin, End), std::pair(0, 3));
+	EXPECT_EQ(Text->textAtOffset(1, QAccessible::LineBoundary, &Begin, &End), "one!\n");
+	EXPECT_EQ(std::pair(Begin, End), std::pair(0, 5));
+	for (const int Offset : {0, 1, 2, 3, 5})
+	{
+		const QRect Area = Text->characterRect(Offset);
+		EXPECT_TRUE(Find("Type here")->rect().contains(Area)) << Offset;
+		EXPECT_EQ(Text->offsetAtPoint(Area.center()), Offset);
+	}
+	EXPECT_EQ(Text->characterRect(5).left(), Text->characterRect(0).left()) << "on the next line";
+	EXPECT_FALSE(Text->characterRect(7).isEmpty()) << "where the next one comes to stand";
+	EXPECT_TRUE(Text->characterRect(8).isNull());
+	EXPECT_EQ(Text->offsetAtPoint(QPoint(-1, -1)), -1);
+	QInputMethodEvent Composing(QStringLiteral("\u306b"), {});
+	QApplication::sendEvent(&Host.Widget, &Composing);
+	EXPECT_EQ(Text->text(0, 100), u"\u306b!\n\U0001F601") << "what is composed can be read, too";
+	FSlateApplication::Get().ClearKeyboardFocus(EFocusCause::Cleared);
+}
+
+#include "AccessibilityTest.moc"

@@ -2,11 +2,27 @@
 
 #include "Accessibility/AccessibleHost.h"
 
+#include "Accessibility/AccessibleTextField.h"
 #include "Accessibility/AccessibleWidget.h"
 #include "DesktopApplication.h"
 #include "Framework/Application/SlateApplication.h"
 #include "QSlateWidget.h"
 #include "Widgets/SWindow.h"
+
+namespace
+{
+/** Whether anybody listens: the platform says so, and so may others through QAccessible::setActive. */
+class FListening : public QAccessible::ActivationObserver
+{
+public:
+	FListening() { QAccessible::installActivationObserver(this); }
+	~FListening() override { QAccessible::removeActivationObserver(this); }
+
+	void accessibilityActiveChanged(bool bActive) override { bIsActive = bActive; }
+
+	bool bIsActive = QAccessible::isActive();
+};
+} // namespace
 
 FAccessibleHost::FAccessibleHost(QSlateWidget* InHost)
 	: QAccessibleWidget(InHost, QAccessible::Client)
@@ -28,23 +44,40 @@ QAccessibleInterface* FAccessibleHost::Make(const QString&, QObject* Object)
 	return Host ? new FAccessibleHost(Host) : nullptr;
 }
 
-void FAccessibleHost::AnnounceFocus(QSlateWidget& Host)
+void FAccessibleHost::Announce(QSlateWidget& Host)
 {
-	if (!QAccessible::isActive())
+	static FListening Listening;
+	if (!Listening.bIsActive)
 	{
 		return;
 	}
-	FAccessibleHost* Self = dynamic_cast<FAccessibleHost*>(QAccessible::queryAccessibleInterface(&Host));
-	FAccessibleWidget* Focused = Self ? Self->FindFocused() : nullptr;
+	if (FAccessibleHost* Self = dynamic_cast<FAccessibleHost*>(QAccessible::queryAccessibleInterface(&Host)))
+	{
+		Self->AnnounceFocused();
+	}
+}
+
+void FAccessibleHost::AnnounceFocused()
+{
+	// The frame that has just run is not yet counted.
+	FrameOfChildren = -1;
+	FAccessibleWidget* Focused = FindFocused();
 	const TWeakPtr<SWidget> Widget = Focused ? Focused->GetWidget() : TWeakPtr<SWidget>();
-	if (Focused && !(Self->AnnouncedFocus == Widget))
+	const bool bMoved = !(AnnouncedFocus == Widget);
+	AnnouncedFocus = Widget;
+	if (Focused && bMoved)
 	{
 		QAccessibleEvent Event(Focused, QAccessible::Focus);
 		QAccessible::updateAccessibility(&Event);
 	}
-	if (Self)
+	FAccessibleTextField* Field = Focused ? Focused->GetTextField() : nullptr;
+	if (Field && bMoved)
 	{
-		Self->AnnouncedFocus = Widget;
+		Field->Remember();
+	}
+	else if (Field)
+	{
+		Field->AnnounceChanges();
 	}
 }
 

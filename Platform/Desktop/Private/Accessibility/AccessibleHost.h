@@ -25,8 +25,8 @@ public:
 	/** A factory for QAccessible. */
 	static QAccessibleInterface* Make(const QString& ClassName, QObject* Object);
 
-	/** Tells that the focus moved since the last call. Costs nothing while nobody listens. */
-	static void AnnounceFocus(QSlateWidget& Host);
+	/** Tells what changed since the last call: the focus, or the text that has it. Costs nothing while nobody listens. */
+	static void Announce(QSlateWidget& Host);
 
 	int childCount() const override;
 	QAccessibleInterface* child(int Index) const override;
@@ -43,6 +43,7 @@ private:
 		QAccessible::Id Id = 0;
 	};
 
+	void AnnounceFocused();
 	/** Finds the widgets anew once a frame has run since. */
 	void Update() const;
 	/** The texts in an item of a list are its name. */

@@ -2,6 +2,7 @@
 
 #include "Accessibility/AccessibleWidget.h"
 
+#include "Accessibility/AccessibleTextField.h"
 #include "Framework/Application/SlateApplication.h"
 #include "QSlateWidget.h"
 #include "QtConversion.h"
@@ -10,12 +11,6 @@
 #include "Widgets/Input/SHyperlink.h"
 #include "Widgets/SWindow.h"
 #include "Widgets/Text/SMultiLineEditableText.h"
-
-static const SMultiLineEditableText* AsField(const SWidget& Widget)
-{
-	const SMultiLineEditableText* Text = dynamic_cast<const SMultiLineEditableText*>(&Widget);
-	return Text && !Text->IsTextReadOnly() ? Text : nullptr;
-}
 
 static QString ReadAll(SWidget& Widget)
 {
@@ -40,6 +35,22 @@ FAccessibleWidget::FAccessibleWidget(QSlateWidget& InHost, const TSharedRef<SWid
 {
 }
 
+FAccessibleWidget::~FAccessibleWidget() = default;
+
+FAccessibleTextField* FAccessibleWidget::GetTextField()
+{
+	const TSharedPtr<SWidget> Shown = Widget.Pin();
+	if (!Shown || !FAccessibleTextField::FindEditable(*Shown))
+	{
+		return nullptr;
+	}
+	if (!TextField)
+	{
+		TextField = MakeUnique<FAccessibleTextField>(*this);
+	}
+	return TextField.Get();
+}
+
 QAccessible::Role FAccessibleWidget::FindRole(const SWidget& Widget)
 {
 	if (dynamic_cast<const SHyperlink*>(&Widget))
@@ -58,7 +69,7 @@ QAccessible::Role FAccessibleWidget::FindRole(const SWidget& Widget)
 	{
 		return QAccessible::Button;
 	}
-	if (AsField(Widget))
+	if (FAccessibleTextField::FindEditable(Widget))
 	{
 		return QAccessible::EditableText;
 	}
@@ -88,17 +99,17 @@ QString FAccessibleWidget::text(QAccessible::Text Kind) const
 	{
 		return QString();
 	}
-	const bool bField = AsField(*Shown) != nullptr;
-	if (Kind == QAccessible::Value && bField)
+	const SMultiLineEditableText* Field = FAccessibleTextField::FindEditable(*Shown);
+	if (Kind == QAccessible::Value && Field)
 	{
-		return ToQString(Shown->GetShownText());
+		return ToQString(Field->GetPlainText().ToString());
 	}
 	if (Kind != QAccessible::Name)
 	{
 		return QString();
 	}
 	const QString Given = ToQString(Shown->GetAccessibleText().ToString());
-	return !Given.isEmpty() ? Given : bField ? ToQString(Shown->GetHint()) : ReadAll(*Shown);
+	return !Given.isEmpty() ? Given : Field ? ToQString(Shown->GetHint()) : ReadAll(*Shown);
 }
 
 bool FAccessibleWidget::HasFocus() const
@@ -117,10 +128,20 @@ QRect FAccessibleWidget::rect() const
 	{
 		return QRect();
 	}
-	const FSlateRect Pixels = Shown->GetCachedGeometry().GetRenderBoundingRect();
+	return ToScreen(Shown->GetCachedGeometry().GetRenderBoundingRect());
+}
+
+QRect FAccessibleWidget::ToScreen(const FSlateRect& Pixels) const
+{
 	const double Scale = Host.GetWindow()->GetDPIScaleFactor();
 	const QRectF Units(QPointF(Pixels.Left, Pixels.Top) / Scale, QPointF(Pixels.Right, Pixels.Bottom) / Scale);
 	return Units.toRect().translated(Host.mapToGlobal(QPoint(0, 0)));
+}
+
+FVector2D FAccessibleWidget::FromScreen(const QPoint& Point) const
+{
+	const QPoint Units = Host.mapFromGlobal(Point);
+	return FVector2D(Units.x(), Units.y()) * Host.GetWindow()->GetDPIScaleFactor();
 }
 
 QAccessible::State FAccessibleWidget::state() const
@@ -147,7 +168,7 @@ QAccessible::State FAccessibleWidget::state() const
 		State.selectable = true;
 		State.selected = Row->IsSelected();
 	}
-	State.editable = AsField(*Shown) != nullptr;
+	State.editable = FAccessibleTextField::FindEditable(*Shown) != nullptr;
 	State.multiLine = bText;
 	State.readOnly = bText && !State.editable;
 	State.offscreen = !rect().intersects(QRect(Host.mapToGlobal(QPoint(0, 0)), Host.size()));
@@ -156,7 +177,15 @@ QAccessible::State FAccessibleWidget::state() const
 
 void* FAccessibleWidget::interface_cast(QAccessible::InterfaceType Type)
 {
-	return Type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+	switch (Type)
+	{
+	case QAccessible::ActionInterface:
+		return static_cast<QAccessibleActionInterface*>(this);
+	case QAccessible::TextInterface:
+		return static_cast<QAccessibleTextInterface*>(GetTextField());
+	default:
+		return nullptr;
+	}
 }
 
 QStringList FAccessibleWidget::actionNames() const

@@ -2,18 +2,23 @@
 
 #pragma once
 
+#include "Math/Vector2D.h"
 #include "Templates/SharedPointer.h"
+#include "Templates/UniquePtr.h"
 
 #include <QAccessible>
 
+class FAccessibleTextField;
 class QSlateWidget;
 class SWidget;
+struct FSlateRect;
 
 /** One widget as assistive technology sees it. It becomes invalid with its widget. */
 class FAccessibleWidget : public QAccessibleInterface, public QAccessibleActionInterface
 {
 public:
 	FAccessibleWidget(QSlateWidget& InHost, const TSharedRef<SWidget>& InWidget);
+	~FAccessibleWidget() override;
 
 	/** NoRole for a widget that only holds others. */
 	static QAccessible::Role FindRole(const SWidget& Widget);
@@ -39,8 +44,15 @@ public:
 
 	bool HasFocus() const;
 	const TWeakPtr<SWidget>& GetWidget() const { return Widget; }
+	/** Null unless its text can be edited. */
+	FAccessibleTextField* GetTextField();
+
+	/** Between absolute device pixels and the units of the screen. */
+	QRect ToScreen(const FSlateRect& Pixels) const;
+	FVector2D FromScreen(const QPoint& Point) const;
 
 private:
 	QSlateWidget& Host;
 	TWeakPtr<SWidget> Widget;
+	TUniquePtr<FAccessibleTextField> TextField;
 };

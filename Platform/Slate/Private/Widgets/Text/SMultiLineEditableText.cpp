@@ -36,6 +36,15 @@ FEditableTextOptions MakeOptions(const SMultiLineEditableText::FArguments& InArg
 	Options.OnTextCommitted = InArgs._OnTextCommitted;
 	return Options;
 }
+
+/** `Area` is in device pixels of the text. */
+FSlateRect ToAbsolute(const FGeometry& TextGeometry, const FSlateRect& Area)
+{
+	const double Scale = TextGeometry.GetScale();
+	const FVector2D Begin = TextGeometry.LocalToAbsolute(Area.GetTopLeft() / Scale);
+	const FVector2D End = TextGeometry.LocalToAbsolute(FVector2D(Area.Right, Area.Bottom) / Scale);
+	return FSlateRect(static_cast<float>(Begin.X), static_cast<float>(Begin.Y), static_cast<float>(End.X), static_cast<float>(End.Y));
+}
 } // namespace
 
 SMultiLineEditableText::SMultiLineEditableText()
@@ -125,11 +134,42 @@ FText SMultiLineEditableText::GetText() const
 	return Controller->IsReadOnly() ? TextAttribute.Get() : FText::FromString(GetController().GetText().GetText());
 }
 
-FString SMultiLineEditableText::GetShownText() const
+FText SMultiLineEditableText::GetPlainText() const
 {
 	FString Text;
 	GetTextLayout().GetAsText(Text);
-	return Text.Replace(*FString::Chr(WidgetPlaceholder), TEXT(""), ESearchCase::CaseSensitive);
+	return FText::FromString(Text);
+}
+
+FTextSelection SMultiLineEditableText::GetSelection() const
+{
+	return GetController().GetText().GetSelection();
+}
+
+FTextLocation SMultiLineEditableText::GetCursorLocation() const
+{
+	return GetController().GetText().GetCaret().Location;
+}
+
+FSlateRect SMultiLineEditableText::GetCharacterArea(const FTextLocation& Location) const
+{
+	const FGeometry TextGeometry = GetTextGeometry(GetCachedGeometry());
+	const FSlateRect Caret = TextLayout->GetCaretRect({Location});
+	TArray<FSlateRect> Areas;
+	const FTextLocation Next(Location.GetLineIndex(), Location.GetOffset() + 1);
+	TextLayout->GetSelectionRects(FTextSelection(Location, Next), Caret, Areas);
+	return ToAbsolute(TextGeometry, Areas.IsEmpty() ? Caret : Areas[0]);
+}
+
+FTextLocation SMultiLineEditableText::GetCharacterAt(const FVector2D& AbsolutePosition) const
+{
+	const FGeometry& Geometry = GetCachedGeometry();
+	return GetController().GetCharacterAt(Geometry.AbsoluteToLocal(AbsolutePosition) * Geometry.GetScale());
+}
+
+FString SMultiLineEditableText::GetShownText() const
+{
+	return GetPlainText().ToString().Replace(*FString::Chr(WidgetPlaceholder), TEXT(""), ESearchCase::CaseSensitive);
 }
 
 void SMultiLineEditableText::SetCaretBlinking(bool bEnabled)
@@ -233,11 +273,7 @@ void SMultiLineEditableText::ReportInputArea(const FGeometry& TextGeometry) cons
 	{
 		return;
 	}
-	const FSlateRect Caret = Controller->GetCaretArea();
-	const double Scale = TextGeometry.GetScale();
-	const FVector2D Begin = TextGeometry.LocalToAbsolute(Caret.GetTopLeft() / Scale);
-	const FVector2D End = TextGeometry.LocalToAbsolute(FVector2D(Caret.Right, Caret.Bottom) / Scale);
-	const FSlateRect Area(static_cast<float>(Begin.X), static_cast<float>(Begin.Y), static_cast<float>(End.X), static_cast<float>(End.Y));
+	const FSlateRect Area = ToAbsolute(TextGeometry, Controller->GetCaretArea());
 	if (!InputArea.IsSet() || InputArea.GetValue() != Area)
 	{
 		InputArea = Area;

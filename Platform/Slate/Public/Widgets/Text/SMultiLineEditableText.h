@@ -65,6 +65,15 @@ public:
 	FText GetText() const;
 	bool IsTextReadOnly() const;
 
+	/** The lines as they stand, with what is being composed; locations refer to it. */
+	FText GetPlainText() const;
+	FTextSelection GetSelection() const;
+	FTextLocation GetCursorLocation() const;
+	/** What a character covers, absolute; at the end of a line a little space. The location is one of the text. */
+	FSlateRect GetCharacterArea(const FTextLocation& Location) const;
+	/** The nearest one. */
+	FTextLocation GetCharacterAt(const FVector2D& AbsolutePosition) const;
+
 	/** Of all carets, for pictures that must not depend on the time. */
 	static void SetCaretBlinking(bool bEnabled);
 
