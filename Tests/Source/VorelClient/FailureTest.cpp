@@ -152,6 +152,7 @@ TEST_F(FFailureTest, AServerThatNamesNoModel)
 	Endpoint.Model.Reset();
 	const std::pair<FScriptedServer::FHandler, const TCHAR*> Rows[] = {
 		{ReplyJson("200 OK", "{\"data\":[]}"), TEXT("The assistant's server names no model. Choose one with --model.")},
+		{SendAndStayOpen(QByteArray(9 * 1024 * 1024, ' ')), TEXT("The assistant's answer was too long and was stopped.")},
 		{ReplyJson("200 OK", "what?"), TEXT("The assistant's server names no model. Choose one with --model.")},
 		{ReplyJson("404 No"),
 			TEXT("The assistant was not found at its address, or it does not have the model. Check both; many addresses end "

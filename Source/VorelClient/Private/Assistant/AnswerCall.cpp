@@ -98,7 +98,12 @@ void FAnswerCall::AskForModels()
 	Http = MakeUnique<FAuthorizedCall>(::MoveTemp(Request), Limits, Endpoint.Tokens);
 	Http->OnBody = [this](std::string_view Bytes)
 	{
-		Models.append(Bytes.substr(0, MaxModelListBytes - Models.size()));
+		Models += Bytes;
+		if (Models.size() > MaxModelListBytes)
+		{
+			Http->HangUp();
+			OnEnded(MakeFailure(FailureText::TooLong()));
+		}
 	};
 	Http->OnEnded = [this](const TOptional<FHttpFailure>& Failure)
 	{
