@@ -18,7 +18,7 @@ FDriverDesktop::FDriverDesktop(EDriverFonts Fonts)
 	}
 	FPlatformHooks::Get().LaunchURL = [this](const FString& Url, FString&)
 	{
-		LaunchURL(Url);
+		LaunchedURLs.Add(Url);
 		return true;
 	};
 	FPlatformHooks::Get().ClipboardCopy = [this](const FString& Text)

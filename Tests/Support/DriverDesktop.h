@@ -24,7 +24,6 @@ public:
 	ITextShaper& GetTextShaper() override { return *Shaper; }
 	FString GetClipboardText() override { return Clipboard; }
 	void SetClipboardText(const FString& Text) override { Clipboard = Text; }
-	void LaunchURL(const FString& Url) override { LaunchedURLs.Add(Url); }
 	void RequestFrame() override { ++NumFramesRequested; }
 	void SetCursor(EMouseCursor::Type InCursor) override { Cursor = InCursor; }
 	void SetTextInputArea(bool bEnabled, const FSlateRect& CaretRect) override;

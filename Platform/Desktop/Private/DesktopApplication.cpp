@@ -113,15 +113,6 @@ bool FDesktopApplication::OpenAddress(const FString& Address, FString& OutError)
 	return bOpened;
 }
 
-void FDesktopApplication::LaunchURL(const FString& Url)
-{
-	FString Error;
-	if (!OpenAddress(Url, Error))
-	{
-		UE_LOG(LogDesktop, Warning, TEXT("Cannot open %s: %s"), *Url, *Error);
-	}
-}
-
 void FDesktopApplication::SetCursor(EMouseCursor::Type Cursor)
 {
 	if (ActiveHost)

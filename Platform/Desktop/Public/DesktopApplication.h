@@ -49,7 +49,6 @@ public:
 	ITextShaper& GetTextShaper() override { return *TextShaper; }
 	FString GetClipboardText() override;
 	void SetClipboardText(const FString& Text) override;
-	void LaunchURL(const FString& Url) override;
 	void RequestFrame() override { FrameLoop.RequestFrame(); }
 	void SetCursor(EMouseCursor::Type Cursor) override;
 	void SetTextInputArea(bool bEnabled, const FSlateRect& CaretRect) override;

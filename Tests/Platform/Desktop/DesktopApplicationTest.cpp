@@ -29,7 +29,7 @@ TEST(Desktop, OnlyWebAndMailAddressesAreOpened)
 	EXPECT_TRUE(Log.Dump().EndsWith(TEXT("LogDesktop: Error: Launch failed (https://example.com/login\n"))) << Log.Dump();
 
 	FPlatformProcess::LaunchURL(TEXT("https://example.com/tos?a=b#c"), nullptr, nullptr);
-	Desktop.LaunchURL(TEXT("mailto:someone@example.com"));
+	FPlatformProcess::LaunchURL(TEXT("mailto:someone@example.com"), nullptr, nullptr);
 	ASSERT_EQ(Desktop.GetOpenedAddresses().Num(), Before + 2);
 	EXPECT_EQ(Desktop.GetOpenedAddresses()[Before], FString(TEXT("https://example.com/tos?a=b#c")));
 }

@@ -19,9 +19,6 @@ public:
 	virtual FString GetClipboardText() = 0;
 	virtual void SetClipboardText(const FString& Text) = 0;
 
-	/** Opens an address in the browser; failures are not reported. */
-	virtual void LaunchURL(const FString& Url) = 0;
-
 	/** Asks for one FSlateApplication::Tick soon. Not called again before that tick. */
 	virtual void RequestFrame() = 0;
 
