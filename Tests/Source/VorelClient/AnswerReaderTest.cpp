@@ -61,8 +61,10 @@ void Expect(const std::vector<FRow>& Rows)
 {
 	for (const FRow& Row : Rows)
 	{
-		EXPECT_EQ(ReadInPieces(Row.Bytes, Row.Bytes.size() + 1), Row.Expected) << Row.Bytes.substr(0, 300);
-		EXPECT_EQ(ReadInPieces(Row.Bytes, 1), Row.Expected) << "in single bytes: " << Row.Bytes.substr(0, 300);
+		for (const std::size_t PieceSize : {std::size_t(1), std::size_t(2), std::size_t(3), Row.Bytes.size() + 1})
+		{
+			EXPECT_EQ(ReadInPieces(Row.Bytes, PieceSize), Row.Expected) << "in " << PieceSize << ": " << Row.Bytes.substr(0, 300);
+		}
 	}
 }
 } // namespace
@@ -95,7 +97,20 @@ TEST(FAnswerReaderTest, TakesWhatCompatibleServersSend)
 		{"{\"choices\":[{\"index\":0,\"message\":{\"role\":\"assistant\",\"content\":\"Hi\"},\"finish_reason\":\"stop\"}]}\n",
 			TEXT("Hi complete")},
 		{"\r\n {\n \"choices\": [\n {\"message\": {\"content\": \"Hi\"},\n \"finish_reason\": \"length\"}]\n}\n\n", TEXT("Hi length")},
-		{Delta("{\"content\":\"\xE4\xBB\x8A \xF0\x9F\x98\x80 \\ud83d\\ude00\"}") + Done, TEXT("今 😀 😀 complete")},
+		{Delta("{\"content\":\"\xE4\xBB\x8A \xF0\x9F\x98\x80 \\ud83d\\ude00 \xFF\"}") + Done, TEXT("今 😀 😀 \xFFFD complete")},
+	});
+}
+
+TEST(FAnswerReaderTest, FollowsTheGrammarOfEvents)
+{
+	const std::string Json = R"({"choices":[{"delta":{"content":"Hi"}}]})";
+	Expect({
+		{"\xEF\xBB\xBF: hi\r\ndata:" + Json + "\r\n\r\ndata: [DONE]\r\n\r\n", TEXT("Hi complete")},
+		{"data: " + Json + "\r\rdata: " + Json + "\r\rdata: [DONE]\r\r", TEXT("HiHi complete")},
+		{"data: " + Json.substr(0, 12) + "\ndata:" + Json.substr(12) + "\n\n\n\n" + Done, TEXT("Hi complete")},
+		{"id: 7\nretry: 10\nDATA: no\ndata: " + Json + "\n\n\xEF\xBB\xBF" + Hi + Done, TEXT("Hi complete")},
+		{"event: error\n\n" + Hi + "event: error\ndata: {\"error\":\"No.\"}\n\n",
+			TEXT("Hi failed: The assistant reported an error. It says: No.")},
 	});
 }
 

@@ -41,8 +41,7 @@ protected:
 
 TEST_F(FChatTokenTest, RenewsTheTokenOnceAndTellsTheMode)
 {
-	Server.Then(ReplyJson("401 Unauthorized"));
-	Server.Then(Answer("Yes."));
+	Server.Then({ReplyJson("401 Unauthorized"), Answer("Yes.")});
 	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* chunk(Yes.)* answer(Yes.) completed"));
 	EXPECT_TEXT(GetRequests(), TEXT("Bearer one agent;Bearer two agent;"));
 	EXPECT_EQ(Tokens.Refused, (TArray<FString>{FString(), TEXT("one")}));
@@ -51,8 +50,7 @@ TEST_F(FChatTokenTest, RenewsTheTokenOnceAndTellsTheMode)
 
 TEST_F(FChatTokenTest, AsksToSignInAgainWhereNoTokenIsTaken)
 {
-	Server.Then(ReplyJson("401 Unauthorized"));
-	Server.Then(ReplyJson("401 Unauthorized"));
+	Server.Then({ReplyJson("401 Unauthorized"), ReplyJson("401 Unauthorized")});
 	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* failed(Your login is no longer valid. Log out and sign in again.)"));
 	EXPECT_EQ(Ask(TEXT("Hi")),
 		TEXT("user(Hi)* failed(Your login could not be confirmed at the moment. The log tells why. Try again in a while.)"));
@@ -64,16 +62,14 @@ TEST_F(FChatTokenTest, NamesCreditsAndWhereToGetThem)
 {
 	Service().SetCurrentChatMode(TEXT("Ask"));
 	TakeEvents();
-	Server.Then(ReplyJson("402 Payment Required"));
-	EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* failed(You have no credits left for this mode. Get more at "
-									"http://service/billing, or take another mode.)"));
+	EXPECT_EQ(Ask(TEXT("Hi"), ReplyJson("402 Payment Required")),
+		TEXT("history(0)* user(Hi)* failed(You have no credits left for this mode. Get more at "
+			 "http://service/billing, or take another mode.)"));
 	EXPECT_TEXT(GetRequests(), TEXT("Bearer one chat;"));
 	EXPECT_EQ(NumSpent, 1);
-	Server.Then(ReplyJson("500 Internal Server Error"));
-	Ask(TEXT("Hi"));
+	Ask(TEXT("Hi"), ReplyJson("500 Internal Server Error"));
 	EXPECT_EQ(NumSpent, 1);
 	Tokens.Tokens.Add(TEXT("three"));
-	Server.Then([](const FExchange& Exchange) { Exchange.Reset(); });
-	Ask(TEXT("Hi"));
+	Ask(TEXT("Hi"), [](const FExchange& Exchange) { Exchange.Reset(); });
 	EXPECT_EQ(NumSpent, 2);
 }

@@ -42,38 +42,21 @@ FChatClientTest::FChatClientTest()
 	Endpoint.Model = TEXT("test-model");
 }
 
-FChatClientTest::~FChatClientTest()
-{
-	EndService();
-}
-
-void FChatClientTest::EndService()
-{
-	if (Made)
-	{
-		Made->Shutdown();
-		Made->RemoveFromRoot();
-		Made = nullptr;
-	}
-	CollectGarbage();
-}
-
 UHttpChatService& FChatClientTest::Service()
 {
-	if (!Made)
+	if (!Started.Get())
 	{
-		Made = NewObject<UHttpChatService>();
-		Made->AddToRoot();
-		Made->Initialize(Endpoint, Limits, StoreFile);
-		Made->OnRequestFailed.AddLambda([this](const FString& Error) { Record(TEXT("failed(") + Error + TEXT(")")); });
-		Made->OnRequestCompleted.AddLambda([this] { Record(TEXT("completed")); });
-		Made->OnChunkReceived.AddLambda([this](const FString& Chunk) { Record(TEXT("chunk(") + Chunk + TEXT(")")); });
-		Made->OnChatHistoryChanged.AddLambda(
-			[this] { Record(FString::Printf(TEXT("history(%d)"), Made->GetCurrentConversation()->Messages.Num())); });
-		Made->OnMessageAdded.AddLambda([this](TObjectPtr<UMessage> Message) { RecordMessage(Message); });
-		Made->OnChatModeChanged.AddLambda([this](const FString& Name) { Record(TEXT("mode(") + Name + TEXT(")")); });
+		UHttpChatService& Made = Started.Make();
+		Made.Initialize(Endpoint, Limits, StoreFile);
+		Made.OnRequestFailed.AddLambda([this](const FString& Error) { Record(TEXT("failed(") + Error + TEXT(")")); });
+		Made.OnRequestCompleted.AddLambda([this] { Record(TEXT("completed")); });
+		Made.OnChunkReceived.AddLambda([this](const FString& Chunk) { Record(TEXT("chunk(") + Chunk + TEXT(")")); });
+		Made.OnChatHistoryChanged.AddLambda(
+			[this] { Record(FString::Printf(TEXT("history(%d)"), Service().GetCurrentConversation()->Messages.Num())); });
+		Made.OnMessageAdded.AddLambda([this](TObjectPtr<UMessage> Message) { RecordMessage(Message); });
+		Made.OnChatModeChanged.AddLambda([this](const FString& Name) { Record(TEXT("mode(") + Name + TEXT(")")); });
 	}
-	return *Made;
+	return *Started.Get();
 }
 
 void FChatClientTest::RecordMessage(TObjectPtr<UMessage> Message)
@@ -86,14 +69,26 @@ void FChatClientTest::RecordMessage(TObjectPtr<UMessage> Message)
 
 void FChatClientTest::Record(const FString& Event)
 {
-	Events.Add(Event + (Made->bIsProcessingRequest ? TEXT("*") : TEXT("")));
+	Events.Add(Event + (Started.Get()->bIsProcessingRequest ? TEXT("*") : TEXT("")));
 }
 
-FString FChatClientTest::Ask(const FString& Text)
+FString FChatClientTest::Ask(const FString& Text, const FScriptedServer::FHandler& Reply)
 {
+	if (Reply)
+	{
+		Server.Then(Reply);
+	}
 	Service().SendMessage(Text);
 	EXPECT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
 	return TakeEvents();
+}
+
+void FChatClientTest::Begin(const FString& Text, const QByteArray& Deltas)
+{
+	Server.Then(SendAndStayOpen(Deltas));
+	Service().SendMessage(Text);
+	TakeEvents();
+	EXPECT_TRUE(WaitForFrameRequest());
 }
 
 FString FChatClientTest::TakeEvents()
@@ -103,14 +98,9 @@ FString FChatClientTest::TakeEvents()
 	return Joined;
 }
 
-FString FChatClientTest::AskForFailure()
+FString FChatClientTest::AskForFailure(const FScriptedServer::FHandler& Reply)
 {
 	FString Failure;
-	Ask(TEXT("Hi")).Split(TEXT("failed("), nullptr, &Failure);
+	Ask(TEXT("Hi"), Reply).Split(TEXT("failed("), nullptr, &Failure);
 	return Failure.LeftChop(1);
-}
-
-void FChatClientTest::Tick()
-{
-	FTSTicker::GetCoreTicker().Tick(0.016f);
 }

@@ -15,12 +15,42 @@ bool PumpUntil(const TFunction<bool()>& bDone);
 // Runs the event loop alone until a frame is asked for.
 bool WaitForFrameRequest();
 
+// A service from its start to its end, as at the end of the program.
+template <typename ServiceType>
+class TStarted
+{
+public:
+	~TStarted() { End(); }
+
+	ServiceType& Make()
+	{
+		Made = NewObject<ServiceType>();
+		Made->AddToRoot();
+		return *Made;
+	}
+
+	void End()
+	{
+		if (Made)
+		{
+			Made->Shutdown();
+			Made->RemoveFromRoot();
+			Made = nullptr;
+		}
+		CollectGarbage();
+	}
+
+	ServiceType* Get() const { return Made; }
+
+private:
+	ServiceType* Made = nullptr;
+};
+
 // The real chat service against a scripted server, and a record of all that it tells.
 class FChatClientTest : public testing::Test
 {
 protected:
 	FChatClientTest();
-	~FChatClientTest() override;
 
 	// Takes effect where it is called before the first use of the service.
 	FAssistantEndpoint Endpoint;
@@ -28,19 +58,21 @@ protected:
 	FString StoreFile;
 
 	UHttpChatService& Service();
-	// As at the end of the program; the next use begins anew.
-	void EndService();
+	// The next use begins anew.
+	void EndService() { Started.End(); }
 
-	// Sends and waits for the end; returns what was told since the last time.
-	FString Ask(const FString& Text);
+	// Sends and waits for the end; returns what was told since the last time. Without a reply here the server has one already.
+	FString Ask(const FString& Text, const FScriptedServer::FHandler& Reply = {});
+	// Sends, and waits until so much of an answer arrived and a frame is asked for.
+	void Begin(const FString& Text, const QByteArray& Deltas);
 	// What was told since the last time, parted by blanks: "user(text)", "chunk(text)", "answer(text)", "interrupted(text)",
 	// "history(number of stored messages)", "mode(name)", "completed", "failed(sentence)". A star follows where bIsProcessingRequest was
 	// true.
 	FString TakeEvents();
 	// The sentence of a question that fails.
-	FString AskForFailure();
+	FString AskForFailure(const FScriptedServer::FHandler& Reply = {});
 
-	void Tick();
+	static void Tick() { FTSTicker::GetCoreTicker().Tick(0.016f); }
 
 	FScriptedServer Server;
 	FLogCapture Log;
@@ -49,6 +81,6 @@ private:
 	void Record(const FString& Event);
 	void RecordMessage(TObjectPtr<UMessage> Message);
 
-	TObjectPtr<UHttpChatService> Made;
 	TArray<FString> Events;
+	TStarted<UHttpChatService> Started;
 };

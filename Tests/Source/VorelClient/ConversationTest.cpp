@@ -7,7 +7,7 @@
 
 using FConversationTest = FChatClientTest;
 
-TEST_F(FConversationTest, StartsWithAnEmptyOneInTheDefaultMode)
+TEST_F(FConversationTest, StartsWithAnEmptyOneInTheDefaultModeAndIgnoresWhatItDoesNotKnow)
 {
 	EXPECT_EQ(Service().GetCurrentChatModeName(), TEXT("Agent"));
 	EXPECT_EQ(Service().GetChatModeNames(), (TArray<FString>{TEXT("Agent"), TEXT("Ask"), TEXT("Review")}));
@@ -18,47 +18,7 @@ TEST_F(FConversationTest, StartsWithAnEmptyOneInTheDefaultMode)
 	EXPECT_TRUE(Service().GetCurrentConversation()->Messages.IsEmpty());
 	EXPECT_FALSE(Service().GetCurrentConversation()->IsValidHistory());
 	EXPECT_TRUE(Service().GetChatHistories().IsEmpty());
-}
 
-TEST_F(FConversationTest, IsAlreadyAValidRowWhenTheListIsTold)
-{
-	FString Title;
-	Service().OnChatHistoryChanged.AddLambda(
-		[&]
-		{
-			const TObjectPtr<USerializableChatHistory> First = Service().GetChatHistories()[0];
-			Title = First->IsValidHistory() ? First->GetDisplayableTitle(false, 20) : FString(TEXT("(invalid)"));
-		});
-	Server.Then(Answer("1"));
-	Ask(TEXT("  How do I\n\tspawn 👨‍👩‍👧 می‌خواهم in C++?  "));
-	EXPECT_EQ(Title, TEXT("How do I spawn 👨‍👩‍👧 می‌…"));
-}
-
-TEST_F(FConversationTest, OpensAndDeletes)
-{
-	Server.Then(Answer("1"));
-	Ask(TEXT("one"));
-	const FString One = Service().GetCurrentConversation()->Id;
-	Service().CreateNewConversation(TEXT("ask"));
-	EXPECT_EQ(TakeEvents(), TEXT("mode(Ask) history(0)"));
-	Server.Then(Answer("2"));
-	Ask(TEXT("two"));
-	const FString Two = Service().GetCurrentConversation()->Id;
-
-	Service().LoadConversation(One);
-	EXPECT_EQ(TakeEvents(), TEXT("mode(Agent) history(2)"));
-	Service().LoadConversation(One);
-	EXPECT_EQ(TakeEvents(), TEXT(""));
-
-	Service().DeleteChatHistory(Two);
-	EXPECT_EQ(TakeEvents(), TEXT("history(2)"));
-	Service().DeleteChatHistory(One);
-	EXPECT_EQ(TakeEvents(), TEXT("history(0)"));
-	EXPECT_TRUE(Service().GetChatHistories().IsEmpty());
-}
-
-TEST_F(FConversationTest, IgnoresWhatItDoesNotKnow)
-{
 	Service().LoadConversation(TEXT("nowhere"));
 	Service().DeleteChatHistory(TEXT("nowhere"));
 	Service().SetCurrentChatMode(TEXT("nonsense"));
@@ -68,11 +28,53 @@ TEST_F(FConversationTest, IgnoresWhatItDoesNotKnow)
 	EXPECT_EQ(Log.CountAtLevel(TEXT("LogVorel"), ELogVerbosity::Warning), 4) << Log.Dump();
 }
 
+TEST_F(FConversationTest, IsAlreadyAValidRowWhenTheListIsToldWithTimeAndTitle)
+{
+	FString Title;
+	Service().OnChatHistoryChanged.AddLambda(
+		[&]
+		{
+			const TObjectPtr<USerializableChatHistory> First = Service().GetChatHistories()[0];
+			Title = First->IsValidHistory() ? First->GetDisplayableTitle(false, 20) : FString(TEXT("(invalid)"));
+		});
+	Ask(TEXT("  How do I\n\tspawn 👨‍👩‍👧 می‌خواهم in C++?  "), Answer("1"));
+	EXPECT_EQ(Title, TEXT("How do I spawn 👨‍👩‍👧 می‌…"));
+
+	Service().CreateNewConversation(TEXT("Agent"));
+	Ask(TEXT("   "), Answer("2"));
+	const FString Shown = Service().GetChatHistories()[0]->GetDisplayableTitle(true, 20);
+	EXPECT_TRUE(Shown.EndsWith(TEXT(" Untitled")) && Shown[2] == ':') << Shown;
+	constexpr int64 Day = 24 * 60 * 60 * 1000;
+	EXPECT_EQ(FormatTimeOfUse(200 * Day, 300 * Day).Right(3), TEXT("Jul"));
+}
+
+TEST_F(FConversationTest, OpensAndDeletes)
+{
+	Ask(TEXT("one"), Answer("1"));
+	const FString One = Service().GetCurrentConversation()->Id;
+	Service().CreateNewConversation(TEXT("ask"));
+	EXPECT_EQ(TakeEvents(), TEXT("mode(Ask) history(0)"));
+	Ask(TEXT("two"), Answer("2"));
+	const FString Two = Service().GetCurrentConversation()->Id;
+
+	Service().LoadConversation(One);
+	EXPECT_EQ(TakeEvents(), TEXT("mode(Agent) history(2)"));
+	Service().LoadConversation(One);
+	EXPECT_EQ(TakeEvents(), TEXT(""));
+	// The list has a new order before the message is told.
+	EXPECT_EQ(Ask(TEXT("three"), Answer("3")), TEXT("history(2)* user(three)* chunk(3)* answer(3) completed"));
+	EXPECT_EQ(Service().GetChatHistories()[0]->Id, One);
+
+	Service().DeleteChatHistory(Two);
+	EXPECT_EQ(TakeEvents(), TEXT("history(4)"));
+	Service().DeleteChatHistory(One);
+	EXPECT_EQ(TakeEvents(), TEXT("history(0)"));
+	EXPECT_TRUE(Service().GetChatHistories().IsEmpty());
+}
+
 TEST_F(FConversationTest, DeletingTheOneWithTheAnswerKeepsWhatArrivedUntilItIsGone)
 {
-	Server.Then(SendAndStayOpen(MakeDelta("Half")));
-	Service().SendMessage(TEXT("Hi"));
-	ASSERT_TRUE(WaitForFrameRequest());
+	Begin(TEXT("Hi"), MakeDelta("Half"));
 	Tick();
 	TakeEvents();
 	Service().SetCurrentChatMode(TEXT("Ask"));
@@ -84,14 +86,12 @@ TEST_F(FConversationTest, DeletingTheOneWithTheAnswerKeepsWhatArrivedUntilItIsGo
 								 "mode(Agent) history(0)"));
 	EXPECT_TRUE(bGone);
 
-	Server.Then(Answer("Fine"));
-	EXPECT_EQ(Ask(TEXT("Next")), TEXT("history(0)* user(Next)* chunk(Fine)* answer(Fine) completed"));
+	EXPECT_EQ(Ask(TEXT("Next"), Answer("Fine")), TEXT("history(0)* user(Next)* chunk(Fine)* answer(Fine) completed"));
 }
 
 TEST_F(FConversationTest, DeletingAnotherOneIsToldAfterTheAnswer)
 {
-	Server.Then(Answer("1"));
-	Ask(TEXT("one"));
+	Ask(TEXT("one"), Answer("1"));
 	const FString One = Service().GetCurrentConversation()->Id;
 	Service().CreateNewConversation(TEXT("Agent"));
 	Server.Then(Answer("2"));
@@ -105,17 +105,13 @@ TEST_F(FConversationTest, DeletingAnotherOneIsToldAfterTheAnswer)
 
 TEST_F(FConversationTest, LeavingAnAnswerNeverMixesTwoConversations)
 {
-	Server.Then(SendAndStayOpen(MakeDelta("Half")));
-	Service().SendMessage(TEXT("Hi"));
-	const TObjectPtr<USerializableChatHistory> Left = Service().GetCurrentConversation();
 	// Arrived, and not yet handed over.
-	ASSERT_TRUE(WaitForFrameRequest());
-	TakeEvents();
+	Begin(TEXT("Hi"), MakeDelta("Half"));
+	const TObjectPtr<USerializableChatHistory> Left = Service().GetCurrentConversation();
 	Service().CreateNewConversation(TEXT("Agent"));
 	EXPECT_EQ(TakeEvents(), TEXT("interrupted(Half) failed(The answer was stopped because another conversation was opened.) history(0)"));
 	Server.GetExchanges()[0].Send(MakeDelta("more") + EndMark);
-	Server.Then(Answer("Fine"));
-	EXPECT_EQ(Ask(TEXT("Next")), TEXT("history(0)* user(Next)* chunk(Fine)* answer(Fine) completed"));
+	EXPECT_EQ(Ask(TEXT("Next"), Answer("Fine")), TEXT("history(0)* user(Next)* chunk(Fine)* answer(Fine) completed"));
 	EXPECT_EQ(Left->Messages.Num(), 2);
 }
 
@@ -140,8 +136,7 @@ TEST_F(FConversationTest, AListenerMayCancelTheRequestThatIsBeingTold)
 
 TEST_F(FConversationTest, AListenerMayDeleteWhatIsAboutToBeOpened)
 {
-	Server.Then(Answer("1"));
-	Ask(TEXT("one"));
+	Ask(TEXT("one"), Answer("1"));
 	const TObjectPtr<USerializableChatHistory> One = Service().GetCurrentConversation();
 	Service().CreateNewConversation(TEXT("Agent"));
 	Server.Then(SendAndStayOpen(MakeDelta("Half")));
@@ -156,19 +151,6 @@ TEST_F(FConversationTest, AListenerMayDeleteWhatIsAboutToBeOpened)
 	Service().LoadConversation(One->Id);
 	EXPECT_EQ(Service().GetCurrentConversation(), Two);
 	EXPECT_FALSE(IsValid(One));
-}
-
-TEST_F(FConversationTest, SurvivesTheCollectorDuringAnAnswer)
-{
-	Server.Then(SendAndStayOpen(MakeDelta("Half")));
-	Service().SendMessage(TEXT("Hi"));
-	ASSERT_TRUE(WaitForFrameRequest());
-	CollectGarbage();
-	Tick();
-	Server.GetExchanges()[0].Send(EndMark);
-	ASSERT_TRUE(PumpUntil([this] { return !Service().bIsProcessingRequest; }));
-	CollectGarbage();
-	EXPECT_EQ(Service().GetCurrentConversation()->Messages.Last()->Contents[0]->Text, TEXT("Half"));
 }
 
 TEST(FAnswerNoteTest, ClosesTheBlockOfCodeInWhichTheAnswerEnds)
@@ -203,16 +185,4 @@ TEST(FConversationTitleTest, IsCutBetweenCharactersWithItsEllipsisInTheLimit)
 	EXPECT_EQ(ShortenTitle(TEXT("👨‍👩‍👧🇫🇷é̂x"), 3), TEXT("👨‍👩‍👧🇫🇷…"));
 	EXPECT_EQ(ShortenTitle(TEXT("abc"), 1), TEXT("…"));
 	EXPECT_EQ(ShortenTitle(TEXT("abc"), 0), TEXT(""));
-	EXPECT_EQ(ShortenTitle(TEXT(""), 20), TEXT(""));
-}
-
-TEST_F(FConversationTest, ShowsTheTimeBeforeTheTitle)
-{
-	Server.Then(Answer("1"));
-	Ask(TEXT("   "));
-	const FString Shown = Service().GetChatHistories()[0]->GetDisplayableTitle(true, 20);
-	EXPECT_TRUE(Shown.EndsWith(TEXT(" Untitled"))) << Shown;
-	EXPECT_EQ(Shown.Left(5)[2], ':') << Shown;
-	constexpr int64 Day = 24 * 60 * 60 * 1000;
-	EXPECT_EQ(FormatTimeOfUse(200 * Day, 300 * Day).Right(3), TEXT("Jul"));
 }

@@ -9,21 +9,14 @@
 #include "Http/Form.h"
 #include "Http/JsonText.h"
 
-FLoginOptions MakeFileLogin(const FString& Issuer, const FString& DataFolder)
+FLoginTest::FLoginTest()
 {
-	FLoginOptions Options;
-	Options.Issuer = Issuer;
+	Options.Issuer = FString(Server.GetAddress().constData());
 	Options.ClientId = TEXT("vorel-editor");
-	Options.DataFolder = DataFolder;
+	Options.DataFolder = Folder.GetPath();
 	Options.KeyringAccount = TEXT("local test");
 	Options.bUseKeyring = false;
 	Options.bAllowTokenFile = true;
-	return Options;
-}
-
-FLoginTest::FLoginTest()
-	: Options(MakeFileLogin(FString(Server.GetAddress().constData()), Folder.GetPath()))
-{
 	Options.Clock = {[this] { return Now; },
 		[this]
 		{
@@ -44,27 +37,14 @@ FLoginTest::~FLoginTest()
 	ExpectNoSecretInLog();
 }
 
-void FLoginTest::EndService()
-{
-	if (Made)
-	{
-		Made->Shutdown();
-		Made->RemoveFromRoot();
-		Made = nullptr;
-	}
-	CollectGarbage();
-}
-
 UOAuthAuthenticationService& FLoginTest::Service()
 {
-	if (!Made)
+	if (!Started.Get())
 	{
-		Made = NewObject<UOAuthAuthenticationService>();
-		Made->AddToRoot();
-		Made->Initialize(Options);
-		Made->OnAuthenticationStateChanged.AddLambda([this] { ++Events; });
+		Started.Make().Initialize(Options);
+		Started.Get()->OnAuthenticationStateChanged.AddLambda([this] { ++Events; });
 	}
-	return *Made;
+	return *Started.Get();
 }
 
 void FLoginTest::OpenPage()
@@ -101,16 +81,31 @@ void FLoginTest::LogIn(const QByteArray& Tokens)
 
 void FLoginTest::LogInUnstored(const QByteArray& Tokens)
 {
-	Server.Then(ReplyMetadata(Server));
-	Server.Then(ReplyJson("200 OK", Tokens));
+	Server.Then({ReplyMetadata(Server), ReplyJson("200 OK", Tokens)});
 	OpenPage();
 	Browse(MakeRedirect());
 	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed in."));
 	EXPECT_TRUE(Service().IsAuthenticated());
 }
 
-FString FLoginTest::GetToken(const FString& RefusedToken)
+void FLoginTest::LogOut()
 {
+	Service().Logout();
+	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed out."));
+}
+
+bool FLoginTest::IsSignedInAtNextStart()
+{
+	EndService();
+	return Service().IsAuthenticated();
+}
+
+FString FLoginTest::GetToken(const FString& RefusedToken, const FScriptedServer::FHandler& Reply)
+{
+	if (Reply)
+	{
+		Server.Then(Reply);
+	}
 	FString Token;
 	const TSharedPtr<void> Request = Service().GetTokens().RequestToken(
 		RefusedToken, [&Token](const FString& Given) { Token = Given.IsEmpty() ? TEXT("none") : Given; });

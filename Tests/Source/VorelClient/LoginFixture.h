@@ -16,8 +16,8 @@ protected:
 	~FLoginTest() override;
 
 	UOAuthAuthenticationService& Service();
-	// As at the end of the program; the next use begins anew.
-	void EndService();
+	// The next use begins anew.
+	void EndService() { Started.End(); }
 
 	// Clicks "Log in" and waits for the page to be opened.
 	void OpenPage();
@@ -26,10 +26,12 @@ protected:
 	// All of it: page, name, tokens, and the note of where they lie.
 	void LogIn(const QByteArray& Tokens);
 	void LogInUnstored(const QByteArray& Tokens);
+	void LogOut();
+	bool IsSignedInAtNextStart();
 	// Whether the marker says so.
 	bool IsNoted(const char* Words) const { return Folder.Read(TEXT("login.json")).find(Words) != std::string::npos; }
-	// Waits for a token; "none" where there is none.
-	FString GetToken(const FString& RefusedToken = FString());
+	// Waits for a token; "none" where there is none. Without a reply here the server is not asked, or has one already.
+	FString GetToken(const FString& RefusedToken = FString(), const FScriptedServer::FHandler& Reply = {});
 
 	// What the browser's address holds.
 	std::string GetParameter(const char* Name) const;
@@ -56,11 +58,8 @@ protected:
 	QList<QByteArray> SecretsGiven;
 
 private:
-	TObjectPtr<UOAuthAuthenticationService> Made;
+	TStarted<UOAuthAuthenticationService> Started;
 };
-
-// Of a public client whose tokens lie in a file.
-FLoginOptions MakeFileLogin(const FString& Issuer, const FString& DataFolder);
 
 // "http://host:port" of its issuer; with members in place of the usual ones, and without those that are null.
 FScriptedServer::FHandler ReplyMetadata(const FScriptedServer& Server, const QByteArray& Changes = "{}");

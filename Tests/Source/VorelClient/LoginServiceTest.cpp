@@ -2,7 +2,6 @@
 
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QRegularExpression>
-#include <QUrl>
 
 #include "LoginFixture.h"
 
@@ -28,19 +27,13 @@ protected:
 		{
 			return ServiceTime.load();
 		};
-		StartServer();
-		Options.Issuer = FromUtf8(Server->GetAddress());
-		ServiceOptions.Port = QUrl(QString::fromStdString(Server->GetAddress())).port();
-	}
-
-	~FLoginServiceTest() override { EndService(); }
-
-	void StartServer()
-	{
 		std::string Error;
 		Server = FLocalService::Start(ServiceOptions, Error);
 		EXPECT_TRUE(Server) << Error;
+		Options.Issuer = FromUtf8(Server->GetAddress());
 	}
+
+	~FLoginServiceTest() override { EndService(); }
 
 	QByteArray SendToServer(const QByteArray& Method, const std::string& Target, const QByteArray& Headers, const QByteArray& Body = {})
 	{
@@ -88,7 +81,7 @@ protected:
 	void LogInOnPage()
 	{
 		OpenPage();
-		EXPECT_TRUE(Browse(FillInPage()).contains("You can close this window."));
+		Browse(FillInPage());
 		EXPECT_TEXT(WaitForEnd(), SignedIn);
 		EXPECT_TRUE(PumpUntil([this] { return !Folder.Read(TEXT("login.json")).empty(); }));
 	}
@@ -98,8 +91,7 @@ protected:
 		EXPECT_TEXT(WaitForEnd(), Sentence);
 		EXPECT_FALSE(Service().IsAuthenticated());
 		LogInOnPage();
-		Service().Logout();
-		WaitForEnd();
+		LogOut();
 	}
 
 	std::atomic<std::int64_t> ServiceTime{1'800'000'000};
@@ -110,18 +102,12 @@ protected:
 
 TEST_F(FLoginServiceTest, BadInputLeavesThePanelIdleAndAnotherTryWorks)
 {
-	// Nothing but the real redirect ends the waiting; it counts once.
 	OpenPage();
 	const QByteArray Good = FillInPage();
-	EXPECT_TRUE(Browse("/favicon.ico").startsWith("HTTP/1.1 404 "));
-	EXPECT_TRUE(Browse(QByteArray(Good).replace("state=", "state=x")).contains("out of date"));
-	EXPECT_FALSE(Service().IsAuthenticated());
 	Browse(Good);
-	EXPECT_EQ(Browse(Good), "");
 	EXPECT_TEXT(WaitForEnd(), SignedIn);
 	EXPECT_EQ(AskForUser(GetToken()), "200");
-	Service().Logout();
-	WaitForEnd();
+	LogOut();
 
 	OpenPage();
 	Browse(FillInPage("cancel"));
@@ -146,24 +132,6 @@ TEST_F(FLoginServiceTest, BadInputLeavesThePanelIdleAndAnotherTryWorks)
 	ServiceTime += 120;
 	Browse(Late);
 	ExpectLoggedOut(Refused);
-
-	bBrowser = false;
-	Service().StartLogin();
-	WaitForEnd();
-	bBrowser = true;
-	LogInOnPage();
-}
-
-TEST_F(FLoginServiceTest, NoNetworkBetweenThePageAndTheCode)
-{
-	OpenPage();
-	const QByteArray Target = FillInPage();
-	Server.reset();
-	Browse(Target);
-	EXPECT_TEXT(WaitForEnd(), FString::Printf(TEXT("The sign-in service at %s can't be reached. Check the network and try again."),
-								  *Options.Issuer.RightChop(7)));
-	StartServer();
-	LogInOnPage();
 }
 
 TEST_F(FLoginServiceTest, RenewsWhatTheServerNoLongerTakes)
@@ -184,7 +152,6 @@ TEST_F(FLoginServiceTest, RenewsWhatTheServerNoLongerTakes)
 	EXPECT_TEXT(WaitForEnd(), TEXT("Your sign-in has ended. Click \"Log in\" to sign in again."));
 	LogInOnPage();
 	const FString Third = GetToken();
-	Service().Logout();
-	WaitForEnd();
+	LogOut();
 	EXPECT_TRUE(PumpUntil([this, &Third] { return AskForUser(Third) == "401"; }));
 }

@@ -1,14 +1,10 @@
 // Copyright (c) 2026 Vorel AI. Licensed under the MIT License.
 
-// Qt's headers come before the engine's, whose macros they don't survive.
-#include <QCoreApplication>
-#include <QProcess>
-
 #include "LoginFixture.h"
-#include "RenewingProgram.h"
 
+#include "Account/Server/AuthorizationMetadata.h"
+#include "Account/Tokens/LoginSession.h"
 #include "Http/Form.h"
-#include "Http/QtText.h"
 #include <csignal>
 #include <filesystem>
 #include <sys/resource.h>
@@ -58,11 +54,10 @@ TEST_F(FLoginTest, RenewsInTime)
 	EXPECT_EQ(GetField(ReadForm(Server.GetExchanges()[2].Body.toStdString()), "refresh_token"), "refresh-1");
 
 	EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("access-2"));
-	Server.Then(ReplyJson("200 OK", R"({"token_type": "Bearer", "access_token": "access-3"})"));
-	EXPECT_TEXT(GetToken(TEXT("access-2")), TEXT("access-3"));
+	EXPECT_TEXT(
+		GetToken(TEXT("access-2"), ReplyJson("200 OK", R"({"token_type": "Bearer", "access_token": "access-3"})")), TEXT("access-3"));
 	EndService();
-	Server.Then(ReplyMetadata(Server));
-	Server.Then(ReplyJson("200 OK", MakeTokens("4", "-1")));
+	Server.Then({ReplyMetadata(Server), ReplyJson("200 OK", MakeTokens("4", "-1"))});
 	EXPECT_TEXT(GetToken(TEXT("access-3")), TEXT("access-4"));
 	EXPECT_EQ(GetField(ReadForm(Server.GetExchanges().last().Body.toStdString()), "refresh_token"), "refresh-2");
 }
@@ -78,12 +73,10 @@ TEST_F(FLoginTest, AClockThatIsOffLogsNobodyOut)
 	}
 	EndService();
 	TimeOfDay += 1e9;
-	Server.Then(ReplyMetadata(Server));
-	Server.Then(ReplyJson("503 Off", ""));
+	Server.Then({ReplyMetadata(Server), ReplyJson("503 Off", "")});
 	// Old by the clock: what the server says counts.
 	EXPECT_TEXT(GetToken(), TEXT("access-1"));
-	Server.Then(ReplyJson("200 OK", MakeTokens("2")));
-	EXPECT_TEXT(GetToken(), TEXT("access-2"));
+	EXPECT_TEXT(GetToken(FString(), ReplyJson("200 OK", MakeTokens("2"))), TEXT("access-2"));
 	EXPECT_TRUE(Service().IsAuthenticated());
 	EXPECT_EQ(Events, 0);
 }
@@ -96,19 +89,16 @@ TEST_F(FLoginTest, OnlyARefusalOfTheServerEndsALogin)
 		ReplyJson("307 Moved", "", "Location: http://127.0.0.1:1/token\r\n")};
 	for (const FScriptedServer::FHandler& Handler : Rows)
 	{
-		Server.Then(Handler);
-		EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("none"));
+		EXPECT_TEXT(GetToken(TEXT("access-1"), Handler), TEXT("none"));
 		EXPECT_TRUE(Service().IsAuthenticated());
 	}
 	EXPECT_EQ(Log.CountAtLevel("LogVorelAccount", ELogVerbosity::Warning), 7) << Log.Dump();
 	EXPECT_EQ(Events, 0);
 	Log.Clear();
-	Server.Then(ReplyJson("400 Bad", R"({"error": "invalid_grant"})"));
-	EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("none"));
+	EXPECT_TEXT(GetToken(TEXT("access-1"), ReplyJson("400 Bad", R"({"error": "invalid_grant"})")), TEXT("none"));
 	EXPECT_FALSE(Service().IsAuthenticated());
 	EXPECT_TEXT(WaitForEnd(), Ended);
-	EndService();
-	EXPECT_FALSE(Service().IsAuthenticated());
+	EXPECT_FALSE(IsSignedInAtNextStart());
 }
 
 // Of storing a new login, too.
@@ -135,62 +125,57 @@ TEST_F(FLoginTest, ALogoutWinsAtAnyMomentOfARenewal)
 		EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().last().Path == "/revoke"; }));
 		EXPECT_FALSE(Token.Contains(TEXT("access")));
 		EXPECT_TRUE(PumpUntil([this] { return !IsNoted("signed out"); }));
-		EndService();
-		EXPECT_FALSE(Service().IsAuthenticated()) << Moment;
+		EXPECT_FALSE(IsSignedInAtNextStart()) << Moment;
 	}
 }
 
 TEST_F(FLoginTest, ProgramsDoNotLogEachOtherOut)
 {
-	// This one knows the folder by another name.
+	// The other one, which is a second holder of the lock and the file as well, knows the folder by another name.
 	const FTempFolder Elsewhere;
-	Options.DataFolder = Elsewhere.GetPath(TEXT("link"));
-	std::filesystem::create_directory_symlink(*Folder.GetPath(), *Options.DataFolder);
+	FLoginOptions OtherOptions = Options;
+	OtherOptions.DataFolder = Elsewhere.GetPath(TEXT("link"));
+	std::filesystem::create_directory_symlink(*Folder.GetPath(), *OtherOptions.DataFolder);
 	LogIn(MakeTokens("1"));
-	QProcess Other;
-	Other.setProcessChannelMode(QProcess::MergedChannels);
-	Other.start(QCoreApplication::applicationFilePath(),
-		{QLatin1String(FRenewingProgram::Switch), ToQString(Options.Issuer), ToQString(Folder.GetPath())});
-	QByteArray Said;
-	const auto Hears = [&Other, &Said](const char* Words)
-	{
-		return PumpUntil([&Other, &Said, Words] { return (Said += Other.readAll()).contains(Words); });
+	FAuthorizationMetadata Metadata(Options.Issuer, Options.Limits.Http);
+	FLoginSession Other(OtherOptions, Metadata);
+	Other.OnChanged = [] {
 	};
 
 	// Both at once: the server sees one renewal.
 	FExchange Slow;
 	Server.Then([&Slow](const FExchange& Exchange) { Slow = Exchange; });
-	FString Token;
-	const TSharedPtr<void> Request =
-		Service().GetTokens().RequestToken(TEXT("access-1"), [&Token](const FString& Given) { Token = Given; });
+	TArray<FString> Tokens;
+	const auto Take = [&Tokens](const FString& Token)
+	{
+		Tokens.Add(Token);
+	};
+	const TSharedPtr<void> First = Service().GetTokens().RequestToken(TEXT("access-1"), Take);
 	ASSERT_TRUE(PumpUntil([&Slow] { return Slow.Socket != nullptr; }));
-	Other.write("access-1\n");
-	ASSERT_TRUE(Hears("asked")) << Said.toStdString();
-	EXPECT_TRUE(Token.IsEmpty() && Said == "asked\n") << Said.toStdString();
+	const TSharedPtr<void> Second = Other.RequestToken(TEXT("access-1"), Take);
+	PumpUntil([Turns = 0]() mutable { return ++Turns > 50; });
+	EXPECT_TRUE(Tokens.IsEmpty());
 	Slow.SendReply("200 OK", "application/json", MakeTokens("2"));
-	ASSERT_TRUE(Hears("access-2\n")) << Said.toStdString();
-	EXPECT_TRUE(PumpUntil([&Token] { return Token == TEXT("access-2"); }));
+	ASSERT_TRUE(PumpUntil([&Tokens] { return Tokens.Num() == 2; }));
+	EXPECT_TEXT(FString::Join(Tokens, TEXT(" ")), TEXT("access-2 access-2"));
 	EXPECT_EQ(Server.GetExchanges().size(), 3);
 
 	// A logout is for both.
 	Server.Then(ReplyJson("200 OK", ""));
-	Service().Logout();
-	WaitForEnd();
+	LogOut();
 	EXPECT_TRUE(PumpUntil([this] { return Server.GetExchanges().size() == 4; }));
-	Other.write("access-2\n");
-	EXPECT_TRUE(Hears("none\n")) << Said.toStdString();
-	EXPECT_TRUE(Said.contains("Warning: You were signed out in another window. Click \"Log in\" to sign in again.")) << Said.toStdString();
-	Other.closeWriteChannel();
-	EXPECT_TRUE(PumpUntil([&Other] { return Other.state() == QProcess::NotRunning; }));
-	EXPECT_EQ(Other.exitCode(), 0);
+	const TSharedPtr<void> Third = Other.RequestToken(TEXT("access-2"), Take);
+	ASSERT_TRUE(PumpUntil([&Tokens] { return Tokens.Num() == 3; }));
+	EXPECT_TEXT(Tokens[2], TEXT(""));
+	EXPECT_TRUE(Log.Has(
+		"LogVorelAccount", ELogVerbosity::Warning, TEXT("You were signed out in another window. Click \"Log in\" to sign in again.")));
 }
 
 TEST_F(FLoginTest, WhatCantBeStoredHoldsForThisRun)
 {
 	const auto RenewUnstored = [this]
 	{
-		Server.Then(ReplyJson("200 OK", MakeTokens("2")));
-		EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("access-2"));
+		EXPECT_TEXT(GetToken(TEXT("access-1"), ReplyJson("200 OK", MakeTokens("2"))), TEXT("access-2"));
 		EXPECT_EQ(1, Log.Count("LogVorelAccount", ELogVerbosity::Display,
 						 TEXT("You stay signed in until Vorel AI is closed: the sign-in could not be stored on this computer. The disk may "
 							  "be full, or "
@@ -204,8 +189,7 @@ TEST_F(FLoginTest, WhatCantBeStoredHoldsForThisRun)
 	std::filesystem::create_directories(*Folder.GetPath(TEXT("login.json/in the way")));
 	LogInUnstored(MakeTokens("1"));
 	RenewUnstored();
-	EndService();
-	EXPECT_FALSE(Service().IsAuthenticated());
+	EXPECT_FALSE(IsSignedInAtNextStart());
 	Log.Clear();
 
 	std::filesystem::remove_all(*Folder.GetPath(TEXT("login.json")));
@@ -214,8 +198,7 @@ TEST_F(FLoginTest, WhatCantBeStoredHoldsForThisRun)
 		const FFullDisk FullDisk;
 		RenewUnstored();
 	}
-	EndService();
-	EXPECT_FALSE(Service().IsAuthenticated());
+	EXPECT_FALSE(IsSignedInAtNextStart());
 }
 
 TEST_F(FLoginTest, ALogoutHoldsThoughTheProgramEndsAtOnce)

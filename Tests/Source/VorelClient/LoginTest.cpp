@@ -8,26 +8,15 @@
 #include "Account/Secrets.h"
 #include "Http/Form.h"
 #include "Http/JsonText.h"
-#include <sys/stat.h>
+#include <filesystem>
 
-namespace
-{
-int GetMode(const FString& File)
-{
-	struct stat Status
-	{
-	};
-	::stat(TCHAR_TO_UTF8(*File), &Status);
-	return Status.st_mode & 0777;
-}
-} // namespace
+namespace fs = std::filesystem;
 
 TEST_F(FLoginTest, GoesThroughTheBrowserAndIsThereAgainAtTheNextStart)
 {
 	EXPECT_FALSE(Service().IsAuthenticated());
 	EXPECT_TEXT(GetToken(), TEXT("none"));
-	Server.Then(ReplyMetadata(Server, R"({"scopes_supported": ["email", "phone", "openid"]})"));
-	Server.Then(ReplyJson("200 OK", MakeTokens("1")));
+	Server.Then({ReplyMetadata(Server, R"({"scopes_supported": ["email", "phone", "openid"]})"), ReplyJson("200 OK", MakeTokens("1"))});
 	OpenPage();
 	EXPECT_EQ(Server.GetExchanges()[0].Path, "/.well-known/oauth-authorization-server");
 	EXPECT_TRUE(OpenedPages[0].StartsWith(Options.Issuer + TEXT("/login?")));
@@ -51,15 +40,15 @@ TEST_F(FLoginTest, GoesThroughTheBrowserAndIsThereAgainAtTheNextStart)
 
 	const FString TokenFile = Folder.GetPath(TEXT("tokens")) / FString((Secrets::Hash("local test").substr(0, 16) + ".json").c_str());
 	EXPECT_TRUE(PumpUntil([this] { return !Folder.Read(TEXT("login.json")).empty(); }));
-	EXPECT_EQ(GetMode(TokenFile), 0600);
-	EXPECT_EQ(GetMode(Folder.GetPath(TEXT("tokens"))), 0700);
+	EXPECT_EQ(fs::status(*TokenFile).permissions(), fs::perms(0600));
+	EXPECT_EQ(fs::status(*Folder.GetPath(TEXT("tokens"))).permissions(), fs::perms(0700));
 	// One that others may read is none; the login is not lost by that.
 	EndService();
-	::chmod(TCHAR_TO_UTF8(*TokenFile), 0644);
+	fs::permissions(*TokenFile, fs::perms(0644));
 	EXPECT_TRUE(Service().IsAuthenticated());
 	EXPECT_TRUE(WaitForEnd().StartsWith(TEXT("Your sign-in can't be read")));
 	EndService();
-	::chmod(TCHAR_TO_UTF8(*TokenFile), 0600);
+	fs::permissions(*TokenFile, fs::perms(0600));
 	EXPECT_TRUE(Service().IsAuthenticated());
 	EXPECT_TEXT(GetToken(), TEXT("access-1"));
 	EXPECT_EQ(Server.GetExchanges().size(), 2);
@@ -81,8 +70,7 @@ TEST_F(FLoginTest, FindsAnIssuerBelowAPathInEitherPlace)
 
 TEST_F(FLoginTest, WaitsOnForTheOneGoodRedirect)
 {
-	Server.Then(ReplyMetadata(Server));
-	Server.Then(ReplyJson("200 OK", MakeTokens("1")));
+	Server.Then({ReplyMetadata(Server), ReplyJson("200 OK", MakeTokens("1"))});
 	OpenPage();
 	const QByteArray Good = MakeRedirect();
 	const std::tuple<const char*, QByteArray, const char*, const char*> Rows[] = {
@@ -135,7 +123,6 @@ TEST_F(FLoginTest, EveryFailureHasItsWordsAndAnotherTryWorks)
 		return std::vector<FScriptedServer::FHandler>{ReplyMetadata(Server), Handler};
 	};
 	const FScriptedServer::FHandler None = ReplyJson("404 Not Found", "{}");
-	const QByteArray Host = Server.GetAddress().mid(7);
 	const FString Unusable = TEXT("The service does not offer a sign-in that Vorel AI can use. Check its address.");
 	const FString Rubbish = TEXT("The service sent something else than a sign-in. Try again later, or check its address.");
 	const FString Refused = TEXT("The service did not accept the sign-in. Click \"Log in\" to try again.");

@@ -47,25 +47,22 @@ void FScriptedServer::HandleBytes(QTcpSocket* Socket)
 	FExchange Exchange;
 	Exchange.Socket = Socket;
 	const qsizetype EndOfHead = Bytes.indexOf("\r\n\r\n");
-	if (!bRaw)
+	if (EndOfHead < 0)
 	{
-		if (EndOfHead < 0)
-		{
-			return;
-		}
-		QList<QByteArray> Lines = Bytes.left(EndOfHead).split('\n');
-		const QList<QByteArray> RequestLine = Lines.takeFirst().trimmed().split(' ');
-		Exchange.Method = RequestLine.value(0);
-		Exchange.Path = RequestLine.value(1);
-		for (const QByteArray& Line : Lines)
-		{
-			Exchange.Headers[Line.left(Line.indexOf(':')).toLower()] = Line.mid(Line.indexOf(':') + 1).trimmed();
-		}
-		Exchange.Body = Bytes.mid(EndOfHead + 4);
-		if (Exchange.Body.size() < Exchange.Headers.value("content-length").toLongLong())
-		{
-			return;
-		}
+		return;
+	}
+	QList<QByteArray> Lines = Bytes.left(EndOfHead).split('\n');
+	const QList<QByteArray> RequestLine = Lines.takeFirst().trimmed().split(' ');
+	Exchange.Method = RequestLine.value(0);
+	Exchange.Path = RequestLine.value(1);
+	for (const QByteArray& Line : Lines)
+	{
+		Exchange.Headers[Line.left(Line.indexOf(':')).toLower()] = Line.mid(Line.indexOf(':') + 1).trimmed();
+	}
+	Exchange.Body = Bytes.mid(EndOfHead + 4);
+	if (Exchange.Body.size() < Exchange.Headers.value("content-length").toLongLong())
+	{
+		return;
 	}
 	Bytes.clear();
 	Exchanges.append(Exchange);

@@ -45,15 +45,13 @@ public:
 	QByteArray GetAddress() const { return "http://127.0.0.1:" + QByteArray::number(Server.serverPort()); }
 
 	void Then(FHandler Handler) { Handlers.append(std::move(Handler)); }
+	void Then(std::initializer_list<FHandler> InTurn) { Handlers.append(InTurn); }
 
 	// The requests so far.
 	const QList<FExchange>& GetExchanges() const { return Exchanges; }
 
 	// Hangs up all connections and lets nobody in any more.
 	void StopListening();
-
-	// Hands over the first bytes as they come instead of waiting for a whole request.
-	bool bRaw = false;
 
 private:
 	void HandleBytes(QTcpSocket* Socket);

@@ -70,8 +70,7 @@ TEST_F(FSecretStoreTest, KeepsTheLogin)
 	LogIn(MakeTokens("1"));
 	EndService();
 	Options.bUseKeyring = true;
-	Server.Then(ReplyMetadata(Server));
-	Server.Then(ReplyJson("200 OK", MakeTokens("2")));
+	Server.Then({ReplyMetadata(Server), ReplyJson("200 OK", MakeTokens("2"))});
 	EXPECT_TEXT(GetToken(TEXT("access-1")), TEXT("access-2"));
 	EXPECT_TRUE(std::filesystem::is_empty(TCHAR_TO_UTF8(*Folder.GetPath(TEXT("tokens")))));
 	EndService();
@@ -93,8 +92,7 @@ TEST_F(FSecretStoreTest, KeepsTheLogin)
 	// Signed out before the store has answered: what is read then is revoked and cleared all the same.
 	EndService();
 	Server.Then(ReplyMetadata(Server));
-	Service().Logout();
-	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed out."));
+	LogOut();
 	ASSERT_TRUE(PumpUntil([this] { return Server.GetExchanges().size() == 6; }));
 	EXPECT_TRUE(Server.GetExchanges()[5].Body.contains("token=refresh-2&"));
 	EXPECT_TRUE(PumpUntil([this] { return !IsNoted("signed out"); }));
@@ -132,8 +130,7 @@ TEST_F(FSecretStoreTest, ALockedOneCostsNoLogin)
 
 	// What can't be cleared is cleared another time.
 	EndService();
-	Service().Logout();
-	EXPECT_TEXT(WaitForEnd(), TEXT("You are signed out."));
+	LogOut();
 	EXPECT_TRUE(PumpUntil([this] { return ToUtf8(Log.Dump()).find("The secret store failed") != std::string::npos; }));
 	EXPECT_TRUE(IsNoted("signed out"));
 }
@@ -171,6 +168,5 @@ TEST_F(FSecretStoreTest, WithoutOneTheLoginHoldsForThisRun)
 	const TCHAR* const Notice = TEXT("You stay signed in until Vorel AI is closed: this desktop has no password store that it could use. "
 									 "The setting allowTokenFile lets it use a file instead.");
 	EXPECT_TRUE(PumpUntil([this, Notice] { return Log.Has("LogVorelAccount", ELogVerbosity::Display, Notice); })) << Log.Dump();
-	EndService();
-	EXPECT_FALSE(Service().IsAuthenticated());
+	EXPECT_FALSE(IsSignedInAtNextStart());
 }

@@ -61,8 +61,7 @@ protected:
 	void ExpectWorksAndTells(const FString& Sentences, bool bOldThere = false)
 	{
 		EXPECT_EQ(GetTitles(Service()), bOldThere ? TEXT("old") : TEXT(""));
-		Server.Then(Answer("Fine"));
-		EXPECT_EQ(Ask(TEXT("Hi")), TEXT("history(0)* user(Hi)* chunk(Fine)* answer(Fine) completed"));
+		EXPECT_EQ(Ask(TEXT("Hi"), Answer("Fine")), TEXT("history(0)* user(Hi)* chunk(Fine)* answer(Fine) completed"));
 		const FString Id = FirstId();
 		Service().CreateNewConversation(TEXT("Agent"));
 		Service().LoadConversation(Id);
@@ -80,6 +79,8 @@ protected:
 		EndService();
 		EXPECT_TRUE(ReadStore() == Before);
 		EXPECT_TRUE(ReadLog() == LogBefore);
+		TakeEvents();
+		Log.Clear();
 	}
 };
 
@@ -113,30 +114,25 @@ TEST_F(FStoreFailureTest, AFileThatAnotherProgramHasLocked)
 	ExpectLeftAlone(TEXT("Another program has locked FILE."));
 }
 
-TEST_F(FStoreFailureTest, AFileThatCantBeWrittenTo)
+TEST_F(FStoreFailureTest, AFileOrAFolderThatCantBeWrittenTo)
 {
-	const FPlainUserScope PlainUser;
+	const TCHAR* const Sentence = TEXT("FILE can't be written to.");
 	::chmod(TCHAR_TO_UTF8(StoreFile), 0444);
-	ExpectLeftAlone(TEXT("FILE can't be written to."));
-}
-
-TEST_F(FStoreFailureTest, AFolderThatCantBeWrittenTo)
-{
+	{
+		const FPlainUserScope PlainUser;
+		ExpectLeftAlone(Sentence);
+	}
 	::chmod(TCHAR_TO_UTF8(StoreFile), 0666);
 	::chmod(TCHAR_TO_UTF8(Folder.GetPath()), 0555);
 	const FPlainUserScope PlainUser;
-	ExpectLeftAlone(TEXT("FILE can't be written to."));
+	ExpectLeftAlone(Sentence);
 }
 
-TEST_F(FStoreFailureTest, AFileOfANewerVersion)
+TEST_F(FStoreFailureTest, AFileOfANewerVersionOrOfSomebodyElse)
 {
 	Execute("PRAGMA user_version = 99");
 	ExpectLeftAlone(TEXT("FILE was written by a newer version of this program."));
-}
-
-TEST_F(FStoreFailureTest, ADatabaseOfSomebodyElse)
-{
-	Execute("PRAGMA application_id = 7");
+	Execute("PRAGMA user_version = 1; PRAGMA application_id = 7");
 	ExpectLeftAlone(TEXT("FILE holds something else than expected."));
 }
 
@@ -231,8 +227,7 @@ TEST_F(FStoreFailureTest, AConversationThatCantBeReadIsNotTakenForAnEmptyOne)
 	EXPECT_EQ(TakeEvents(), TEXT("failed(Nothing was sent, because the earlier messages of this conversation can't be read.)"));
 
 	Replace(Whole);
-	Server.Then(Answer("Fine"));
-	Ask(TEXT("Hi"));
+	Ask(TEXT("Hi"), Answer("Fine"));
 	EXPECT_EQ(Service().GetCurrentConversation()->Messages.Num(), 202);
 }
 
@@ -250,26 +245,36 @@ TEST_F(FStoreFailureTest, AFileThatIsLockedForAWhileIsWrittenLater)
 	EXPECT_EQ(ReadFile(FirstId()), TEXT("user(Hi) complete(Fine)"));
 }
 
-TEST_F(FStoreFailureTest, AFileThatIsLockedAtTheEndIsWaitedFor)
+TEST_F(FStoreFailureTest, AFileThatIsLockedAtTheEndOrAtAFirstStartIsWaitedFor)
 {
+	const auto ReleaseAfter = [this](FSqliteDatabase& Holder, const char* Timeout)
+	{
+		Holder.Execute("BEGIN IMMEDIATE");
+		return std::thread(
+			[this, &Holder, Timeout]
+			{
+				FSqliteDatabase Waiting(StoreFile, false);
+				Waiting.Execute(Timeout);
+				EXPECT_THROW(Waiting.Execute("BEGIN IMMEDIATE"), FStoreError);
+				Holder.Execute("COMMIT");
+			});
+	};
 	Service();
 	FSqliteDatabase Holder(StoreFile, false);
-	Holder.Execute("BEGIN IMMEDIATE");
-	Server.Then(Answer("Fine"));
-	Ask(TEXT("Hi"));
+	// Longer than one write is tried for.
+	std::thread Releasing = ReleaseAfter(Holder, "PRAGMA busy_timeout = 2000");
+	Ask(TEXT("Hi"), Answer("Fine"));
 	const FString Id = FirstId();
-	std::thread Releasing(
-		[&]
-		{
-			// Longer than one write is tried for.
-			FSqliteDatabase Waiting(StoreFile, false);
-			EXPECT_THROW(Waiting.Execute("BEGIN IMMEDIATE"), FStoreError);
-			EXPECT_THROW(Waiting.Execute("BEGIN IMMEDIATE"), FStoreError);
-			Holder.Execute("COMMIT");
-		});
 	EndService();
 	Releasing.join();
 	EXPECT_EQ(ReadFile(Id), TEXT("user(Hi) complete(Fine)"));
+
+	StoreFile = Folder.GetPath(TEXT("first.sqlite"));
+	FSqliteDatabase First(StoreFile, true);
+	Releasing = ReleaseAfter(First, "PRAGMA busy_timeout = 200");
+	FStoreError Error;
+	EXPECT_TRUE(FConversationStore::Open(StoreFile, FConversationStore::EMissingFile::Create, Error)) << Error.Detail;
+	Releasing.join();
 }
 
 TEST_F(FStoreFailureTest, AFullDiskLosesNothingOnceThereIsRoomAgain)

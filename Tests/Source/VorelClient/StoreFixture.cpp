@@ -2,22 +2,11 @@
 
 #include "StoreFixture.h"
 
-TObjectPtr<UHttpChatService> FStoreTest::StartOther()
+UHttpChatService& FStoreTest::StartOther()
 {
-	Others.Add(NewObject<UHttpChatService>());
-	Others.Last()->AddToRoot();
-	Others.Last()->Initialize(Endpoint, Limits, StoreFile);
-	return Others.Last();
-}
-
-FStoreTest::~FStoreTest()
-{
-	EndService();
-	for (const TObjectPtr<UHttpChatService>& Other : Others)
-	{
-		Other->Shutdown();
-		Other->RemoveFromRoot();
-	}
+	UHttpChatService& Other = Others.emplace_back().Make();
+	Other.Initialize(Endpoint, Limits, StoreFile);
+	return Other;
 }
 
 FString FStoreTest::GetTitles(const UChatService& Chat)
@@ -54,13 +43,4 @@ FString FStoreTest::ReadFile(const FString& Id) const
 		Texts.Add(FString::Printf(TEXT("%s(%s)"), Message.Role == EChatRole::User ? TEXT("user") : End, *Message.Text));
 	}
 	return FString::Join(Texts, TEXT(" "));
-}
-
-FScriptedServer::FHandler Begin(const QByteArray& JsonText)
-{
-	return [JsonText](const FExchange& Exchange)
-	{
-		Exchange.SendStreamHead();
-		Exchange.Send(MakeDelta(JsonText));
-	};
 }

@@ -6,6 +6,7 @@
 
 #include "ConversationStore.h"
 #include "Support/TempFolder.h"
+#include <list>
 
 // The chat service with its conversations in a file.
 class FStoreTest : public FChatClientTest
@@ -14,8 +15,8 @@ protected:
 	FStoreTest() { StoreFile = Folder.GetPath(FConversationStore::FileName); }
 
 	// Another program, as it were, on the same file. Ends with the test.
-	TObjectPtr<UHttpChatService> StartOther();
-	~FStoreTest() override;
+	UHttpChatService& StartOther();
+	~FStoreTest() override { EndService(); }
 
 	// Titles of the list, parted by bars.
 	static FString GetTitles(const UChatService& Chat);
@@ -30,8 +31,5 @@ protected:
 	FTempFolder Folder;
 
 private:
-	TArray<TObjectPtr<UHttpChatService>> Others;
+	std::list<TStarted<UHttpChatService>> Others;
 };
-
-// An answer of one piece that stays open.
-FScriptedServer::FHandler Begin(const QByteArray& JsonText);

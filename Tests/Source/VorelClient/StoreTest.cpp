@@ -7,12 +7,10 @@
 #include "Store/StoreSchema.h"
 #include <filesystem>
 #include <nlohmann/json.hpp>
-#include <thread>
 
 TEST_F(FStoreTest, BringsConversationsBack)
 {
-	Server.Then(Answer("Blue \\\"and\\\" 今😀"));
-	Ask(TEXT("  What\n\tcolour?  "));
+	Ask(TEXT("  What\n\tcolour?  "), Answer("Blue \\\"and\\\" 今😀"));
 	Service().CreateNewConversation(TEXT("Review"));
 	Server.Then(
 		[](const FExchange& Exchange) {
@@ -36,8 +34,7 @@ TEST_F(FStoreTest, BringsConversationsBack)
 	// The other one has let go of its messages, and the objects are the same for good.
 	EXPECT_TRUE(List[1]->Messages.IsEmpty());
 
-	Server.Then(Answer("Fine"));
-	Ask(TEXT("And?"));
+	Ask(TEXT("And?"), Answer("Fine"));
 	EXPECT_EQ(nlohmann::json::parse(Server.GetExchanges().last().Body.toStdString())["messages"][2]["content"], "Ab");
 	Service().LoadConversation(List[1]->Id);
 	CollectGarbage();
@@ -50,14 +47,10 @@ TEST_F(FStoreTest, BringsConversationsBack)
 
 TEST_F(FStoreTest, MarksAsInterruptedWhatQuittingOrLeavingCutShort)
 {
-	Server.Then(Begin("One"));
-	Service().SendMessage(TEXT("first"));
-	ASSERT_TRUE(WaitForFrameRequest());
+	Begin(TEXT("first"), MakeDelta("One"));
 	const FString First = FirstId();
 	Service().CreateNewConversation(TEXT("Agent"));
-	Server.Then(Begin("Two"));
-	Service().SendMessage(TEXT("second"));
-	ASSERT_TRUE(WaitForFrameRequest());
+	Begin(TEXT("second"), MakeDelta("Two"));
 	const FString Second = FirstId();
 	EndService();
 	EXPECT_EQ(ReadFile(First), TEXT("user(first) interrupted(One)"));
@@ -68,65 +61,46 @@ TEST_F(FStoreTest, MarksAsInterruptedWhatQuittingOrLeavingCutShort)
 
 TEST_F(FStoreTest, SharesTheFileWithAnotherProgram)
 {
-	const TObjectPtr<UHttpChatService> Other = StartOther();
-	const TObjectPtr<UHttpChatService> Idle = StartOther();
+	UHttpChatService& Other = StartOther();
+	const UHttpChatService& Idle = StartOther();
 	{
 		FStoreError Error;
 		const TUniquePtr<FConversationStore> Store = FConversationStore::OpenAgain(StoreFile, Error);
 		ASSERT_FALSE(
 			Store->AddConversation({TEXT("id"), TEXT("one"), TEXT("A mode of the future"), 1, 1}, {{EChatRole::User, TEXT("one")}}));
 	}
-	ASSERT_TRUE(PumpUntil([&] { return GetTitles(*Other) == TEXT("one"); }));
-	Other->LoadConversation(TEXT("id"));
-	EXPECT_EQ(Other->GetCurrentChatModeName(), TEXT("Agent"));
+	ASSERT_TRUE(PumpUntil([&] { return GetTitles(Other) == TEXT("one"); }));
+	Other.LoadConversation(TEXT("id"));
+	EXPECT_EQ(Other.GetCurrentChatModeName(), TEXT("Agent"));
 	Service().LoadConversation(TEXT("id"));
-	const TObjectPtr<USerializableChatHistory> Open = Other->GetCurrentConversation();
+	const TObjectPtr<USerializableChatHistory> Open = Other.GetCurrentConversation();
 
 	// What the one program writes shows in the open conversation of the other, and so does its mode.
 	Service().SetCurrentChatMode(TEXT("Review"));
-	Server.Then(Answer("2"));
-	Ask(TEXT("two"));
-	ASSERT_TRUE(PumpUntil([&] { return GetTexts(*Other) == TEXT("one|two|2") && Other->GetCurrentChatModeName() == TEXT("Review"); }));
+	Ask(TEXT("two"), Answer("2"));
+	ASSERT_TRUE(PumpUntil([&] { return GetTexts(Other) == TEXT("one|two|2") && Other.GetCurrentChatModeName() == TEXT("Review"); }));
 
 	// Between the events of a request nothing is told.
-	Server.Then(Begin("3"));
-	Other->SendMessage(TEXT("three"));
+	Server.Then(SendAndStayOpen(MakeDelta("3")));
+	Other.SendMessage(TEXT("three"));
 	ASSERT_TRUE(PumpUntil([this] { return Server.GetExchanges().size() == 2; }));
 	int32 Changes = 0;
-	Other->OnChatHistoryChanged.AddLambda([&] { ++Changes; });
+	Other.OnChatHistoryChanged.AddLambda([&] { ++Changes; });
 	Service().DeleteChatHistory(Open->Id);
 	Service().CreateNewConversation(TEXT("Agent"));
-	Server.Then(Answer("4"));
-	Ask(TEXT("four"));
-	ASSERT_TRUE(PumpUntil([&] { return GetTitles(*Idle) == TEXT("four"); }));
+	Ask(TEXT("four"), Answer("4"));
+	ASSERT_TRUE(PumpUntil([&] { return GetTitles(Idle) == TEXT("four"); }));
 	EXPECT_EQ(Changes, 0);
 	Server.GetExchanges()[1].Send(EndMark);
-	ASSERT_TRUE(PumpUntil([&] { return GetTitles(*Other) == TEXT("four"); }));
+	ASSERT_TRUE(PumpUntil([&] { return GetTitles(Other) == TEXT("four"); }));
 	EXPECT_EQ(Log.Count(TEXT("LogVorelStore"), ELogVerbosity::Error,
 				  TEXT("A change could not be stored: another program has deleted the conversation")),
 		1)
 		<< Log.Dump();
 	EXPECT_FALSE(IsValid(Open));
-	EXPECT_TRUE(Other->GetCurrentConversation()->Messages.IsEmpty());
-	EXPECT_EQ(Other->GetCurrentChatModeName(), TEXT("Agent"));
+	EXPECT_TRUE(Other.GetCurrentConversation()->Messages.IsEmpty());
+	EXPECT_EQ(Other.GetCurrentChatModeName(), TEXT("Agent"));
 	EXPECT_EQ(ReadFile(Open->Id), TEXT(""));
-}
-
-TEST_F(FStoreTest, AFirstStartWaitsForAnother)
-{
-	FSqliteDatabase First(StoreFile, true);
-	First.Execute("BEGIN IMMEDIATE");
-	std::thread Releasing(
-		[&]
-		{
-			FSqliteDatabase Waiting(StoreFile, false);
-			Waiting.Execute("PRAGMA busy_timeout = 200");
-			EXPECT_THROW(Waiting.Execute("BEGIN IMMEDIATE"), FStoreError);
-			First.Execute("COMMIT");
-		});
-	FStoreError Error;
-	EXPECT_TRUE(FConversationStore::Open(StoreFile, FConversationStore::EMissingFile::Create, Error)) << Error.Detail;
-	Releasing.join();
 }
 
 TEST_F(FStoreTest, MigratesStepByStepWithABackup)

@@ -9,6 +9,7 @@
 #include "SemanticVersion.h"
 #include "Update/VersionFeedUpdateService.h"
 #include <filesystem>
+#include <list>
 
 TEST(FSemanticVersionTest, OrdersByPrecedence)
 {
@@ -38,27 +39,15 @@ namespace
 class FUpdateTest : public testing::Test
 {
 protected:
-	~FUpdateTest() override
-	{
-		for (UVersionFeedUpdateService* const Service : Services)
-		{
-			Service->Shutdown();
-			Service->RemoveFromRoot();
-		}
-		CollectGarbage();
-	}
-
 	// A program with version 1.2.3 and a feed below this path starts, and a panel is built.
 	UVersionFeedUpdateService& Check(const TCHAR* Path = TEXT(""))
 	{
-		auto* const Service = NewObject<UVersionFeedUpdateService>();
-		Service->AddToRoot();
-		Services.Add(Service);
-		Service->Initialize({GetFeed() + Path, Folder.GetPath(FVersionFeedNote::FileName)}, TEXT("1.2.3"));
-		Service->OnLatestVersionReceived.AddLambda([this](const FString& Version) { Told += Version + TEXT(";"); });
-		Service->CheckForUpdates();
+		UVersionFeedUpdateService& Service = Services.emplace_back().Make();
+		Service.Initialize({GetFeed() + Path, Folder.GetPath(FVersionFeedNote::FileName)}, TEXT("1.2.3"));
+		Service.OnLatestVersionReceived.AddLambda([this](const FString& Version) { Told += Version + TEXT(";"); });
+		Service.CheckForUpdates();
 		EXPECT_TEXT(Told, TEXT(""));
-		return *Service;
+		return Service;
 	}
 
 	FString GetFeed() const { return FString(Server.GetAddress().constData()); }
@@ -86,7 +75,7 @@ protected:
 	FTempFolder Folder;
 	FScriptedServer Server;
 	FString Told;
-	TArray<UVersionFeedUpdateService*> Services;
+	std::list<TStarted<UVersionFeedUpdateService>> Services;
 };
 } // namespace
 

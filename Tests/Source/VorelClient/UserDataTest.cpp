@@ -18,19 +18,11 @@ QByteArray MakeUser(int Credits)
 class FUserDataTest : public testing::Test
 {
 protected:
-	~FUserDataTest() override
-	{
-		End();
-		CollectGarbage();
-	}
-
 	// Name, mail, credits and roles of every success, or "failed".
 	UVorelUserDataService& Start(FAuthorizationMetadata* Issuer = nullptr)
 	{
-		Users = NewObject<UVorelUserDataService>();
-		Users->AddToRoot();
+		Users = &Started.Make();
 		Authentication = NewObject<UFakeAuthentication>();
-		Authentication->AddToRoot();
 		Users->OnUserDataChanged.AddLambda(
 			[this](const FVorelUserData& Data, bool bSuccess)
 			{
@@ -47,13 +39,7 @@ protected:
 
 	void End()
 	{
-		if (Users)
-		{
-			Users->Shutdown();
-			Users->RemoveFromRoot();
-			Authentication->RemoveFromRoot();
-			Users = nullptr;
-		}
+		Started.End();
 		Told.Reset();
 	}
 
@@ -74,13 +60,13 @@ protected:
 	FString Told;
 	UVorelUserDataService* Users = nullptr;
 	UFakeAuthentication* Authentication = nullptr;
+	TStarted<UVorelUserDataService> Started;
 };
 } // namespace
 
 TEST_F(FUserDataTest, JoinsCallsRenewsTheTokenAndTellsInAFrame)
 {
-	Server.Then(ReplyJson("401 Unauthorized"));
-	Server.Then(ReplyJson("200 OK", MakeUser(7)));
+	Server.Then({ReplyJson("401 Unauthorized"), ReplyJson("200 OK", MakeUser(7))});
 	Start().GetUserData();
 	Users->GetUserData();
 	ASSERT_TRUE(WaitForFrameRequest());
@@ -121,8 +107,7 @@ TEST_F(FUserDataTest, TellsAFailureOnceAndTriesAgainEverLaterAndThenNoMore)
 
 TEST_F(FUserDataTest, DropsWhatASignedOutSessionAskedFor)
 {
-	Server.Then(ReplyJson("200 OK", MakeUser(7)));
-	Server.Then(ReplyJson("200 OK", MakeUser(8)));
+	Server.Then({ReplyJson("200 OK", MakeUser(7)), ReplyJson("200 OK", MakeUser(8))});
 	Start().GetUserData();
 	ASSERT_TRUE(WaitUntilTold(TEXT("Ada L. a@b 7 user+beta;")));
 	Told.Reset();
@@ -141,10 +126,8 @@ TEST_F(FUserDataTest, DropsWhatASignedOutSessionAskedFor)
 
 TEST_F(FUserDataTest, AsksAgainAfterAnAnswerAndOnReturnWithoutCredits)
 {
-	Server.Then(ReplyJson("200 OK", MakeUser(1)));
-	Server.Then(ReplyJson("200 OK", MakeUser(0)));
-	Server.Then(ReplyJson("200 OK", MakeUser(9)));
-	Server.Then(ReplyJson("500 Internal Server Error"));
+	Server.Then({ReplyJson("200 OK", MakeUser(1)), ReplyJson("200 OK", MakeUser(0)), ReplyJson("200 OK", MakeUser(9)),
+		ReplyJson("500 Internal Server Error")});
 	Start();
 	ReturnToWindow();
 	Users->GetUserData();
@@ -192,8 +175,7 @@ TEST_F(FUserDataTest, TakesTheNameFromAForeignIssuerAndTheCreditsFromTheService)
 	for (const auto& [Metadata, Info, Expected] : Rows)
 	{
 		FAuthorizationMetadata Issuer(FString(Server.GetAddress().constData()), FRequestLimits());
-		Server.Then(ReplyJson("200 OK", R"({"name":"","credits":5000000000})"));
-		Server.Then(ReplyMetadata(Server, Metadata));
+		Server.Then({ReplyJson("200 OK", R"({"name":"","credits":5000000000})"), ReplyMetadata(Server, Metadata)});
 		if (!Info.isEmpty())
 		{
 			Server.Then(ReplyJson(Info == "no" ? "403 Forbidden" : "200 OK", Info));
