@@ -10,10 +10,18 @@
 
 static constexpr int PatienceInMilliseconds = 120'000;
 
-FProgramOutcome FProgramRun::RunShell(const char* Name, const char* Command, const QString& Folder)
+FProgramOutcome FProgramRun::RunShell(const char* Name, const std::string& Command, const QString& Folder)
 {
 	const QString Setup = QStringLiteral("P='%1'; exec 2>&1; ").arg(FindProgram(QString::fromUtf8(Name)));
-	return FProgramRun{QStringLiteral("/bin/bash"), {QStringLiteral("-c"), Setup + QString::fromUtf8(Command)}, Folder}.Run();
+	return FProgramRun{QStringLiteral("/bin/bash"), {QStringLiteral("-c"), Setup + QString::fromStdString(Command)}, Folder}.Run();
+}
+
+void FProgramRun::ExpectShell(
+	const char* Name, const std::string& Command, const std::string& Output, int ExitStatus, const QString& Folder)
+{
+	const FProgramOutcome Outcome = RunShell(Name, Command, Folder);
+	EXPECT_TEXT(Outcome.Output, FString(Output.c_str())) << Command;
+	EXPECT_EQ(Outcome.ExitStatus, ExitStatus) << Command;
 }
 
 QString FProgramRun::FindProgram(const QString& Name)

@@ -26,7 +26,9 @@ struct FProgramRun
 	FProgramOutcome Run() const;
 
 	// A shell command in which the program of that name is called $P. The output holds what it wrote to stdout and stderr.
-	static FProgramOutcome RunShell(const char* Name, const char* Command, const QString& Folder = QString());
+	static FProgramOutcome RunShell(const char* Name, const std::string& Command, const QString& Folder = QString());
+	static void ExpectShell(
+		const char* Name, const std::string& Command, const std::string& Output, int ExitStatus, const QString& Folder = {});
 
 	// A program of the same build.
 	static QString FindProgram(const QString& Name);

@@ -5,12 +5,6 @@
 
 namespace
 {
-struct FBadLine
-{
-	TArray<FString> Arguments;
-	const TCHAR* Error;
-};
-
 FCommandLine Parse(const TArray<FString>& Arguments)
 {
 	FString Error;
@@ -53,7 +47,7 @@ TEST(CommandLine, SaysWhatIsWrong)
 	const TCHAR* const Issuer =
 		TEXT("--issuer needs an address that begins with https://, or with http:// on this machine, without a query");
 	const TCHAR* const Credits = TEXT("--daily-credits needs a whole number from 0 to 1000000");
-	const FBadLine Lines[] = {
+	const std::pair<TArray<FString>, const TCHAR*> Lines[] = {
 		{{TEXT("--ofscreen")}, TEXT("there is no option --ofscreen, see --help")},
 		{{TEXT("file.play")}, TEXT("there is no option file.play, see --help")},
 		{{TEXT("--offscreen=yes")}, TEXT("--offscreen takes no value")},
@@ -86,10 +80,10 @@ TEST(CommandLine, SaysWhatIsWrong)
 		{{TEXT("conversations"), TEXT("show")}, TEXT("conversations show takes ID, see --help")},
 		{{TEXT("conversations"), TEXT("list"), TEXT("all")}, TEXT("conversations list takes nothing, see --help")},
 	};
-	for (const FBadLine& Line : Lines)
+	for (const auto& [Arguments, Problem] : Lines)
 	{
 		FString Error;
-		EXPECT_FALSE(FCommandLine::Parse(Line.Arguments, Error).IsSet());
-		EXPECT_TEXT(Error, Line.Error);
+		EXPECT_FALSE(FCommandLine::Parse(Arguments, Error).IsSet());
+		EXPECT_TEXT(Error, Problem);
 	}
 }

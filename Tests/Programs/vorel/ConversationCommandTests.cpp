@@ -26,12 +26,6 @@ constexpr const char* Colours = R"({
 }
 )";
 
-struct FBadFile
-{
-	const char* Bytes;
-	const TCHAR* Clause;
-};
-
 class ConversationCommand : public FVorelProgramTest
 {
 protected:
@@ -83,7 +77,7 @@ TEST_F(ConversationCommand, ImportsListsShowsExportsAndDeletes)
 
 TEST_F(ConversationCommand, ABadFileNamesWhatIsWrongAndChangesNothing)
 {
-	const FBadFile Files[] = {
+	const std::pair<const char*, const TCHAR*> Files[] = {
 		{"{\n\"id\": \"a\",\n\"title\" oops\n}", TEXT("line 3 is not JSON")},
 		{"{\n\"id\": \"\xFF\"}", TEXT("line 2 is not JSON")},
 		{"{\n\"id\": \"a\n}", TEXT("line 2 is not JSON")},
@@ -105,10 +99,10 @@ TEST_F(ConversationCommand, ABadFileNamesWhatIsWrongAndChangesNothing)
 		{R"({"id":"a","title":"t","mode":"Ask","created":"2026-01-31T18:30:00Z","messages":[{"role":"user"}]})",
 			TEXT("\"messages[0].text\" must be a text")},
 	};
-	for (const FBadFile& File : Files)
+	for (const auto& [Bytes, Clause] : Files)
 	{
-		Folder.Write(TEXT("bad.json"), File.Bytes);
-		ExpectRefused("conversations import bad.json --data-dir=d", FString(TEXT("bad.json: ")) + File.Clause);
+		Folder.Write(TEXT("bad.json"), Bytes);
+		ExpectRefused("conversations import bad.json --data-dir=d", FString(TEXT("bad.json: ")) + Clause);
 	}
 	ExpectRefused("conversations import none.json --data-dir=d", TEXT("none.json: the file can't be read"));
 	EXPECT_TEXT(Print("conversations list --data-dir=d"), TEXT(""));

@@ -32,7 +32,7 @@ TEST_F(PlaySteps, SayWhatAUserCouldNotDo)
 	};
 	for (const auto& [Steps, Problem] : Rows)
 	{
-		const FProgramOutcome Outcome = Play((std::string("open \"Vorel AI\"\n") + Steps + "\n").c_str());
+		const FProgramOutcome Outcome = Play(std::string("open \"Vorel AI\"\n") + Steps + "\n");
 		EXPECT_EQ(Outcome.ExitStatus, 1) << Steps;
 		EXPECT_TRUE(Outcome.Errors.Contains(FString(TEXT(": ")) + Problem + TEXT("\n"))) << Steps << "\n" << Outcome.Errors;
 	}
@@ -42,8 +42,7 @@ TEST_F(PlaySteps, AFailureTellsWhatWasOnScreen)
 {
 	EXPECT_TRUE(Play("click \"a\"").Errors.EndsWith(TEXT("a.play:1: there is nothing to act on\n  no tab is open\n")));
 	// The port of a service that no machine offers any more.
-	Write("a.play", "open \"Vorel AI\"\nlogin \"Ada\"\n");
-	const FProgramOutcome Outcome = PlayFile(QStringLiteral("a.play"), {QStringLiteral("--service=http://127.0.0.1:9")});
+	const FProgramOutcome Outcome = Play("open \"Vorel AI\"\nlogin \"Ada\"\n", {"--service=http://127.0.0.1:9"});
 	EXPECT_EQ(Outcome.ExitStatus, 1);
 	EXPECT_TRUE(
 		Outcome.Errors.Contains(TEXT("a.play:2: the login came to nothing; why stands in the log\n  on screen was:\n    \"Welcome")))
@@ -68,8 +67,7 @@ TEST_F(PlaySteps, LoginTakesNoOtherPageForItsOwn)
 	std::thread Thread([&] { Server.listen_after_bind(); });
 	for (const char* const Before : {"", "click \"Privacy Policy\"\n"})
 	{
-		Write("a.play", (std::string("open \"Vorel AI\"\n") + Before + "click \"Log in\"\nlogin \"Ada\"\n").c_str());
-		const FProgramOutcome Outcome = PlayFile(QStringLiteral("a.play"), {Service});
+		const FProgramOutcome Outcome = Play(std::string("open \"Vorel AI\"\n") + Before + "click \"Log in\"\nlogin \"Ada\"\n", {Service});
 		EXPECT_TRUE(Outcome.Errors.Contains(TEXT("the login came to nothing"))) << Outcome.Errors;
 	}
 	Server.stop();

@@ -9,7 +9,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QHash>
 
 // The program in a folder of its own, as its users start it.
 class FVorelProgramTest : public testing::Test
@@ -31,38 +30,24 @@ protected:
 		return Run(Options + QStringList{QStringLiteral("--offscreen"), QStringLiteral("--data-dir=data"), QStringLiteral("--play"), File});
 	}
 
-	FProgramOutcome PlaySample(const char* Name, const QStringList& Options = {})
+	void PlaySample(const char* Name, const QStringList& Options = {})
 	{
-		return PlayFile(QStringLiteral(VOREL_PROJECT_FOLDER "/Docs/Samples/") + QLatin1String(Name), Options);
+		const FProgramOutcome Outcome = PlayFile(QStringLiteral(VOREL_PROJECT_FOLDER "/Docs/Samples/") + QLatin1String(Name), Options);
+		ASSERT_EQ(Outcome.ExitStatus, 0) << Outcome.Errors;
 	}
 
-	FProgramOutcome Play(const char* Text)
+	FProgramOutcome Play(const std::string& Text, const QStringList& Options = {})
 	{
 		Write("a.play", Text);
-		return PlayFile(QStringLiteral("a.play"));
+		return PlayFile(QStringLiteral("a.play"), Options);
 	}
 
-	void Write(const char* Name, const char* Text)
-	{
-		QFile File(GetPath(Name));
-		EXPECT_TRUE(File.open(QIODevice::WriteOnly) && File.write(Text) >= 0);
-	}
+	void Write(const char* Name, const std::string& Text) { Folder.Write(UTF8_TO_TCHAR(Name), Text); }
 
 	QByteArray Read(const char* Name)
 	{
-		QFile File(GetPath(Name));
-		EXPECT_TRUE(File.open(QIODevice::ReadOnly)) << Name;
-		return File.readAll();
-	}
-
-	QHash<QString, QByteArray> ReadFolder(const char* Name)
-	{
-		QHash<QString, QByteArray> Contents;
-		for (const QString& File : QDir(GetPath(Name)).entryList(QDir::Files))
-		{
-			Contents[File] = Read((QLatin1String(Name) + QLatin1Char('/') + File).toUtf8());
-		}
-		return Contents;
+		EXPECT_TRUE(Exists(Name)) << Name;
+		return QByteArray::fromStdString(Folder.Read(UTF8_TO_TCHAR(Name)));
 	}
 
 	bool Exists(const char* Name) { return QFile::exists(GetPath(Name)); }

@@ -45,12 +45,3 @@ inline constexpr FGuideQuestion HeldOutQuestions[] = {
 	{"GameplayAbilities", "A spell with mana cost and a cooldown"},
 	{"SlateWidgets", "How do I write a panel with a list of my own for the editor in C++?"},
 };
-
-/** Off the subject, though some of their words (world, file, return, write) are an engine programmer's daily bread. */
-inline constexpr const char* ForeignQuestions[] = {
-	"How long do I boil potatoes?",
-	"Who won the football world cup in 1990?",
-	"How do I file my tax return?",
-	"Write me a poem about the sea",
-	"Which train goes from Hamburg to Vienna on Sunday morning?",
-};

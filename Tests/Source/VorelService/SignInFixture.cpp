@@ -60,21 +60,11 @@ void FSignInTest::StartWithPasswords()
 	StartOnFile({.bPasswords = true});
 }
 
-std::string FSignInTest::GetDataFile() const
-{
-	return TCHAR_TO_UTF8(Folder.GetPath(TEXT("service.sqlite")));
-}
-
 FFields FSignInTest::MakeRequest(const FFields& Changes)
 {
 	return Change({{"response_type", "code"}, {"client_id", "vorel-editor"}, {"redirect_uri", Redirect}, {"code_challenge", Challenge},
 					  {"code_challenge_method", "S256"}, {"state", State}},
 		Changes);
-}
-
-httplib::Result FSignInTest::PostForm(const char* Path, const FFields& Fields, const httplib::Headers& Headers)
-{
-	return Http->Post(Path, Headers, Fields);
 }
 
 FFields FSignInTest::ReadForm(const std::string& Html)
@@ -118,11 +108,6 @@ std::pair<std::string, std::string> FSignInTest::GetTokens(const httplib::Result
 	EXPECT_EQ(Reply->status, 200) << Reply->body;
 	const json Body = json::parse(Reply->body);
 	return {Body.value("access_token", ""), Body.value("refresh_token", "")};
-}
-
-httplib::Result FSignInTest::Get(const char* Path, const std::string& AccessToken)
-{
-	return Http->Get(Path, {{"Authorization", "Bearer " + AccessToken}});
 }
 
 httplib::Result FSignInTest::AskIn(const char* Mode, const std::string& AccessToken)

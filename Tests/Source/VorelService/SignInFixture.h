@@ -23,12 +23,15 @@ protected:
 	// With the accounts "Ada" and "Grace", which have passwords.
 	void StartWithPasswords();
 
-	std::string GetDataFile() const;
+	std::string GetDataFile() const { return TCHAR_TO_UTF8(Folder.GetPath(TEXT("service.sqlite"))); }
 
 	// What the program asks for, with some fields in place of the usual ones.
 	static FFields MakeRequest(const FFields& Changes = {});
 	httplib::Result OpenLogin(const FFields& Request) { return Http->Get(httplib::append_query_params("/login", Request)); }
-	httplib::Result PostForm(const char* Path, const FFields& Fields, const httplib::Headers& Headers = {});
+	httplib::Result PostForm(const char* Path, const FFields& Fields, const httplib::Headers& Headers = {})
+	{
+		return Http->Post(Path, Headers, Fields);
+	}
 
 	// The hidden fields of the page's form.
 	static FFields ReadForm(const std::string& Html);
@@ -49,7 +52,7 @@ protected:
 	std::pair<std::string, std::string> GetTokens(const httplib::Result& Reply);
 
 	int GetUserStatus(const std::string& AccessToken) { return Get("/v1/user", AccessToken)->status; }
-	httplib::Result Get(const char* Path, const std::string& AccessToken);
+	httplib::Result Get(const char* Path, const std::string& Access) { return Http->Get(Path, {{"Authorization", "Bearer " + Access}}); }
 	httplib::Result AskIn(const char* Mode, const std::string& AccessToken);
 
 	FTempFolder Folder;
