@@ -267,7 +267,6 @@ TEST_F(Accessibility, ATextThatIsEditedIsReadAndItsChangesAreToldWhileSomebodyLi
 	QInputMethodEvent Composing(QStringLiteral("\u306b"), {});
 	QApplication::sendEvent(&Host.Widget, &Composing);
 	EXPECT_EQ(Text->text(0, 100), u"\u306b!\n\U0001F601") << "what is composed can be read, too";
-	FSlateApplication::Get().ClearKeyboardFocus(EFocusCause::Cleared);
 }
 
 #include "AccessibilityTest.moc"

@@ -131,6 +131,10 @@ TEST_F(FTextInput, InputMethodsLearnWhereTheCaretIs)
 	EXPECT_EQ(GetDesktop().TextInputArea->GetTopLeft(), FVector2D(0.0, Row));
 	ClearFocus();
 	EXPECT_FALSE(GetDesktop().TextInputArea.IsSet());
+	Focus();
+	EXPECT_TRUE(GetDesktop().TextInputArea.IsSet());
+	ShowText(Arguments());
+	EXPECT_FALSE(GetDesktop().TextInputArea.IsSet()) << "of one that is gone";
 }
 
 TEST_F(FTextInput, TheCaretBlinksAndNothingElseIsPainted)

@@ -53,7 +53,10 @@ SMultiLineEditableText::SMultiLineEditableText()
 {
 }
 
-SMultiLineEditableText::~SMultiLineEditableText() = default;
+SMultiLineEditableText::~SMultiLineEditableText()
+{
+	WithdrawInputArea();
+}
 
 void SMultiLineEditableText::Construct(const FArguments& InArgs)
 {
@@ -281,19 +284,24 @@ void SMultiLineEditableText::ReportInputArea(const FGeometry& TextGeometry) cons
 	}
 }
 
+void SMultiLineEditableText::WithdrawInputArea()
+{
+	if (InputArea.IsSet() && FSlateApplication::IsInitialized())
+	{
+		FSlateApplication::Get().SetTextInputArea(false, FSlateRect());
+	}
+	InputArea.Reset();
+}
+
 FReply SMultiLineEditableText::OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent)
 {
-	InputArea.Reset();
 	GetController().OnFocusReceived();
 	return FReply::Handled();
 }
 
 void SMultiLineEditableText::OnFocusLost(const FFocusEvent& InFocusEvent)
 {
-	if (InputArea.IsSet())
-	{
-		FSlateApplication::Get().SetTextInputArea(false, FSlateRect());
-	}
+	WithdrawInputArea();
 	GetController().OnFocusLost();
 }
 

@@ -116,6 +116,7 @@ private:
 	/** Scrolled: its origin is the text's top left corner. */
 	FGeometry GetTextGeometry(const FGeometry& AllottedGeometry) const;
 	void ReportInputArea(const FGeometry& TextGeometry) const;
+	void WithdrawInputArea();
 
 	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> TextAttribute;
 	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> HintAttribute;
@@ -129,6 +130,6 @@ private:
 	/** What the lines were made of; unset where they are to be made anew. */
 	mutable TOptional<FText> LaidOutText;
 	mutable TOptional<FText> LaidOutHint;
-	/** Where input methods were last told that the caret is; absolute. */
+	/** Where input methods were last told that the caret is; absolute. Unset while they are told nothing. */
 	mutable TOptional<FSlateRect> InputArea;
 };
