@@ -47,17 +47,6 @@ TEST_F(ServicePages, SayWhatWasWrongAndRepeatItHarmlessly)
 	EXPECT_EQ(FindAll(Reply->body, "autocomplete=\"([a-z-]+)\""), (std::vector<std::string>{"username", "current-password"}));
 }
 
-TEST_F(ServicePages, MayRunNothingAndSendFormsHomeAlone)
-{
-	const std::string Policy = Service.Get("/login")->get_header_value("Content-Security-Policy");
-	EXPECT_EQ(Policy.find("default-src 'none'; style-src 'sha256-"), 0u) << Policy;
-	for (const char* const Rule : {"form-action 'self';", "base-uri 'none'", "frame-ancestors 'none'"})
-	{
-		EXPECT_NE(Policy.find(Rule), std::string::npos) << Policy;
-	}
-	EXPECT_EQ(Policy.find("unsafe"), std::string::npos);
-}
-
 TEST_F(ServicePages, AllThatIsDescribedIsThere)
 {
 	const nlohmann::json Description = nlohmann::json::parse(Fetch("/openapi.json"));

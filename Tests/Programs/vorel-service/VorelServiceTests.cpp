@@ -96,10 +96,6 @@ TEST_F(VorelService, EndsWithALineWhereItCantGoOn)
 		{"accounts add", "accounts add takes NAME, see --help"},
 		{"accounts add ada secret", "accounts add takes NAME, see --help"},
 		{"--data-dir /proc/none accounts list", "The folder for data /proc/none can't be made: No such file or directory."},
-		{"--public-url https://a.example/path --data-dir a",
-			"The public address has to be a scheme, a host and a port alone, like https://vorel.example.org."},
-		{"--listen 0.0.0.0:0 --data-dir a",
-			"A service that listens at all addresses has to know the public address by which it is reached."},
 	};
 	for (const auto& [Arguments, Error] : Rows)
 	{

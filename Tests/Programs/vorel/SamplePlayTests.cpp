@@ -93,20 +93,15 @@ int CountPixels(const QImage& Image, const QRect& Area, const QColor& Color)
 TEST_F(SamplePlay, CopiesEachBlockOfCodeAsTheGuideHasIt)
 {
 	PlaySample("code-and-copy.play");
-	const std::tuple<const char*, const char*, int> Rows[] = {
-		{"code-and-copy/AutomationTests-1.txt", "AutomationTests", 0},
-		{"code-and-copy/AutomationTests-2.txt", "AutomationTests", 3},
-		{"code-and-copy/SlateWidgets-1.txt", "SlateWidgets", 0},
-		{"code-and-copy/SlateWidgets-2.txt", "SlateWidgets", 1},
-		{"code-and-copy/SlateWidgets-3.txt", "SlateWidgets", 2},
-		{"code-and-copy/Timers-1.txt", "Timers", 0},
-		{"code-and-copy/Timers-2.txt", "Timers", 1},
-		{"code-and-copy/Timers-3.txt", "Timers", 2},
-		{"code-and-copy/Timers-4.txt", "Timers", 3},
-	};
-	for (const auto& [Copied, Article, Number] : Rows)
+	const std::pair<std::string, std::vector<int>> Rows[] = {
+		{"AutomationTests", {0, 3}}, {"SlateWidgets", {0, 1, 2}}, {"Timers", {0, 1, 2, 3}}};
+	for (const auto& [Article, Blocks] : Rows)
 	{
-		EXPECT_EQ(Read(Copied).toStdString(), ReadGuideBlock(Article, Number)) << Copied;
+		for (std::size_t Index = 0; Index < Blocks.size(); ++Index)
+		{
+			const std::string Copied = "code-and-copy/" + Article + '-' + std::to_string(Index + 1) + ".txt";
+			EXPECT_EQ(Read(Copied.c_str()).toStdString(), ReadGuideBlock(Article.c_str(), Blocks[Index])) << Copied;
+		}
 	}
 
 	const QImage Picture(GetPath("code-and-copy/1-colors.png"));

@@ -14,14 +14,9 @@
 class FVorelProgramTest : public testing::Test
 {
 protected:
-	FProgramOutcome Run(const QStringList& Arguments, const QString& Display = QString())
+	FProgramOutcome Run(const QStringList& Arguments)
 	{
-		FProgramRun Program{FProgramRun::FindProgram(QStringLiteral("vorel")), Arguments, ToQString(Folder.GetPath())};
-		if (!Display.isEmpty())
-		{
-			Program.Environment.insert(QStringLiteral("DISPLAY"), Display);
-		}
-		return Program.Run();
+		return FProgramRun{FProgramRun::FindProgram(QStringLiteral("vorel")), Arguments, GetPath("")}.Run();
 	}
 
 	// Each run of a test finds what the ones before left in the data folder.

@@ -6,39 +6,28 @@
 
 using VorelProgram = FVorelProgramTest;
 
-namespace
-{
-void ExpectRefused(const FProgramOutcome& Outcome, const FString& Line)
-{
-	EXPECT_EQ(Outcome.ExitStatus, 2);
-	EXPECT_TEXT(Outcome.Errors, Line + TEXT("\n"));
-	EXPECT_TEXT(Outcome.Output, TEXT(""));
-}
-} // namespace
-
 TEST_F(VorelProgram, TellsAboutItselfWithoutADisplay)
 {
 	FProgramRun::ExpectShell("vorel", "$P --help | head -1; $P --version | cut -c -6", "Usage: vorel [options]\nvorel \n", 0);
 }
 
-TEST_F(VorelProgram, NeedsADisplayOrToldOffscreen)
+TEST_F(VorelProgram, EndsWithALineWhereItCantGoOn)
 {
-	ExpectRefused(Run({}), TEXT("vorel: there is no display; without one use --offscreen"));
-	ExpectRefused(Run({}, QStringLiteral(":9999")), TEXT("vorel: the display can't be opened; without one use --offscreen"));
-}
-
-TEST_F(VorelProgram, RefusesWhatItCantRead)
-{
-	ExpectRefused(Play("", {"--size=1"}), TEXT("vorel: --size needs a width and a height from 1 to 8192, like 1000x800"));
-	ExpectRefused(PlayFile("no.play"), TEXT("no.play: No such file or directory"));
-	ExpectRefused(Run({"--offscreen", "--data-dir", "/proc/none/data"}),
-		TEXT("vorel: The folder for data /proc/none/data can't be made: No such file or directory."));
-}
-
-TEST_F(VorelProgram, ReadsAPlayFileToItsEndBeforeTheFirstStep)
-{
-	ExpectRefused(Play("clipboard \"c.txt\"\n\nclick Send\n"), TEXT("a.play:3: a text in double quotes is missing"));
-	EXPECT_FALSE(Exists("c.txt"));
+	Write("a.play", "clipboard \"c.txt\"\n\nclick Send\n");
+	const std::pair<const char*, const char*> Rows[] = {
+		{"$P", "vorel: there is no display; without one use --offscreen"},
+		{"DISPLAY=:9999 $P", "vorel: the display can't be opened; without one use --offscreen"},
+		{"$P --offscreen --size=1", "vorel: --size needs a width and a height from 1 to 8192, like 1000x800"},
+		{"$P --offscreen --play no.play", "no.play: No such file or directory"},
+		{"$P --offscreen --data-dir /proc/none/data",
+			"vorel: The folder for data /proc/none/data can't be made: No such file or directory."},
+		{"$P --offscreen --data-dir data --play a.play", "a.play:3: a text in double quotes is missing"},
+	};
+	for (const auto& [Command, Line] : Rows)
+	{
+		FProgramRun::ExpectShell("vorel", Command, std::string(Line) + "\n", 2, GetPath(""));
+	}
+	EXPECT_FALSE(Exists("c.txt")) << "a play file is read to its end before the first step";
 }
 
 TEST_F(VorelProgram, AFailedStepEndsIt)

@@ -94,7 +94,10 @@ TEST_F(FLocalServiceTest, ListsItsModelAndServesItsPages)
 		EXPECT_EQ(Page->get_header_value("Cache-Control"), "no-store") << Path;
 		EXPECT_EQ(Page->get_header_value("X-Frame-Options"), "DENY") << Path;
 		EXPECT_EQ(Page->get_header_value("Referrer-Policy"), "same-origin") << Path;
-		EXPECT_NE(Page->get_header_value("Content-Security-Policy").find("frame-ancestors 'none'"), std::string::npos) << Path;
+		const std::string Policy = Page->get_header_value("Content-Security-Policy");
+		EXPECT_EQ(Policy.find("default-src 'none'; style-src 'sha256-"), 0u) << Policy;
+		EXPECT_TRUE(Policy.ends_with("'; img-src data:; form-action 'self'; base-uri 'none'; frame-ancestors 'none'")) << Policy;
+		EXPECT_EQ(Policy.find("unsafe"), std::string::npos) << Policy;
 		const httplib::Result Parts = Http->Get(Path, {{"Range", "bytes=0-3,0-3"}});
 		EXPECT_EQ(Parts->status, 200) << Path;
 		EXPECT_EQ(Parts->body.size(), Page->body.size()) << Path;
