@@ -103,11 +103,12 @@ TEST(FAnswerReaderTest, TakesWhatCompatibleServersSend)
 
 TEST(FAnswerReaderTest, FollowsTheGrammarOfEvents)
 {
-	const std::string Json = R"({"choices":[{"delta":{"content":"Hi"}}]})";
+	const std::string Head = R"({"choices":[{"delta":)";
+	const std::string Tail = R"({"content":"Hi"}}]})";
+	const std::string Json = Head + Tail;
 	Expect({
-		{"\xEF\xBB\xBF: hi\r\ndata:" + Json + "\r\n\r\ndata: [DONE]\r\n\r\n", TEXT("Hi complete")},
-		{"data: " + Json + "\r\rdata: " + Json + "\r\rdata: [DONE]\r\r", TEXT("HiHi complete")},
-		{"data: " + Json.substr(0, 12) + "\ndata:" + Json.substr(12) + "\n\n\n\n" + Done, TEXT("Hi complete")},
+		{"\xEF\xBB\xBF: hi\r\ndata: " + Head + "\r\ndata:" + Tail + "\r\n\r\ndata: [DONE]\r\n\r\n", TEXT("Hi complete")},
+		{"data: " + Head + "\rdata: " + Tail + "\r\rdata: " + Json + "\r\r\r\rdata: [DONE]\r\r", TEXT("HiHi complete")},
 		{"id: 7\nretry: 10\nDATA: no\ndata: " + Json + "\n\n\xEF\xBB\xBF" + Hi + Done, TEXT("Hi complete")},
 		{"event: error\n\n" + Hi + "event: error\ndata: {\"error\":\"No.\"}\n\n",
 			TEXT("Hi failed: The assistant reported an error. It says: No.")},
