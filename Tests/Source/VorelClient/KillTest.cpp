@@ -20,7 +20,7 @@
 
 namespace
 {
-constexpr int32 PiecesOfAnAnswer = 400;
+constexpr int32 PiecesOfAnAnswer = 1500;
 
 // More rounds than fit into a test run are asked for by the environment.
 int32 GetRounds()

@@ -2,6 +2,7 @@
 
 // Qt's headers come before the engine's, whose macros they don't survive.
 #include <QRegularExpression>
+#include <QUrl>
 
 #include "LoginFixture.h"
 
@@ -27,13 +28,19 @@ protected:
 		{
 			return ServiceTime.load();
 		};
-		std::string Error;
-		Server = FLocalService::Start(ServiceOptions, Error);
-		EXPECT_TRUE(Server) << Error;
+		StartServer();
 		Options.Issuer = FromUtf8(Server->GetAddress());
+		ServiceOptions.Port = QUrl(QString::fromStdString(Server->GetAddress())).port();
 	}
 
 	~FLoginServiceTest() override { EndService(); }
+
+	void StartServer()
+	{
+		std::string Error;
+		Server = FLocalService::Start(ServiceOptions, Error);
+		EXPECT_TRUE(Server) << Error;
+	}
 
 	QByteArray SendToServer(const QByteArray& Method, const std::string& Target, const QByteArray& Headers, const QByteArray& Body = {})
 	{
@@ -104,7 +111,10 @@ TEST_F(FLoginServiceTest, BadInputLeavesThePanelIdleAndAnotherTryWorks)
 {
 	OpenPage();
 	const QByteArray Good = FillInPage();
+	EXPECT_TRUE(Browse("/favicon.ico").startsWith("HTTP/1.1 404 "));
+	EXPECT_TRUE(Browse(QByteArray(Good).replace("state=", "state=x")).contains("out of date"));
 	Browse(Good);
+	EXPECT_EQ(Browse(Good), "");
 	EXPECT_TEXT(WaitForEnd(), SignedIn);
 	EXPECT_EQ(AskForUser(GetToken()), "200");
 	LogOut();
@@ -132,6 +142,18 @@ TEST_F(FLoginServiceTest, BadInputLeavesThePanelIdleAndAnotherTryWorks)
 	ServiceTime += 120;
 	Browse(Late);
 	ExpectLoggedOut(Refused);
+
+	bBrowser = false;
+	Service().StartLogin();
+	EXPECT_TRUE(WaitForEnd().StartsWith(TEXT("No browser could be opened")));
+	bBrowser = true;
+	OpenPage();
+	const QByteArray Unreached = FillInPage();
+	Server.reset();
+	Browse(Unreached);
+	EXPECT_TRUE(WaitForEnd().Contains(TEXT("can't be reached. Check the network")));
+	StartServer();
+	LogInOnPage();
 }
 
 TEST_F(FLoginServiceTest, RenewsWhatTheServerNoLongerTakes)
